@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "canvas/MarkerDabs.h"
+
+#include "imaging/SeedSquare.h"
+
+#include <QPen>
+
+namespace markers {
+
+Seeds seedsOf(const QList<QGraphicsItem *> &items, QSize size)
+{
+    Seeds seeds;
+    for (const QGraphicsItem *item : items) {
+        if (const auto *dab = qgraphicsitem_cast<const QGraphicsRectItem *>(item))
+            appendSeedSquare(dab->rect(), size, seeds.keep);
+        else if (const auto *disc = qgraphicsitem_cast<const QGraphicsEllipseItem *>(item))
+            if (disc->pen().color() != QColor(blueColour))
+                appendSeedSquare(disc->rect(), size, seeds.remove);
+    }
+    return seeds;
+}
+
+} // namespace markers

@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "canvas/ZelGraphicsView.h"
+
+#include "canvas/MarkerDabs.h"
+#include "canvas/SettingsKeys.h"
+#include "imaging/Truncation.h"
+
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QResizeEvent>
+#include <QSettings>
+
+namespace {
+
+// The pencils are drawn so that their tip lies there at this width.
+constexpr int pencilWidth = 8;
+constexpr QPoint pencilTip(4, 21);
+constexpr int penWidth = 32;
+constexpr QPoint penTip(0, 26);
+
+double deviationFromOne(double factor) { return factor > 1.0 ? factor : 1.0 / factor; }
+
+/// By how much the view has to scale along one axis to keep the picture's apparent size.
+double resizeFactor(double shown, double newLength, double oldLength)
+{
+    if (newLength > shown)
+        return newLength / oldLength;
+    return newLength >= oldLength ? 1.0 : newLength / oldLength;
+}
+
+} // namespace
+
+ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent) {}
+
+ZelGraphicsView::~ZelGraphicsView() { discardErasedDabs(); }
+
+void ZelGraphicsView::SetTool(DrawingTools tool)
+{
+    currentTool = tool;
+    removeBrushOutline();
+    viewport()->setCursor(cursorOf(tool));
+}
+
+QCursor ZelGraphicsView::cursorOf(DrawingTools tool) const
+{
+    switch (tool) {
+    case ToolPen:
+        return pixmapCursor(":/cursors/pen_cursor.png", penWidth, penTip);
+    case ToolEraser:
+        return pixmapCursor(":/icons/eraser.ico", eraserSize, QPoint(eraserSize / 2, eraserSize / 2));
+    case ToolKeepMarker:
+        return pixmapCursor(":/icons/greenpencil.PNG", pencilWidth, pencilTip);
+    case ToolRemoveMarker:
+        return pixmapCursor(":/icons/redpencilv.PNG", pencilWidth, pencilTip);
+    case ToolKeepBrush:
+    case ToolRemoveBrush:
+    case ToolBlueMarker:
+        return Qt::BlankCursor; // the brush circle takes its place
+    case ToolHand:
+        return Qt::OpenHandCursor;
+    case ToolNone:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
+QCursor ZelGraphicsView::pixmapCursor(const QString &path, int width, QPoint hotSpot) const
+{
+    // Loading as an image gets the largest drawing there is; the cursor is then as sharp as the screen allows.
+    const qreal ratio = devicePixelRatioF();
+    QPixmap drawing(path);
+    drawing.setDevicePixelRatio(1.0);
+    QPixmap pixmap = width > 0 ? drawing.scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation) : QPixmap();
+    if (pixmap.isNull())
+        return Qt::ArrowCursor;
+    pixmap.setDevicePixelRatio(ratio);
+    return QCursor(pixmap, hotSpot.x(), hotSpot.y());
+}
+
+void ZelGraphicsView::updatetoolssettings()
+{
+    if (settings == nullptr)
+        return;
+    const auto sizeOf = [this](const settings::Key &key) {
+        return static_cast<unsigned char>(settings->value(key.name, key.viewDefault).toInt());
+    };
+    const bool sameSize = settings->value(settings::sameSize.name, settings::sameSize.viewDefault).toBool();
+    keepMarkerSize = sizeOf(settings::keepMarkerSize);
+    if (sameSize) {
+        removeMarkerSize = keepBrushSize = removeBrushSize = eraserSize = keepMarkerSize;
+        return; // the Blue marker and the opacity keep what they had
+    }
+    removeMarkerSize = sizeOf(settings::removeMarkerSize);
+    keepBrushSize = sizeOf(settings::keepBrushSize);
+    removeBrushSize = sizeOf(settings::removeBrushSize);
+    eraserSize = sizeOf(settings::eraserSize);
+    blueMarkerSize = sizeOf(settings::blueMarkerSize);
+    markerOpacity = settings->value(settings::maskOpacity.name, settings::maskOpacity.viewDefault).toDouble();
+}
+
+void ZelGraphicsView::updateellipse(int size)
+{
+    if (brushOutline == nullptr)
+        return;
+    const QRect square = squareAround(mapFromScene(brushOutline->rect().center()), size / 2);
+    if (scene() != nullptr && scene()->sceneRect().contains(square))
+        brushOutline->setRect(square);
+}
+
+void ZelGraphicsView::mousePressEvent(QMouseEvent *event)
+{
+    mousePressed = true;
+    if (scene() == nullptr)
+        return;
+    switch (currentTool) {
+    case ToolPen:
+        PenMousePressed(event);
+        break;
+    case ToolEraser:
+        EraserMousePressed(event);
+        break;
+    case ToolKeepBrush:
+        KeepBrushMousePressed(event);
+        break;
+    case ToolRemoveBrush:
+        RemoveBrushMousePressed(event);
+        break;
+    case ToolHand:
+        HandMousePressed(event);
+        break;
+    default: // a marker's first dab is laid by the first move
+        break;
+    }
+    QGraphicsView::mousePressEvent(event);
+}
+
+void ZelGraphicsView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (scene() == nullptr)
+        return;
+    switch (currentTool) {
+    case ToolPen:
+        PenMouseMoved(event);
+        break;
+    case ToolKeepMarker:
+        KeepMarkerMouseMoved(event);
+        break;
+    case ToolRemoveMarker:
+        RemoveMarkerMouseMoved(event);
+        break;
+    case ToolKeepBrush:
+        KeepBrushMouseMoved(event);
+        break;
+    case ToolRemoveBrush:
+        RemoveBrushMouseMoved(event);
+        break;
+    case ToolHand:
+        HandMouseMoved(event);
+        break;
+    case ToolBlueMarker:
+        BlueMarkerMouseMoved(event);
+        break;
+    default: // the eraser erases on a press only
+        break;
+    }
+    QGraphicsView::mouseMoveEvent(event);
+}
+
+void ZelGraphicsView::mouseReleaseEvent(QMouseEvent *event)
+{
+    mousePressed = false;
+    if (scene() == nullptr)
+        return;
+    if (currentTool == ToolPen)
+        PenMouseReleased(event);
+    else if (currentTool == ToolHand)
+        HandMouseReleased(event);
+    QGraphicsView::mouseReleaseEvent(event);
+}
+
+void ZelGraphicsView::leaveEvent(QEvent * /*event*/) { removeBrushOutline(); }
+
+void ZelGraphicsView::resizeEvent(QResizeEvent *event)
+{
+    if (scene() == nullptr)
+        return;
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    const QSizeF newSize = event->size();
+    const QSizeF oldSize = event->oldSize();
+    if (!newSize.isEmpty() && !oldSize.isEmpty()) { // without an old size there is nothing to keep in step with
+        const QRectF shown = transform().mapRect(scene()->sceneRect());
+        const double sx = resizeFactor(shown.width(), newSize.width(), oldSize.width());
+        const double sy = resizeFactor(shown.height(), newSize.height(), oldSize.height());
+        const double factor = deviationFromOne(sx) > deviationFromOne(sy) ? sx : sy;
+        scale(factor, factor);
+    }
+    QGraphicsView::resizeEvent(event);
+}
+
+QRect ZelGraphicsView::squareAround(QPoint viewPosition, int half) const
+{
+    const QPointF first = mapToScene(viewPosition - QPoint(half, half));
+    const QPointF second = mapToScene(viewPosition + QPoint(half, half));
+    return {truncateToInt(first.x()), truncateToInt(first.y()), truncateToInt(second.x() - first.x()),
+            truncateToInt(second.y() - first.y())};
+}

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "canvas/DrawingTools.h"
+#include "canvas/ItemPointer.h"
+
+#include <QGraphicsView>
+#include <QMutex>
+#include <QPoint>
+
+#include <vector>
+
+class QSettings;
+class QUndoStack;
+
+/// The canvas: shows a scene and turns mouse input into actions of the tool in use.
+///
+/// Marker dabs it lays into the scene itself; for brushes and the hand tool it only computes the geometry and
+/// emits signals. It owns the dabs that the eraser took off a scene; the scene's items it only borrows.
+class ZelGraphicsView : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    explicit ZelGraphicsView(QWidget *parent = nullptr);
+    ~ZelGraphicsView() override;
+
+    /// Selects a tool and its cursor; takes the brush circle off the scene.
+    void SetTool(DrawingTools tool);
+
+    /// Gives the brush circle, if it is shown, another size in view pixels about its centre.
+    void updateellipse(int size);
+
+    /// Reads the tool sizes and the marker opacity anew from `settings`.
+    void updatetoolssettings();
+
+    /// Deletes the dabs that the eraser took off a scene. An undo command that still names one finds it gone.
+    void discardErasedDabs();
+
+    QSettings *settings = nullptr;   ///< where the sizes are read from; not owned, may be null
+    QUndoStack *undoStack = nullptr; ///< takes the commands of the markers; not owned, may be null
+
+signals:
+    void ProgressStage(char *msg);
+    void KeepBrush(QRect rect);
+    void RemoveBrush(QRect rect);
+    void AnyBrush(QRect rect, bool now);
+    void HandTool(QPoint, QPoint);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void PenMousePressed(QMouseEvent *event);
+    void PenMouseMoved(QMouseEvent *event);
+    void PenMouseReleased(QMouseEvent *event);
+    void EraserMousePressed(QMouseEvent *event);
+    void KeepMarkerPressEvent(QMouseEvent *event);
+    void KeepMarkerMouseMoved(QMouseEvent *event);
+    void KeepMarkerMouseReleased(QMouseEvent *event);
+    void RemoveMarkerPressEvent(QMouseEvent *event);
+    void RemoveMarkerMouseMoved(QMouseEvent *event);
+    void RemoveMarkerMouseReleased(QMouseEvent *event);
+    void BlueMarkerMouseMoved(QMouseEvent *event);
+    void KeepBrushMousePressed(QMouseEvent *event);
+    void KeepBrushMouseMoved(QMouseEvent *event);
+    void KeepBrushMouseReleased(QMouseEvent *event);
+    void RemoveBrushMousePressed(QMouseEvent *event);
+    void RemoveBrushMouseMoved(QMouseEvent *event);
+    void RemoveBrushMouseReleased(QMouseEvent *event);
+    void HandMousePressed(QMouseEvent *event);
+    void HandMouseMoved(QMouseEvent *event);
+    void HandMouseReleased(QMouseEvent *event);
+
+    [[nodiscard]] QCursor cursorOf(DrawingTools tool) const;
+    [[nodiscard]] QCursor pixmapCursor(const QString &path, int width, QPoint hotSpot) const;
+    [[nodiscard]] QRect squareAround(QPoint viewPosition, int half) const;
+    [[nodiscard]] bool acceptsDabAt(QPointF scenePosition) const;
+    void pushMarkerCommand(QGraphicsItem *dab);
+    void pressBrush(QMouseEvent *event, int size);
+    void moveBrush(QMouseEvent *event, int size);
+    bool showBrushOutline(const QRect &square);
+    void removeBrushOutline();
+
+    DrawingTools currentTool = ToolNone;
+    ItemPointer<QGraphicsPathItem> penPathItem;
+    ItemPointer<QGraphicsEllipseItem> brushOutline;
+    QMutex toolMutex;
+    QPoint lastMousePos;
+    unsigned char keepMarkerSize = 0;
+    unsigned char removeMarkerSize = 0;
+    unsigned char keepBrushSize = 0;
+    unsigned char removeBrushSize = 0;
+    unsigned char eraserSize = 0;
+    unsigned char blueMarkerSize = 0;
+    double markerOpacity = 0.0;
+    bool mousePressed = false;
+    std::vector<ItemPointer<QGraphicsItem>> m_erasedDabs;
+};

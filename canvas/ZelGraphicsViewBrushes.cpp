@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "canvas/MarkerDabs.h"
+#include "canvas/ZelGraphicsView.h"
+
+#include <QMouseEvent>
+
+void ZelGraphicsView::KeepBrushMouseReleased(QMouseEvent * /*event*/) {}
+void ZelGraphicsView::RemoveBrushMouseReleased(QMouseEvent * /*event*/) {}
+
+void ZelGraphicsView::KeepBrushMousePressed(QMouseEvent *event) { pressBrush(event, keepBrushSize); }
+void ZelGraphicsView::RemoveBrushMousePressed(QMouseEvent *event) { pressBrush(event, removeBrushSize); }
+void ZelGraphicsView::KeepBrushMouseMoved(QMouseEvent *event) { moveBrush(event, keepBrushSize); }
+
+void ZelGraphicsView::RemoveBrushMouseMoved(QMouseEvent *event) { moveBrush(event, removeBrushSize); }
+
+void ZelGraphicsView::pressBrush(QMouseEvent *event, int size)
+{
+    const QRect square = squareAround(event->position().toPoint(), size >> 1);
+    if (scene()->sceneRect().contains(square))
+        emit AnyBrush(square, true);
+}
+
+void ZelGraphicsView::moveBrush(QMouseEvent *event, int size)
+{
+    const QPoint position = event->position().toPoint();
+    const QRect square = squareAround(position, size >> 1);
+    showBrushOutline(square);
+    if (!mousePressed)
+        return;
+    emit AnyBrush(square, false); // unlike a press, a move counts even where the square leaves the scene
+    lastMousePos = position;
+}
+
+bool ZelGraphicsView::showBrushOutline(const QRect &square)
+{
+    if (!scene()->sceneRect().contains(square)) {
+        removeBrushOutline();
+        return false;
+    }
+    if (brushOutline == nullptr) {
+        brushOutline = scene()->addEllipse(square);
+        brushOutline->setZValue(markers::brushOutlineZ);
+    }
+    brushOutline->setRect(square);
+    return true;
+}
+
+void ZelGraphicsView::removeBrushOutline()
+{
+    delete brushOutline.get(); // takes it off its scene as well
+    brushOutline = nullptr;
+}
+
+void ZelGraphicsView::HandMousePressed(QMouseEvent *event)
+{
+    lastMousePos = event->position().toPoint();
+    viewport()->setCursor(Qt::ClosedHandCursor);
+}
+
+void ZelGraphicsView::HandMouseMoved(QMouseEvent *event)
+{
+    if (!mousePressed)
+        return;
+    const QPoint position = event->position().toPoint();
+    emit HandTool(mapToScene(lastMousePos).toPoint(), mapToScene(position).toPoint());
+    lastMousePos = position;
+}
+
+void ZelGraphicsView::HandMouseReleased(QMouseEvent * /*event*/) { viewport()->setCursor(Qt::OpenHandCursor); }

@@ -1,0 +1,31 @@
+# One place for what every target of the project is compiled with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+# Linked by every target of ours, and by nothing that is installed.
+add_library(ornevo_settings INTERFACE)
+target_compile_options(ornevo_settings INTERFACE
+    # The results are promised to the bit: no compiler may fuse a multiplication and an addition.
+    -ffp-contract=off
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+    $<$<BOOL:${ORNEVO_WERROR}>:-Werror>)
+if(ORNEVO_SANITIZE)
+    target_compile_options(ornevo_settings INTERFACE
+        -fsanitize=${ORNEVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(ornevo_settings INTERFACE -fsanitize=${ORNEVO_SANITIZE})
+endif()
+
+# String-based connections and slots bound by name need no narrowing of Qt, but casts must be visible.
+target_compile_definitions(ornevo_settings INTERFACE QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "imaging/BackgroundLayer.h"
+
+#include <QColor>
+#include <QPainter>
+
+namespace {
+
+QPixmap colourOverBoard(QSize size, QRgb colour, const QImage &board)
+{
+    if (board.isNull() || size.isEmpty())
+        return {};
+    if (qAlpha(colour) == 255) { // nothing of the board would show
+        QPixmap layer(size);
+        layer.fill(QColor(colour));
+        return layer;
+    }
+    QImage layer = board.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                       .convertToFormat(QImage::Format_ARGB32);
+    if (layer.isNull())
+        return {};
+    // One row of the colour, drawn again and again: the blending is that of a whole picture of it.
+    QImage row(size.width(), 1, QImage::Format_ARGB32);
+    row.fill(colour);
+    QPainter painter(&layer);
+    for (int y = 0; y < size.height(); ++y)
+        painter.drawImage(0, y, row);
+    painter.end();
+    return QPixmap::fromImage(std::move(layer));
+}
+
+} // namespace
+
+QPixmap backgroundLayer(QSize size, QRgb colour, const QImage &board, const QImage &picture)
+{
+    if (picture.isNull())
+        return colourOverBoard(size, colour, board);
+    return QPixmap::fromImage(picture).scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}

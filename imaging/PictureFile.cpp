@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "imaging/PictureFile.h"
+
+#include <QImageReader>
+#include <QImageWriter>
+#include <QSaveFile>
+
+namespace {
+
+constexpr int allocationLimitInMiB = 1024;
+
+} // namespace
+
+QImage readPicture(const QString &path)
+{
+    // Qt's own limit refuses what today's cameras make.
+    QImageReader::setAllocationLimit(allocationLimitInMiB);
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    QImage picture;
+    return reader.read(&picture) ? picture : QImage();
+}
+
+bool writePicture(const QImage &picture, const QString &path, const QByteArray &format)
+{
+    if (picture.isNull() || path.isEmpty() || !QImageWriter::supportedImageFormats().contains(format.toLower()))
+        return false;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QImageWriter writer(&file, format);
+    writer.setQuality(100);
+    if (!writer.write(picture)) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
+}

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+/// \file
+/// The filters of the image library, a row at a time: inner loops without a branch on position, so that whole
+/// planes, strips and single rows share them. Not part of the library's interface.
+namespace rowfilters {
+
+/// Half of a symmetric kernel: the weight of the centre, then of the offsets 1 .. radius on both sides.
+using HalfKernel = std::span<const double>;
+
+/// A few consecutive rows of a picture, addressed by their row number; an old row makes room for a new one.
+template <typename T> class RowRing
+{
+public:
+    RowRing(int width, int rows)
+        : m_width(static_cast<std::size_t>(width)), m_rows(rows), m_data(m_width * static_cast<std::size_t>(rows))
+    {
+    }
+    T *row(int y) { return m_data.data() + static_cast<std::size_t>(y % m_rows) * m_width; }
+
+private:
+    std::size_t m_width;
+    int m_rows;
+    std::vector<T> m_data;
+};
+
+/// Horizontal pass over `in`: centre first, then the pairs outward. Writes out[radius .. width - radius - 1].
+void smoothRow(const std::uint8_t *in, int width, HalfKernel half, double *out);
+
+/// Vertical pass for row `y`, cut to a byte after the centre and after every pair. Columns `from` .. `to` - 1.
+void cutAtEachTap(RowRing<double> &rows, int y, HalfKernel half, int from, int to, std::uint8_t *out);
+
+/// Vertical pass for row `y`, summed in doubles and cut once. Columns `from` .. `to` - 1.
+void cutOnce(RowRing<double> &rows, int y, HalfKernel half, int from, int to, std::uint8_t *out);
+
+/// Low byte of the truncated Sobel gradient magnitude of the middle row; the first and last column become 0.
+void sobelMagnitudeRow(const std::uint8_t *above, const std::uint8_t *mid, const std::uint8_t *below, int width,
+                       std::uint8_t *out);
+
+} // namespace rowfilters
