@@ -68,7 +68,7 @@ QCursor ZelGraphicsView::cursorOf(DrawingTools tool) const
 
 QCursor ZelGraphicsView::pixmapCursor(const QString &path, int width, QPoint hotSpot) const
 {
-    // Loading as an image gets the largest drawing there is; the cursor is then as sharp as the screen allows.
+    // Scaled in device pixels, so that the cursor is as sharp as the screen allows.
     const qreal ratio = devicePixelRatioF();
     QPixmap drawing(path);
     drawing.setDevicePixelRatio(1.0);

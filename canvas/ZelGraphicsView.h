@@ -85,7 +85,7 @@ private:
     void pushMarkerCommand(QGraphicsItem *dab);
     void pressBrush(QMouseEvent *event, int size);
     void moveBrush(QMouseEvent *event, int size);
-    bool showBrushOutline(const QRect &square);
+    void showBrushOutline(const QRect &square);
     void removeBrushOutline();
 
     DrawingTools currentTool = ToolNone;

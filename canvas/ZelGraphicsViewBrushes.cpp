@@ -11,9 +11,15 @@ void ZelGraphicsView::RemoveBrushMouseReleased(QMouseEvent * /*event*/) {}
 
 void ZelGraphicsView::KeepBrushMousePressed(QMouseEvent *event) { pressBrush(event, keepBrushSize); }
 void ZelGraphicsView::RemoveBrushMousePressed(QMouseEvent *event) { pressBrush(event, removeBrushSize); }
+
 void ZelGraphicsView::KeepBrushMouseMoved(QMouseEvent *event) { moveBrush(event, keepBrushSize); }
 
-void ZelGraphicsView::RemoveBrushMouseMoved(QMouseEvent *event) { moveBrush(event, removeBrushSize); }
+void ZelGraphicsView::RemoveBrushMouseMoved(QMouseEvent *event)
+{
+    moveBrush(event, removeBrushSize);
+    if (brushOutline != nullptr)
+        scene()->update();
+}
 
 void ZelGraphicsView::pressBrush(QMouseEvent *event, int size)
 {
@@ -33,18 +39,17 @@ void ZelGraphicsView::moveBrush(QMouseEvent *event, int size)
     lastMousePos = position;
 }
 
-bool ZelGraphicsView::showBrushOutline(const QRect &square)
+void ZelGraphicsView::showBrushOutline(const QRect &square)
 {
     if (!scene()->sceneRect().contains(square)) {
         removeBrushOutline();
-        return false;
+        return;
     }
     if (brushOutline == nullptr) {
         brushOutline = scene()->addEllipse(square);
         brushOutline->setZValue(markers::brushOutlineZ);
     }
     brushOutline->setRect(square);
-    return true;
 }
 
 void ZelGraphicsView::removeBrushOutline()

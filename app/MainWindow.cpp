@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "ui_MainWindow.h"
+
+#include <QActionGroup>
+
+// Outside any namespace, as the macro wants it.
+static void registerResources() { Q_INIT_RESOURCE(ornevo); }
+
+namespace {
+
+constexpr int undoLimit = 200;
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_unique<Ui_MainWindow>())
+{
+    registerResources();
+    form->setupUi(this);
+    setUpActions();
+    form->progressBar->hide();
+    updatetoolssettings();
+    form->graphicsView->settings = &settings;
+    form->graphicsView->updatetoolssettings();
+    form->graphicsView->undoStack = &undoStack;
+    form->graphicsView->setAttribute(Qt::WA_Hover);
+    connectCanvas();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setUpActions()
+{
+    auto *markerGroup = new QActionGroup(this);
+    for (QAction *action : {form->actionKeep_arker, form->action_Remove_Marker, form->actionBlueMarker,
+                            form->actionEraser})
+        markerGroup->addAction(action);
+    auto *brushGroup = new QActionGroup(this);
+    for (QAction *action : {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool})
+        brushGroup->addAction(action);
+
+    undoStack.setUndoLimit(undoLimit);
+    QAction *undo = undoStack.createUndoAction(this);
+    undo->setShortcut(QKeySequence::Undo);
+    form->menuActions->addAction(undo);
+    // Redo has no place in the menus; its key works all the same.
+    QAction *redo = undoStack.createRedoAction(this);
+    redo->setShortcut(QKeySequence::Redo);
+    addAction(redo);
+}
+
+void MainWindow::connectCanvas()
+{
+    brushTimer.setSingleShot(true);
+    skipLastRectTimer.setSingleShot(true);
+    connect(form->graphicsView, SIGNAL(AnyBrush(QRect, bool)), this, SLOT(on_BrushMouseEvent(QRect, bool)));
+    connect(form->graphicsView, SIGNAL(HandTool(QPoint, QPoint)), this, SLOT(on_HandToolPressed(QPoint, QPoint)));
+    connect(&brushTimer, SIGNAL(timeout()), this, SLOT(on_ProcessBrushMouseEvent()));
+    connect(&skipLastRectTimer, SIGNAL(timeout()), this, SLOT(on_TimeToSkipLastRect()));
+}
+
+void MainWindow::chooseTool(int tool, bool checked)
+{
+    if (checked) // the action that another one of its group unchecks has no say
+        form->graphicsView->SetTool(static_cast<DrawingTools>(tool));
+}
+
+void MainWindow::on_actionEraser_toggled(bool checked) { chooseTool(ToolEraser, checked); }
+void MainWindow::on_actionKeep_arker_toggled(bool checked) { chooseTool(ToolKeepMarker, checked); }
+void MainWindow::on_action_Remove_Marker_toggled(bool checked) { chooseTool(ToolRemoveMarker, checked); }
+void MainWindow::on_actionForeground_Brush_toggled(bool checked) { chooseTool(ToolKeepBrush, checked); }
+void MainWindow::on_actionBackground_Brush_toggled(bool checked) { chooseTool(ToolRemoveBrush, checked); }
+void MainWindow::on_actionHandTool_toggled(bool checked) { chooseTool(ToolHand, checked); }
+void MainWindow::on_actionBlueMarker_toggled(bool checked) { chooseTool(ToolBlueMarker, checked); }
+
+void MainWindow::on_actionQuit_triggered() { emit mwquit(); }
+
+void MainWindow::on_actionFinematt_triggered() {}
+void MainWindow::on_actionSelect_Background_toggled(bool /*checked*/) {}
+void MainWindow::finematt(QList<QList<int>> /*regions*/, QList<int> /*pixels*/) {}
+void MainWindow::canny(QImage * /*image*/, unsigned char * /*edges*/) {}

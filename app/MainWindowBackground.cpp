@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "app/dialogs/BackgroundDialog.h"
+#include "imaging/PictureFile.h"
+
+#include <QGraphicsPixmapItem>
+
+namespace {
+
+constexpr double zoomStep = 1.05;
+constexpr double zoomStepBack = 0.9523809523809523; // 1 / 1.05
+
+} // namespace
+
+void MainWindow::on_actionSelect_Background_triggered()
+{
+    BackgroundDialog dialog(nullptr);
+    dialog.exec();
+    if (!dialog.accepted)
+        return;
+    if (dialog.useColor) {
+        backgroundColor = dialog.color;
+        backgroundImage = QImage();
+        previewOffset = QPoint();
+    } else {
+        backgroundImage = readPicture(dialog.picturePath);
+    }
+    applypreviewmask();
+}
+
+void MainWindow::on_actionBackgroundZoomPlus_triggered() { scaleBackground(zoomStep); }
+void MainWindow::on_actionBackgroundZoomMinus_triggered() { scaleBackground(zoomStepBack); }
+
+void MainWindow::scaleBackground(double factor)
+{
+    if (backgroundImage.isNull() || backgroundItem == nullptr)
+        return;
+    backgroundItem->setTransform(QTransform::fromScale(factor, factor), true);
+}

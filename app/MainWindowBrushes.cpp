@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "canvas/CBrushCommand.h"
+#include "canvas/PictureItem.h"
+#include "imaging/AlphaBrush.h"
+#include "ui_MainWindow.h"
+
+namespace {
+
+constexpr int fullBatch = 10;
+constexpr int pauseBeforeBatch = 30;      // ms
+constexpr int pauseBeforeForgetting = 1000; // ms
+
+} // namespace
+
+void MainWindow::on_BrushMouseEvent(QRect rect, bool now)
+{
+    pendingBrushRects.append(rect);
+    const bool wait = !now && pendingBrushRects.size() < fullBatch;
+    brushTimer.start(wait ? pauseBeforeBatch : 0);
+}
+
+void MainWindow::on_ProcessBrushMouseEvent()
+{
+    if (pendingBrushRects.isEmpty())
+        return;
+    if (form->actionForeground_Brush->isChecked())
+        on_KeepBrushPressed(pendingBrushRects);
+    else if (form->actionBackground_Brush->isChecked())
+        on_RemoveBrushPressed(pendingBrushRects);
+    lastBrushRect = pendingBrushRects.last();
+    skipLastRect = true;
+    pendingBrushRects.clear();
+    skipLastRectTimer.start(pauseBeforeForgetting);
+}
+
+void MainWindow::on_TimeToSkipLastRect() { skipLastRect = true; }
+
+void MainWindow::on_KeepBrushPressed(QList<QRect> rects) { applyBrush(rects, brushIntensityKeep); }
+void MainWindow::on_RemoveBrushPressed(QList<QRect> rects) { applyBrush(rects, -brushIntensityRemove); }
+
+void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
+{
+    if (previewItem == nullptr || previewImage.isNull())
+        return; // the preview went while the batch was waiting
+    BrushBatch batch = brushBatch(rects, previewOffset, previewImage.size());
+    if (!skipLastRect)
+        batch.pixels -= lastBrushRect;
+    // QImage::copy() takes an empty rectangle for the whole picture.
+    const QImage before = batch.box.isEmpty() ? QImage() : previewImage.copy(batch.box);
+    changeAlpha(previewImage, batch.pixels, alphaChange);
+    updatePixmap(*previewItem, previewImage, batch.box);
+    QPixmap after = previewItem->pixmap();
+    undoStack.push(new CBrushCommand(previewItem, batch.box, &after, &previewImage, before));
+}
+
+void MainWindow::on_HandToolPressed(QPoint prevpos, QPoint pos)
+{
+    previewOffset += pos - prevpos;
+    if (previewItem != nullptr)
+        previewItem->setPos(previewOffset);
+}

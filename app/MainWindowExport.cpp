@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "app/dialogs/ExportDialog.h"
+#include "imaging/ExportComposition.h"
+#include "imaging/PictureFile.h"
+#include "imaging/Truncation.h"
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QGraphicsPixmapItem>
+#include <QMessageBox>
+
+namespace {
+
+bool isJpeg(const QString &suffix)
+{
+    return suffix.compare("JPG", Qt::CaseInsensitive) == 0 || suffix.compare("JPEG", Qt::CaseInsensitive) == 0;
+}
+
+/// How far a picture reaches on its scene, its own zoom included, in whole pixels.
+QSize extentOf(const QGraphicsPixmapItem &item)
+{
+    const QSizeF size = item.boundingRect().size();
+    const QTransform zoom = item.transform();
+    return {truncateToInt(size.width() * zoom.m11()), truncateToInt(size.height() * zoom.m22())};
+}
+
+} // namespace
+
+void MainWindow::on_actionExport_triggered()
+{
+    qWarning("Export");
+    const QSize start = backgroundImage.isNull() ? workingImage.size() : backgroundImage.size();
+    if (start.isEmpty())
+        return;
+    ExportDialog dialog(start.width(), start.height(), &settings, nullptr);
+    dialog.exec();
+    int width = 0;
+    int height = 0;
+    QString fileName;
+    dialog.GetSettings(&width, &height, &fileName); // a file that was chosen is written, Cancel or not
+    if (backgroundItem == nullptr || previewItem == nullptr)
+        return;
+
+    const QString suffix = QFileInfo(fileName).suffix();
+    const ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
+    writePicture(composeExport(layers, QSize(width, height)).toImage(), fileName, suffix.toLatin1());
+    if (qAlpha(backgroundColor) != 255 && isJpeg(suffix))
+        QMessageBox::warning(nullptr, tr("Transparency was lost"),
+                             tr("You've selected a transparent background color but saving as jpeg. Transparency of "
+                                "the color was lost. Please choose .png to save transparent backgrounds"),
+                             QMessageBox::Ok);
+}
+
+QPixmap MainWindow::exportCanvas() const
+{
+    if (!backgroundImage.isNull())
+        return QPixmap::fromImage(backgroundImage);
+    // The colour alone: the chessboard of the preview only stands for what is transparent.
+    QImage canvas(backgroundItem->pixmap().size(), QImage::Format_ARGB32);
+    canvas.fill(backgroundColor);
+    return QPixmap::fromImage(std::move(canvas));
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "app/dialogs/HelpDialog.h"
+#include "ui_MainWindow.h"
+
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QUrl>
+
+namespace {
+
+constexpr double zoomStep = 1.2;
+constexpr double zoomStepBack = 0.8333333333333334; // 1 / 1.2
+
+QString authorship()
+{
+    return MainWindow::tr("Ornevo cuts objects out of photographs.\nMade by the Ornevo developers, 2026.");
+}
+
+} // namespace
+
+void MainWindow::on_actionIndex_triggered()
+{
+    auto *help = new HelpDialog(this);
+    help->show();
+}
+
+void MainWindow::on_actionContact_Us_triggered()
+{
+    QDesktopServices::openUrl(QUrl("mailto:contact@ornevo.example?subject=Ornevo%20Pro"));
+}
+
+void MainWindow::on_actionAbout_triggered()
+{
+    QMessageBox::about(this, tr("Ornevo Pro 2.7 for MacOS X"), authorship());
+}
+
+void MainWindow::on_actionTestMenu_triggered() { QMessageBox::about(this, tr("Ornevo Pro 2.5"), authorship()); }
+
+void MainWindow::on_actionZoom_In_triggered() { form->graphicsView->scale(zoomStep, zoomStep); }
+void MainWindow::on_actionZoom_Out_triggered() { form->graphicsView->scale(zoomStepBack, zoomStepBack); }

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "canvas/MarkerDabs.h"
+#include "canvas/PictureItem.h"
+#include "imaging/IndexPicture.h"
+#include "segmentation/FrWatershed.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+
+#include <new>
+
+QGraphicsPixmapItem *MainWindow::topmostPicture() const
+{
+    for (QGraphicsItem *item : imageScene.items())
+        if (auto *picture = qgraphicsitem_cast<QGraphicsPixmapItem *>(item))
+            return picture;
+    return nullptr;
+}
+
+void MainWindow::updatemask()
+{
+    delete maskItem.get(); // takes it off the scene as well
+    maskItem = nullptr;
+    if (topmostPicture() == nullptr)
+        return;
+
+    form->statusBar->showMessage(tr("Isolating object"));
+    markers::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
+    form->progressBar->show();
+    outmask.clear();
+    qWarning() << "outmask size before watd is" << outmask.size();
+    try {
+        FrWatershed(&workingImage, seeds.keep, seeds.remove, outmask, edgeMap.get(), form->progressBar);
+    } catch (const std::bad_alloc &) {
+        outmask = {}; // short of memory, the picture has no mask; the program goes on
+    }
+    qWarning() << "outmask size after watd is" << outmask.size();
+    form->progressBar->hide();
+}
+
+void MainWindow::on_actionMask_triggered()
+{
+    constexpr QRgb green = qRgb(0, 255, 0);
+    constexpr QRgb white = qRgb(255, 255, 255);
+    updatemask();
+    form->statusBar->showMessage(tr("Displaying image"));
+    const QImage overlay = paintIndices(workingImage.size(), outmask, green, white);
+    maskItem = new PictureItem(QPixmap::fromImage(overlay));
+    imageScene.addItem(maskItem);
+    maskItem->setZValue(markers::maskOverlayZ);
+    maskItem->setOpacity(maskOpacity);
+    maskItem->setVisible(true);
+    form->statusBar->showMessage(tr("Ready"));
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "canvas/PictureItem.h"
+#include "canvas/SettingsKeys.h"
+#include "imaging/EdgeMap.h"
+#include "imaging/PictureFile.h"
+#include "ui_MainWindow.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+void MainWindow::on_actionOpen_triggered()
+{
+    const QString directory =
+        settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault).toString();
+    currentFile = QFileDialog::getOpenFileName(
+        this, tr("Open Image"), directory,
+        tr("Image Files (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif);;All files (*.*)"));
+    if (currentFile.isEmpty()) {
+        form->statusBar->showMessage(tr("No file selected"));
+        return;
+    }
+    open();
+    // Whether or not the picture could be read, what belonged to the one before goes.
+    isOriginalFile = true;
+    previewOffset = QPoint();
+    previewImage = QImage();
+    form->actionPreview->setChecked(false);
+    undoStack.clear();
+    form->graphicsView->discardErasedDabs();
+    backgroundItem = nullptr;
+}
+
+void MainWindow::open()
+{
+    settings.setValue(settings::currentDirectory.name, QFileInfo(currentFile).canonicalPath());
+    imageScene.clear();
+    previewScene.clear();
+    maskItem = nullptr;
+    outmask.clear();
+
+    const QImage picture = readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
+    if (picture.isNull()) {
+        form->statusBar->showMessage(tr("Failed to read image"));
+        return;
+    }
+    setWindowTitle("Ornevo Pro - " + QFileInfo(currentFile).fileName());
+    form->statusBar->showMessage(tr("image opened"));
+
+    imagePixmap = QPixmap::fromImage(picture);
+    imageScene.addItem(new PictureItem(imagePixmap));
+    imageScene.setSceneRect(imagePixmap.rect());
+    form->graphicsView->setScene(&imageScene);
+    form->graphicsView->fitInView(imageScene.sceneRect(), Qt::KeepAspectRatio);
+    form->graphicsView->setCacheMode(QGraphicsView::CacheBackground);
+    form->graphicsView->show();
+
+    form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
+    form->progressBar->show();
+    workingImage = picture;
+    edgeMap = std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(picture.width()) *
+                                                              static_cast<std::size_t>(picture.height()));
+    colorsobel();
+    form->progressBar->hide();
+    form->statusBar->showMessage(tr("Ready"));
+}
+
+void MainWindow::colorsobel()
+{
+    if (edgeMap != nullptr)
+        computeEdgeMap(workingImage, edgeMap.get());
+}

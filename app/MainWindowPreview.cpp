@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "canvas/PictureItem.h"
+#include "imaging/BackgroundLayer.h"
+#include "imaging/CutOut.h"
+#include "imaging/FourChannelBlur.h"
+#include "imaging/IndexPicture.h"
+#include "ui_MainWindow.h"
+
+#include <QDebug>
+
+namespace {
+
+constexpr qreal backgroundZ = 0.0;
+constexpr qreal objectZ = 10.0;
+constexpr double sizeToSigma = 5.0;
+
+} // namespace
+
+void MainWindow::on_actionPreview_toggled(bool checked)
+{
+    if (checked) {
+        updatemask();
+        setEditingActionsEnabled(false);
+        form->graphicsView->SetTool(ToolNone);
+        form->actionBackground_Brush->setChecked(false);
+        form->actionForeground_Brush->setChecked(false);
+        form->actionHandTool->setChecked(false);
+        previewImage = QImage();
+        updatepreview();
+        form->graphicsView->setScene(&previewScene);
+    } else {
+        setEditingActionsEnabled(true);
+        form->graphicsView->setScene(&imageScene);
+        form->graphicsView->SetTool(ToolNone);
+        form->actionKeep_arker->setChecked(false);
+        form->action_Remove_Marker->setChecked(false);
+        form->actionEraser->setChecked(false);
+    }
+}
+
+void MainWindow::setEditingActionsEnabled(bool editing)
+{
+    for (QAction *action : {form->actionMask, form->actionKeep_arker, form->action_Remove_Marker, form->actionEraser})
+        action->setEnabled(editing);
+    for (QAction *action : {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool,
+                            form->actionSelect_Background, form->actionBackgroundZoomMinus,
+                            form->actionBackgroundZoomPlus})
+        action->setEnabled(!editing);
+}
+
+void MainWindow::updatepreview()
+{
+    updatepreviewmask();
+    applypreviewmask();
+}
+
+void MainWindow::updatepreviewmask()
+{
+    constexpr QRgb black = qRgb(0, 0, 0);
+    constexpr QRgb white = qRgb(255, 255, 255);
+    qWarning() << "outmask size is" << outmask.size();
+    QImage sharp = paintIndices(workingImage.size(), outmask, black, white);
+    maskImage = sharp.copy();
+    if (smoothEdges)
+        blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
+}
+
+void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
+{
+    blurFourChannels(*src, *dst, size, sigma, [this](int percent) { form->progressBar->setValue(percent); });
+}
+
+void MainWindow::applypreviewmask()
+{
+    QPixmap background;
+    QPixmap object;
+    applypreviewmasktopixmap(&background, &object);
+    previewScene.clear();
+    backgroundItem = new PictureItem(background);
+    previewItem = new PictureItem(object);
+    previewScene.addItem(backgroundItem);
+    previewScene.addItem(previewItem);
+    backgroundItem->setZValue(backgroundZ);
+    previewItem->setZValue(objectZ);
+    previewItem->setPos(previewOffset);
+    form->statusBar->showMessage(tr("Ready"));
+}
+
+void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
+{
+    if (previewImage.isNull()) {
+        if (topmostPicture() == nullptr)
+            return;
+        form->statusBar->showMessage(tr("getting inversed mask"));
+        previewImage = cutOut(imagePixmap.toImage(), maskImage);
+        form->statusBar->showMessage(tr("painting alpha channel"));
+        form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
+        form->statusBar->showMessage(tr("feather done"));
+    }
+    // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
+    *object = QPixmap::fromImage(previewImage, Qt::NoOpaqueDetection);
+    *background = backgroundLayer(workingImage.size(), backgroundColor, QImage(":/icons/chessbackground.png"),
+                                  backgroundImage);
+}

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "canvas/SettingsKeys.h"
+#include "imaging/PictureFile.h"
+#include "ui_MainWindow.h"
+
+#include <QFileDialog>
+#include <QGraphicsPixmapItem>
+#include <QMessageBox>
+#include <QPainter>
+
+void MainWindow::save(const QString &path)
+{
+    const QGraphicsPixmapItem *picture = topmostPicture();
+    if (picture == nullptr)
+        return;
+    QPixmap pixmap = picture->pixmap();
+    pixmap.setMask(emptyMask); // an empty mask drops whatever transparency there was
+    QImage flat(pixmap.size(), QImage::Format_ARGB32);
+    flat.fill(0xFFFFFFFF);
+    QPainter painter(&flat);
+    painter.drawPixmap(0, 0, pixmap);
+    painter.end();
+    writePicture(flat, path, "JPG");
+}
+
+void MainWindow::on_actionSave_triggered()
+{
+    if (isOriginalFile) {
+        const auto answer = QMessageBox::warning(
+            this, tr("Save file?"),
+            tr("You are going to overwrite your original file.\nAre you sure you want to continue?"),
+            QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+        if (answer != QMessageBox::Yes)
+            return;
+    }
+    save(currentFile);
+    open();
+}
+
+void MainWindow::on_actionSave_As_triggered()
+{
+    const QString directory =
+        settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault).toString();
+    const QString name = QFileDialog::getSaveFileName(this, tr("Save File"), directory, tr("JPG Files (*.jpg)"));
+    if (name.isEmpty()) {
+        form->statusBar->showMessage(tr("No file selected"));
+        return;
+    }
+    currentFile = name;
+    save(currentFile);
+    open();
+    isOriginalFile = false;
+}

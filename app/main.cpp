@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    // These two words scope the settings store.
+    QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
+    QApplication::setOrganizationName("Tirelo software");
+    MainWindow window(nullptr);
+    QObject::connect(&window, SIGNAL(mwquit()), &application, SLOT(quit()));
+    window.show();
+    return QApplication::exec();
+}
