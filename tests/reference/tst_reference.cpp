@@ -11,6 +11,7 @@
 
 #include <QObject>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>
@@ -177,6 +178,7 @@ private slots:
     void watershedStrip_data();
     void watershedStrip();
     void watershedStepDownUsesRightNeighbour();
+    void watershedColorCosts();
     void watershedEnclosed();
     void watershedNothingDone_data();
     void watershedNothingDone();
@@ -187,6 +189,7 @@ private slots:
     void watershedPadded();
     void manyOneRegion();
     void manyThreeRegions();
+    void manyRisingCosts();
     void manyLaterListWins();
     void manyEdgesCostTheMost();
     void manyNothingDone();
@@ -203,6 +206,7 @@ private slots:
     void featherStrip();
     void featherDownLooksUp();
     void featherAboveFirstRow();
+    void featherFirstOfSecondRow();
     void featherPlainMask_data();
     void featherPlainMask();
     void featherPaddedPicture();
@@ -217,6 +221,7 @@ private slots:
     void brushAlpha_data();
     void brushAlpha();
     void brushOverlapCountsOnce();
+    void brushLeavesLastSquareOut();
     void brushStaysInPicture();
     void brushOffset();
     void backgroundColors();
@@ -285,6 +290,10 @@ void TestReference::degenerateWeights_data()
     QTest::newRow("even count, sigma 0") << 4 << 0.0 << QList<double>{0.0, 0.0, 1.0, 0.0};
     QTest::newRow("no tap") << 0 << 1.0 << QList<double>{1.0};
     QTest::newRow("negative count") << -7 << 1.0 << QList<double>{1.0};
+    // Just inside and just outside of where the quotient can be formed: with a
+    // more exact constant than 6.283 the first of them would be outside too.
+    QTest::newRow("largest sigma") << 2 << 5.348977782573272e+153 << QList<double>{0.5, 0.5};
+    QTest::newRow("beyond the largest sigma") << 2 << 5.349512680351529e+153 << QList<double>{0.0, 1.0};
     // Narrow, but the centre weight can still be formed: the others vanish.
     QTest::newRow("sigma tiny") << 5 << 1e-3 << five;
 }
@@ -917,6 +926,26 @@ void TestReference::watershedStepDownUsesRightNeighbour()
     QCOMPARE(result, (Values{3 * 1 + 1, 3 * 2 + 1, 3 * 3 + 1}));
 }
 
+void TestReference::watershedColorCosts()
+{
+    // Blue 255 costs 29 on the Keep side, red 150 costs 44 on the Remove side.
+    QImage image = testpictures::constantImage(6, 3, 0);
+    image.setPixel(2, 1, 0xff0000ff);
+    image.setPixel(3, 1, 0xff960000);
+    Values result;
+    QCOMPARE(reference::watershed(image, columns(6, {1}), columns(6, {4}), result, noEdges(image)), 0);
+    QCOMPARE(result, columns(6, {1, 2}));
+    Lists regions{{}};
+    QCOMPARE(reference::watershedMany(image, {{10}, {7}}, regions, noEdges(image)), 2);
+    QCOMPARE(regions, (Lists{{}, columns(6, {4}), columns(6, {1, 2})}));
+
+    // Green 80 costs 46: now the red pixel is the cheaper one.
+    image.setPixel(2, 1, 0xff005000);
+    result.clear();
+    QCOMPARE(reference::watershed(image, columns(6, {1}), columns(6, {4}), result, noEdges(image)), 0);
+    QCOMPARE(result, columns(6, {1}));
+}
+
 void TestReference::watershedEnclosed()
 {
     const QImage image = testpictures::constantImage(9, 9, 0x336699);
@@ -1025,6 +1054,15 @@ void TestReference::manyThreeRegions()
     QCOMPARE(
         reference::watershedMany(image, {{11}, {13}, {7}}, regions, testpictures::constantPlane(5, 5, 1)), 3);
     QCOMPARE(regions, (Lists{{}, {11, 16}, {13, 18}, {7}}));
+}
+
+void TestReference::manyRisingCosts()
+{
+    // Each pixel waits alone and on a higher level than the one before.
+    const QImage image = strip({0, 0, 5, 20, 50, 100, 180, 0});
+    Lists regions{{}};
+    QCOMPARE(reference::watershedMany(image, {{9}}, regions, noEdges(image)), 1);
+    QCOMPARE(regions, (Lists{{}, columns(8, {1, 2, 3, 4, 5, 6})}));
 }
 
 void TestReference::manyLaterListWins()
@@ -1203,6 +1241,19 @@ void TestReference::featherAboveFirstRow()
         9, 0, 0, 0, 9,
         9, 0, 0, 0, 9,
         9, 9, 9, 9, 9}));
+    // clang-format on
+}
+
+void TestReference::featherFirstOfSecondRow()
+{
+    // The first pixel of the second row never steps up.
+    QImage picture = argb(4, 3, 0x09112233u);
+    reference::featherWithMaskImage(picture, maskFromRows({"#   ", "#   ", "    "}), 3);
+    // clang-format off
+    QCOMPARE(alphas(picture), (Values{
+        9, 9, 9, 9,
+        0, 0, 9, 9,
+        100, 9, 9, 9}));
     // clang-format on
 }
 
@@ -1403,8 +1454,27 @@ void TestReference::brushOverlapCountsOnce()
     QCOMPARE(qAlpha(preview.pixel(16, 8)), 30);
 }
 
+void TestReference::brushLeavesLastSquareOut()
+{
+    // Only on request, and in scene coordinates: the square is not moved by
+    // the offset that the dab is moved by.
+    const QRect last(8, 0, 4, 20);
+    for (const bool skip : {true, false}) {
+        QImage preview = argb(20, 20, qRgba(1, 2, 3, 10));
+        const reference::BrushBatch batch = reference::applyBrush(
+            preview, {QRect(6, 4, 12, 12)}, QPoint(2, 0), reference::Brush::Keep, 20, skip, last);
+        QCOMPARE(qAlpha(preview.pixel(7, 10)), 30);
+        QCOMPARE(qAlpha(preview.pixel(8, 10)), skip ? 30 : 10);
+        QCOMPARE(qAlpha(preview.pixel(11, 10)), skip ? 30 : 10);
+        QCOMPARE(qAlpha(preview.pixel(12, 10)), 30);
+        QCOMPARE(batch.box, QRect(4, 4, 12, 12));
+    }
+}
+
 void TestReference::brushStaysInPicture()
 {
+    // Qt warns of pixels outside of an image.
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     const QImage original = argb(10, 10, qRgba(1, 2, 3, 200));
     QImage preview = original;
     const reference::BrushBatch batch = reference::applyBrush(
