@@ -150,6 +150,8 @@ private slots:
     void blur99Interior();
     void blur99Constant();
     void blur99SmallPictureIsCopied();
+    void orderOfSums_data();
+    void orderOfSums();
     void blurFastImpulseShowsKernel();
     void blurFastConstant();
     void blurFastBorderIsCopied();
@@ -235,6 +237,8 @@ private slots:
     void exportWarning_data();
     void exportWarning();
 
+    void everySizeSegments_data();
+    void everySizeSegments();
     void randomIsPortable();
     void paddedPicture();
     void maskPictureHasTwoValues();
@@ -454,6 +458,51 @@ void TestReference::blur99SmallPictureIsCopied()
         reference::blur99(src, dst, 1.2);
         QCOMPARE(valuesOf(dst), valuesOf(src));
     }
+}
+
+void TestReference::orderOfSums_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<bool>("across");
+    QTest::addColumn<Values>("values");
+    QTest::addColumn<int>("expected");
+    // With this sigma all weights are the same, whatever the exponential
+    // function's last bit, and the exact result is a whole number. Which side
+    // of it the sum of doubles falls on depends on the order of its terms:
+    // outermost pair first, centre last or tap by tap, each of these comes out
+    // 1 (blurAny: 2, fourChannelBlur: 4) higher than the centre with the pairs
+    // from the inside out.
+    QTest::newRow("blur99, horizontal pass")
+        << "blur99" << true << Values{24, 250, 150, 255, 19, 157, 12, 36, 105} << 111;
+    QTest::newRow("blur99, vertical pass")
+        << "blur99" << false << Values{2, 202, 57, 26, 59, 225, 145, 93, 10} << 90;
+    QTest::newRow("blurAny") << "blurAny" << true << Values{207, 112, 139, 254, 92, 30, 195} << 145;
+    QTest::newRow("fourChannelBlur") << "fourChannelBlur" << true << Values{141, 147, 236, 82, 154, 183, 233}
+                                     << 164;
+}
+
+void TestReference::orderOfSums()
+{
+    QFETCH(QString, filter);
+    QFETCH(bool, across);
+    QFETCH(Values, values);
+    QFETCH(int, expected);
+    const int n = static_cast<int>(values.size());
+    const int centre = n / 2;
+    const Plane src = planeOf(n, n, [&values, across](int x, int y) { return values.at(across ? x : y); });
+    if (filter == QLatin1String("fourChannelBlur")) {
+        const QImage picture = testpictures::greyImage(n, n, src.data);
+        QImage image = picture.copy();
+        reference::fourChannelBlur(picture, image, n, 1e100);
+        QCOMPARE(qRed(image.pixel(centre, centre)), expected);
+        return;
+    }
+    Plane dst(n, n, 77);
+    if (filter == QLatin1String("blur99"))
+        reference::blur99(src, dst, 1e100);
+    else
+        reference::blurAny(src, dst, 1e100, n);
+    QCOMPARE(static_cast<int>(dst.at(centre, centre)), expected);
 }
 
 void TestReference::blurFastImpulseShowsKernel()
@@ -1660,6 +1709,86 @@ void TestReference::exportWarning()
     QFETCH(QString, suffix);
     QFETCH(bool, expected);
     QCOMPARE(reference::losesTransparency(color, suffix), expected);
+}
+
+// What holds at every size
+
+void TestReference::everySizeSegments_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : testpictures::awkwardSizes())
+        QTest::addRow("%d x %d", size.width(), size.height()) << size;
+}
+
+void TestReference::everySizeSegments()
+{
+    QFETCH(QSize, size);
+    const int width = size.width();
+    const int height = size.height();
+    const int pixels = width * height;
+    const QImage image = testpictures::blobImage(width, height, 1);
+    const std::vector<std::uint8_t> edges = reference::edgeMap(image);
+    QCOMPARE(static_cast<int>(edges.size()), pixels);
+    QCOMPARE(static_cast<int>(*std::max_element(edges.begin(), edges.end())), 255);
+
+    // Every region lies in the interior, in increasing order, and no pixel is
+    // in two of them.
+    const Values first = testpictures::randomIndices(width, height, 3, 2);
+    const Values second = testpictures::randomIndices(width, height, 4, 3);
+    const Values third = testpictures::randomIndices(width, height, 2, 4);
+    const auto interior = [width, height](int index) {
+        const int x = index % width;
+        const int y = index / width;
+        return x > 0 && y > 0 && x < width - 1 && y < height - 1;
+    };
+    const auto check = [&interior](const Values &region) {
+        for (int i = 0; i < region.size(); ++i)
+            if (!interior(region.at(i)) || (i > 0 && region.at(i) <= region.at(i - 1)))
+                return false;
+        return true;
+    };
+    Values keep;
+    const int done = reference::watershed(image, first, second, keep, edges);
+    QVERIFY(check(keep));
+    if (done == 0) {
+        for (const int index : first)
+            QCOMPARE(keep.contains(index), interior(index) && !second.contains(index));
+    } else {
+        QCOMPARE(done, -1);
+        QVERIFY(keep.isEmpty());
+    }
+
+    Lists regions{{}};
+    const std::vector<std::vector<int>> seeds{
+        {first.begin(), first.end()}, {second.begin(), second.end()}, {third.begin(), third.end()}};
+    const int count = reference::watershedMany(image, seeds, regions, edges);
+    QVERIFY(count == 3 || count == -1);
+    QCOMPARE(static_cast<int>(regions.size()), count == 3 ? 4 : 1);
+    Values owners(pixels, 0);
+    for (const Values &region : regions) {
+        QVERIFY(check(region));
+        for (const int index : region)
+            QCOMPARE(++owners[index], 1);
+    }
+
+    // Every pixel is in some wave region; only starts can occur twice.
+    Lists waves;
+    reference::waveSegment(image, waves, 60);
+    Values found(pixels, 0);
+    for (const Values &region : waves)
+        for (const int index : region)
+            ++found[index];
+    for (const int times : found)
+        QVERIFY(times == 1 || times == 2);
+
+    // Feathering changes no colour and sets only its three alphas.
+    QImage picture = argb(width, height, 0x09112233u);
+    reference::featherWithMaskImage(picture, testpictures::blobMaskImage(width, height, 5), 4);
+    for (int i = 0; i < pixels; ++i) {
+        const QRgb pixel = picture.pixel(i % width, i / width);
+        QCOMPARE(pixel & 0xffffffu, 0x112233u);
+        QVERIFY((Values{9, 0, 100, 180}.contains(qAlpha(pixel))));
+    }
 }
 
 // Test pictures
