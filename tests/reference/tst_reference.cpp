@@ -11,6 +11,7 @@
 
 #include <QObject>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>
@@ -149,6 +150,8 @@ private slots:
     void blur99Interior();
     void blur99Constant();
     void blur99SmallPictureIsCopied();
+    void orderOfSums_data();
+    void orderOfSums();
     void blurFastImpulseShowsKernel();
     void blurFastConstant();
     void blurFastBorderIsCopied();
@@ -177,6 +180,7 @@ private slots:
     void watershedStrip_data();
     void watershedStrip();
     void watershedStepDownUsesRightNeighbour();
+    void watershedColorCosts();
     void watershedEnclosed();
     void watershedNothingDone_data();
     void watershedNothingDone();
@@ -187,6 +191,7 @@ private slots:
     void watershedPadded();
     void manyOneRegion();
     void manyThreeRegions();
+    void manyRisingCosts();
     void manyLaterListWins();
     void manyEdgesCostTheMost();
     void manyNothingDone();
@@ -203,6 +208,7 @@ private slots:
     void featherStrip();
     void featherDownLooksUp();
     void featherAboveFirstRow();
+    void featherFirstOfSecondRow();
     void featherPlainMask_data();
     void featherPlainMask();
     void featherPaddedPicture();
@@ -217,6 +223,7 @@ private slots:
     void brushAlpha_data();
     void brushAlpha();
     void brushOverlapCountsOnce();
+    void brushLeavesLastSquareOut();
     void brushStaysInPicture();
     void brushOffset();
     void backgroundColors();
@@ -230,6 +237,8 @@ private slots:
     void exportWarning_data();
     void exportWarning();
 
+    void everySizeSegments_data();
+    void everySizeSegments();
     void randomIsPortable();
     void paddedPicture();
     void maskPictureHasTwoValues();
@@ -285,6 +294,10 @@ void TestReference::degenerateWeights_data()
     QTest::newRow("even count, sigma 0") << 4 << 0.0 << QList<double>{0.0, 0.0, 1.0, 0.0};
     QTest::newRow("no tap") << 0 << 1.0 << QList<double>{1.0};
     QTest::newRow("negative count") << -7 << 1.0 << QList<double>{1.0};
+    // Just inside and just outside of where the quotient can be formed: with a
+    // more exact constant than 6.283 the first of them would be outside too.
+    QTest::newRow("largest sigma") << 2 << 5.348977782573272e+153 << QList<double>{0.5, 0.5};
+    QTest::newRow("beyond the largest sigma") << 2 << 5.349512680351529e+153 << QList<double>{0.0, 1.0};
     // Narrow, but the centre weight can still be formed: the others vanish.
     QTest::newRow("sigma tiny") << 5 << 1e-3 << five;
 }
@@ -445,6 +458,51 @@ void TestReference::blur99SmallPictureIsCopied()
         reference::blur99(src, dst, 1.2);
         QCOMPARE(valuesOf(dst), valuesOf(src));
     }
+}
+
+void TestReference::orderOfSums_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<bool>("across");
+    QTest::addColumn<Values>("values");
+    QTest::addColumn<int>("expected");
+    // With this sigma all weights are the same, whatever the exponential
+    // function's last bit, and the exact result is a whole number. Which side
+    // of it the sum of doubles falls on depends on the order of its terms:
+    // outermost pair first, centre last or tap by tap, each of these comes out
+    // 1 (blurAny: 2, fourChannelBlur: 4) higher than the centre with the pairs
+    // from the inside out.
+    QTest::newRow("blur99, horizontal pass")
+        << "blur99" << true << Values{24, 250, 150, 255, 19, 157, 12, 36, 105} << 111;
+    QTest::newRow("blur99, vertical pass")
+        << "blur99" << false << Values{2, 202, 57, 26, 59, 225, 145, 93, 10} << 90;
+    QTest::newRow("blurAny") << "blurAny" << true << Values{207, 112, 139, 254, 92, 30, 195} << 145;
+    QTest::newRow("fourChannelBlur") << "fourChannelBlur" << true << Values{141, 147, 236, 82, 154, 183, 233}
+                                     << 164;
+}
+
+void TestReference::orderOfSums()
+{
+    QFETCH(QString, filter);
+    QFETCH(bool, across);
+    QFETCH(Values, values);
+    QFETCH(int, expected);
+    const int n = static_cast<int>(values.size());
+    const int centre = n / 2;
+    const Plane src = planeOf(n, n, [&values, across](int x, int y) { return values.at(across ? x : y); });
+    if (filter == QLatin1String("fourChannelBlur")) {
+        const QImage picture = testpictures::greyImage(n, n, src.data);
+        QImage image = picture.copy();
+        reference::fourChannelBlur(picture, image, n, 1e100);
+        QCOMPARE(qRed(image.pixel(centre, centre)), expected);
+        return;
+    }
+    Plane dst(n, n, 77);
+    if (filter == QLatin1String("blur99"))
+        reference::blur99(src, dst, 1e100);
+    else
+        reference::blurAny(src, dst, 1e100, n);
+    QCOMPARE(static_cast<int>(dst.at(centre, centre)), expected);
 }
 
 void TestReference::blurFastImpulseShowsKernel()
@@ -917,6 +975,26 @@ void TestReference::watershedStepDownUsesRightNeighbour()
     QCOMPARE(result, (Values{3 * 1 + 1, 3 * 2 + 1, 3 * 3 + 1}));
 }
 
+void TestReference::watershedColorCosts()
+{
+    // Blue 255 costs 29 on the Keep side, red 150 costs 44 on the Remove side.
+    QImage image = testpictures::constantImage(6, 3, 0);
+    image.setPixel(2, 1, 0xff0000ff);
+    image.setPixel(3, 1, 0xff960000);
+    Values result;
+    QCOMPARE(reference::watershed(image, columns(6, {1}), columns(6, {4}), result, noEdges(image)), 0);
+    QCOMPARE(result, columns(6, {1, 2}));
+    Lists regions{{}};
+    QCOMPARE(reference::watershedMany(image, {{10}, {7}}, regions, noEdges(image)), 2);
+    QCOMPARE(regions, (Lists{{}, columns(6, {4}), columns(6, {1, 2})}));
+
+    // Green 80 costs 46: now the red pixel is the cheaper one.
+    image.setPixel(2, 1, 0xff005000);
+    result.clear();
+    QCOMPARE(reference::watershed(image, columns(6, {1}), columns(6, {4}), result, noEdges(image)), 0);
+    QCOMPARE(result, columns(6, {1}));
+}
+
 void TestReference::watershedEnclosed()
 {
     const QImage image = testpictures::constantImage(9, 9, 0x336699);
@@ -1025,6 +1103,15 @@ void TestReference::manyThreeRegions()
     QCOMPARE(
         reference::watershedMany(image, {{11}, {13}, {7}}, regions, testpictures::constantPlane(5, 5, 1)), 3);
     QCOMPARE(regions, (Lists{{}, {11, 16}, {13, 18}, {7}}));
+}
+
+void TestReference::manyRisingCosts()
+{
+    // Each pixel waits alone and on a higher level than the one before.
+    const QImage image = strip({0, 0, 5, 20, 50, 100, 180, 0});
+    Lists regions{{}};
+    QCOMPARE(reference::watershedMany(image, {{9}}, regions, noEdges(image)), 1);
+    QCOMPARE(regions, (Lists{{}, columns(8, {1, 2, 3, 4, 5, 6})}));
 }
 
 void TestReference::manyLaterListWins()
@@ -1203,6 +1290,19 @@ void TestReference::featherAboveFirstRow()
         9, 0, 0, 0, 9,
         9, 0, 0, 0, 9,
         9, 9, 9, 9, 9}));
+    // clang-format on
+}
+
+void TestReference::featherFirstOfSecondRow()
+{
+    // The first pixel of the second row never steps up.
+    QImage picture = argb(4, 3, 0x09112233u);
+    reference::featherWithMaskImage(picture, maskFromRows({"#   ", "#   ", "    "}), 3);
+    // clang-format off
+    QCOMPARE(alphas(picture), (Values{
+        9, 9, 9, 9,
+        0, 0, 9, 9,
+        100, 9, 9, 9}));
     // clang-format on
 }
 
@@ -1403,8 +1503,27 @@ void TestReference::brushOverlapCountsOnce()
     QCOMPARE(qAlpha(preview.pixel(16, 8)), 30);
 }
 
+void TestReference::brushLeavesLastSquareOut()
+{
+    // Only on request, and in scene coordinates: the square is not moved by
+    // the offset that the dab is moved by.
+    const QRect last(8, 0, 4, 20);
+    for (const bool skip : {true, false}) {
+        QImage preview = argb(20, 20, qRgba(1, 2, 3, 10));
+        const reference::BrushBatch batch = reference::applyBrush(
+            preview, {QRect(6, 4, 12, 12)}, QPoint(2, 0), reference::Brush::Keep, 20, skip, last);
+        QCOMPARE(qAlpha(preview.pixel(7, 10)), 30);
+        QCOMPARE(qAlpha(preview.pixel(8, 10)), skip ? 30 : 10);
+        QCOMPARE(qAlpha(preview.pixel(11, 10)), skip ? 30 : 10);
+        QCOMPARE(qAlpha(preview.pixel(12, 10)), 30);
+        QCOMPARE(batch.box, QRect(4, 4, 12, 12));
+    }
+}
+
 void TestReference::brushStaysInPicture()
 {
+    // Qt warns of pixels outside of an image.
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     const QImage original = argb(10, 10, qRgba(1, 2, 3, 200));
     QImage preview = original;
     const reference::BrushBatch batch = reference::applyBrush(
@@ -1590,6 +1709,86 @@ void TestReference::exportWarning()
     QFETCH(QString, suffix);
     QFETCH(bool, expected);
     QCOMPARE(reference::losesTransparency(color, suffix), expected);
+}
+
+// What holds at every size
+
+void TestReference::everySizeSegments_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : testpictures::awkwardSizes())
+        QTest::addRow("%d x %d", size.width(), size.height()) << size;
+}
+
+void TestReference::everySizeSegments()
+{
+    QFETCH(QSize, size);
+    const int width = size.width();
+    const int height = size.height();
+    const int pixels = width * height;
+    const QImage image = testpictures::blobImage(width, height, 1);
+    const std::vector<std::uint8_t> edges = reference::edgeMap(image);
+    QCOMPARE(static_cast<int>(edges.size()), pixels);
+    QCOMPARE(static_cast<int>(*std::max_element(edges.begin(), edges.end())), 255);
+
+    // Every region lies in the interior, in increasing order, and no pixel is
+    // in two of them.
+    const Values first = testpictures::randomIndices(width, height, 3, 2);
+    const Values second = testpictures::randomIndices(width, height, 4, 3);
+    const Values third = testpictures::randomIndices(width, height, 2, 4);
+    const auto interior = [width, height](int index) {
+        const int x = index % width;
+        const int y = index / width;
+        return x > 0 && y > 0 && x < width - 1 && y < height - 1;
+    };
+    const auto check = [&interior](const Values &region) {
+        for (int i = 0; i < region.size(); ++i)
+            if (!interior(region.at(i)) || (i > 0 && region.at(i) <= region.at(i - 1)))
+                return false;
+        return true;
+    };
+    Values keep;
+    const int done = reference::watershed(image, first, second, keep, edges);
+    QVERIFY(check(keep));
+    if (done == 0) {
+        for (const int index : first)
+            QCOMPARE(keep.contains(index), interior(index) && !second.contains(index));
+    } else {
+        QCOMPARE(done, -1);
+        QVERIFY(keep.isEmpty());
+    }
+
+    Lists regions{{}};
+    const std::vector<std::vector<int>> seeds{
+        {first.begin(), first.end()}, {second.begin(), second.end()}, {third.begin(), third.end()}};
+    const int count = reference::watershedMany(image, seeds, regions, edges);
+    QVERIFY(count == 3 || count == -1);
+    QCOMPARE(static_cast<int>(regions.size()), count == 3 ? 4 : 1);
+    Values owners(pixels, 0);
+    for (const Values &region : regions) {
+        QVERIFY(check(region));
+        for (const int index : region)
+            QCOMPARE(++owners[index], 1);
+    }
+
+    // Every pixel is in some wave region; only starts can occur twice.
+    Lists waves;
+    reference::waveSegment(image, waves, 60);
+    Values found(pixels, 0);
+    for (const Values &region : waves)
+        for (const int index : region)
+            ++found[index];
+    for (const int times : found)
+        QVERIFY(times == 1 || times == 2);
+
+    // Feathering changes no colour and sets only its three alphas.
+    QImage picture = argb(width, height, 0x09112233u);
+    reference::featherWithMaskImage(picture, testpictures::blobMaskImage(width, height, 5), 4);
+    for (int i = 0; i < pixels; ++i) {
+        const QRgb pixel = picture.pixel(i % width, i / width);
+        QCOMPARE(pixel & 0xffffffu, 0x112233u);
+        QVERIFY((Values{9, 0, 100, 180}.contains(qAlpha(pixel))));
+    }
 }
 
 // Test pictures
