@@ -8,7 +8,10 @@
 #include <QActionGroup>
 
 // Outside any namespace, as the macro wants it.
-static void registerResources() { Q_INIT_RESOURCE(ornevo); }
+static void registerResources()
+{
+    Q_INIT_RESOURCE(ornevo);
+}
 
 namespace {
 
@@ -35,8 +38,8 @@ MainWindow::~MainWindow() = default;
 void MainWindow::setUpActions()
 {
     auto *markerGroup = new QActionGroup(this);
-    for (QAction *action : {form->actionKeep_arker, form->action_Remove_Marker, form->actionBlueMarker,
-                            form->actionEraser})
+    for (QAction *action :
+         {form->actionKeep_arker, form->action_Remove_Marker, form->actionBlueMarker, form->actionEraser})
         markerGroup->addAction(action);
     auto *brushGroup = new QActionGroup(this);
     for (QAction *action : {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool})
@@ -57,7 +60,8 @@ void MainWindow::connectCanvas()
     brushTimer.setSingleShot(true);
     skipLastRectTimer.setSingleShot(true);
     connect(form->graphicsView, SIGNAL(AnyBrush(QRect, bool)), this, SLOT(on_BrushMouseEvent(QRect, bool)));
-    connect(form->graphicsView, SIGNAL(HandTool(QPoint, QPoint)), this, SLOT(on_HandToolPressed(QPoint, QPoint)));
+    connect(form->graphicsView, SIGNAL(HandTool(QPoint, QPoint)), this,
+            SLOT(on_HandToolPressed(QPoint, QPoint)));
     connect(&brushTimer, SIGNAL(timeout()), this, SLOT(on_ProcessBrushMouseEvent()));
     connect(&skipLastRectTimer, SIGNAL(timeout()), this, SLOT(on_TimeToSkipLastRect()));
 }
@@ -68,15 +72,39 @@ void MainWindow::chooseTool(int tool, bool checked)
         form->graphicsView->SetTool(static_cast<DrawingTools>(tool));
 }
 
-void MainWindow::on_actionEraser_toggled(bool checked) { chooseTool(ToolEraser, checked); }
-void MainWindow::on_actionKeep_arker_toggled(bool checked) { chooseTool(ToolKeepMarker, checked); }
-void MainWindow::on_action_Remove_Marker_toggled(bool checked) { chooseTool(ToolRemoveMarker, checked); }
-void MainWindow::on_actionForeground_Brush_toggled(bool checked) { chooseTool(ToolKeepBrush, checked); }
-void MainWindow::on_actionBackground_Brush_toggled(bool checked) { chooseTool(ToolRemoveBrush, checked); }
-void MainWindow::on_actionHandTool_toggled(bool checked) { chooseTool(ToolHand, checked); }
-void MainWindow::on_actionBlueMarker_toggled(bool checked) { chooseTool(ToolBlueMarker, checked); }
+void MainWindow::on_actionEraser_toggled(bool checked)
+{
+    chooseTool(ToolEraser, checked);
+}
+void MainWindow::on_actionKeep_arker_toggled(bool checked)
+{
+    chooseTool(ToolKeepMarker, checked);
+}
+void MainWindow::on_action_Remove_Marker_toggled(bool checked)
+{
+    chooseTool(ToolRemoveMarker, checked);
+}
+void MainWindow::on_actionForeground_Brush_toggled(bool checked)
+{
+    chooseTool(ToolKeepBrush, checked);
+}
+void MainWindow::on_actionBackground_Brush_toggled(bool checked)
+{
+    chooseTool(ToolRemoveBrush, checked);
+}
+void MainWindow::on_actionHandTool_toggled(bool checked)
+{
+    chooseTool(ToolHand, checked);
+}
+void MainWindow::on_actionBlueMarker_toggled(bool checked)
+{
+    chooseTool(ToolBlueMarker, checked);
+}
 
-void MainWindow::on_actionQuit_triggered() { emit mwquit(); }
+void MainWindow::on_actionQuit_triggered()
+{
+    emit mwquit();
+}
 
 void MainWindow::on_actionFinematt_triggered() {}
 void MainWindow::on_actionSelect_Background_toggled(bool /*checked*/) {}

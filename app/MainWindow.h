@@ -22,8 +22,8 @@
 
 class Ui_MainWindow;
 
-/// The program's one window. It owns the state that the canvas, the mask pipeline and the output share; the loops
-/// over pixels are elsewhere. Its bodies are split by concern over MainWindow*.cpp.
+/// The program's one window. It owns the state that the canvas, the mask pipeline and the output share; the
+/// loops over pixels are elsewhere. Its bodies are split by concern over MainWindow*.cpp.
 ///
 /// The names of the slots bind them to the actions of the form, misspellings included.
 class MainWindow : public QMainWindow

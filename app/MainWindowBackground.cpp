@@ -31,8 +31,14 @@ void MainWindow::on_actionSelect_Background_triggered()
     applypreviewmask();
 }
 
-void MainWindow::on_actionBackgroundZoomPlus_triggered() { scaleBackground(zoomStep); }
-void MainWindow::on_actionBackgroundZoomMinus_triggered() { scaleBackground(zoomStepBack); }
+void MainWindow::on_actionBackgroundZoomPlus_triggered()
+{
+    scaleBackground(zoomStep);
+}
+void MainWindow::on_actionBackgroundZoomMinus_triggered()
+{
+    scaleBackground(zoomStepBack);
+}
 
 void MainWindow::scaleBackground(double factor)
 {

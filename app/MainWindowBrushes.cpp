@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int fullBatch = 10;
-constexpr int pauseBeforeBatch = 30;      // ms
+constexpr int pauseBeforeBatch = 30;        // ms
 constexpr int pauseBeforeForgetting = 1000; // ms
 
 } // namespace
@@ -37,10 +37,19 @@ void MainWindow::on_ProcessBrushMouseEvent()
     skipLastRectTimer.start(pauseBeforeForgetting);
 }
 
-void MainWindow::on_TimeToSkipLastRect() { skipLastRect = true; }
+void MainWindow::on_TimeToSkipLastRect()
+{
+    skipLastRect = true;
+}
 
-void MainWindow::on_KeepBrushPressed(QList<QRect> rects) { applyBrush(rects, brushIntensityKeep); }
-void MainWindow::on_RemoveBrushPressed(QList<QRect> rects) { applyBrush(rects, -brushIntensityRemove); }
+void MainWindow::on_KeepBrushPressed(QList<QRect> rects)
+{
+    applyBrush(rects, brushIntensityKeep);
+}
+void MainWindow::on_RemoveBrushPressed(QList<QRect> rects)
+{
+    applyBrush(rects, -brushIntensityRemove);
+}
 
 void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
 {

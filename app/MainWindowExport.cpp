@@ -17,7 +17,8 @@ namespace {
 
 bool isJpeg(const QString &suffix)
 {
-    return suffix.compare("JPG", Qt::CaseInsensitive) == 0 || suffix.compare("JPEG", Qt::CaseInsensitive) == 0;
+    return suffix.compare("JPG", Qt::CaseInsensitive) == 0 ||
+           suffix.compare("JPEG", Qt::CaseInsensitive) == 0;
 }
 
 /// How far a picture reaches on its scene, its own zoom included, in whole pixels.
@@ -49,10 +50,11 @@ void MainWindow::on_actionExport_triggered()
     const ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
     writePicture(composeExport(layers, QSize(width, height)).toImage(), fileName, suffix.toLatin1());
     if (qAlpha(backgroundColor) != 255 && isJpeg(suffix))
-        QMessageBox::warning(nullptr, tr("Transparency was lost"),
-                             tr("You've selected a transparent background color but saving as jpeg. Transparency of "
-                                "the color was lost. Please choose .png to save transparent backgrounds"),
-                             QMessageBox::Ok);
+        QMessageBox::warning(
+            nullptr, tr("Transparency was lost"),
+            tr("You've selected a transparent background color but saving as jpeg. Transparency of "
+               "the color was lost. Please choose .png to save transparent backgrounds"),
+            QMessageBox::Ok);
 }
 
 QPixmap MainWindow::exportCanvas() const

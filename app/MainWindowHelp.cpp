@@ -38,7 +38,16 @@ void MainWindow::on_actionAbout_triggered()
     QMessageBox::about(this, tr("Ornevo Pro 2.7 for MacOS X"), authorship());
 }
 
-void MainWindow::on_actionTestMenu_triggered() { QMessageBox::about(this, tr("Ornevo Pro 2.5"), authorship()); }
+void MainWindow::on_actionTestMenu_triggered()
+{
+    QMessageBox::about(this, tr("Ornevo Pro 2.5"), authorship());
+}
 
-void MainWindow::on_actionZoom_In_triggered() { form->graphicsView->scale(zoomStep, zoomStep); }
-void MainWindow::on_actionZoom_Out_triggered() { form->graphicsView->scale(zoomStepBack, zoomStepBack); }
+void MainWindow::on_actionZoom_In_triggered()
+{
+    form->graphicsView->scale(zoomStep, zoomStep);
+}
+void MainWindow::on_actionZoom_Out_triggered()
+{
+    form->graphicsView->scale(zoomStepBack, zoomStepBack);
+}

@@ -44,11 +44,12 @@ void MainWindow::on_actionPreview_toggled(bool checked)
 
 void MainWindow::setEditingActionsEnabled(bool editing)
 {
-    for (QAction *action : {form->actionMask, form->actionKeep_arker, form->action_Remove_Marker, form->actionEraser})
+    for (QAction *action :
+         {form->actionMask, form->actionKeep_arker, form->action_Remove_Marker, form->actionEraser})
         action->setEnabled(editing);
-    for (QAction *action : {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool,
-                            form->actionSelect_Background, form->actionBackgroundZoomMinus,
-                            form->actionBackgroundZoomPlus})
+    for (QAction *action :
+         {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool,
+          form->actionSelect_Background, form->actionBackgroundZoomMinus, form->actionBackgroundZoomPlus})
         action->setEnabled(!editing);
 }
 

@@ -45,7 +45,8 @@ void MainWindow::on_actionSave_As_triggered()
 {
     const QString directory =
         settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault).toString();
-    const QString name = QFileDialog::getSaveFileName(this, tr("Save File"), directory, tr("JPG Files (*.jpg)"));
+    const QString name =
+        QFileDialog::getSaveFileName(this, tr("Save File"), directory, tr("JPG Files (*.jpg)"));
     if (name.isEmpty()) {
         form->statusBar->showMessage(tr("No file selected"));
         return;

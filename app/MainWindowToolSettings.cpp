@@ -10,13 +10,18 @@
 namespace {
 
 // Sizes and intensities are bytes: a stored 300 counts as 44, and a step beyond either end wraps around.
-unsigned char byteFrom(int value) { return static_cast<unsigned char>(value); }
+unsigned char byteFrom(int value)
+{
+    return static_cast<unsigned char>(value);
+}
 
 } // namespace
 
 void MainWindow::updatetoolssettings()
 {
-    const auto stored = [this](const settings::Key &key) { return settings.value(key.name, key.windowDefault); };
+    const auto stored = [this](const settings::Key &key) {
+        return settings.value(key.name, key.windowDefault);
+    };
     keepMarkerSize = byteFrom(stored(settings::keepMarkerSize).toInt());
     removeMarkerSize = byteFrom(stored(settings::removeMarkerSize).toInt());
     keepBrushSize = byteFrom(stored(settings::keepBrushSize).toInt());
@@ -29,10 +34,22 @@ void MainWindow::updatetoolssettings()
     gaussSize = stored(settings::gaussSize).toInt();
 }
 
-void MainWindow::on_actionIncreaseToolSize_triggered() { stepToolSize(1); }
-void MainWindow::on_actionDecreaseToolSoze_triggered() { stepToolSize(-1); }
-void MainWindow::on_actionIncreaseBrushIntensity_triggered() { stepBrushIntensity(1); }
-void MainWindow::on_actionDecreaseBrushIntensity_triggered() { stepBrushIntensity(-1); }
+void MainWindow::on_actionIncreaseToolSize_triggered()
+{
+    stepToolSize(1);
+}
+void MainWindow::on_actionDecreaseToolSoze_triggered()
+{
+    stepToolSize(-1);
+}
+void MainWindow::on_actionIncreaseBrushIntensity_triggered()
+{
+    stepBrushIntensity(1);
+}
+void MainWindow::on_actionDecreaseBrushIntensity_triggered()
+{
+    stepBrushIntensity(-1);
+}
 
 void MainWindow::stepToolSize(int step)
 {
@@ -43,9 +60,11 @@ void MainWindow::stepToolSize(int step)
         changeToolSize(keepMarkerSize, keepInUse ? tr("Foreground marker size is %1") : tr("Tool size is %1"),
                        settings::keepMarkerSize.name, step);
     } else if (inUse(form->action_Remove_Marker)) {
-        changeToolSize(removeMarkerSize, tr("Background marker size is %1"), settings::removeMarkerSize.name, step);
+        changeToolSize(removeMarkerSize, tr("Background marker size is %1"), settings::removeMarkerSize.name,
+                       step);
     } else if (inUse(form->actionBackground_Brush)) {
-        changeToolSize(removeBrushSize, tr("Background brush size is %1"), settings::removeBrushSize.name, step);
+        changeToolSize(removeBrushSize, tr("Background brush size is %1"), settings::removeBrushSize.name,
+                       step);
         form->graphicsView->updateellipse(removeBrushSize);
     } else if (inUse(form->actionForeground_Brush)) {
         changeToolSize(keepBrushSize, tr("Foreground brush size is %1"), settings::keepBrushSize.name, step);
@@ -69,7 +88,8 @@ void MainWindow::stepBrushIntensity(int step)
         settings.setValue(key, int{intensity});
     };
     if (form->actionBackground_Brush->isEnabled() && form->actionBackground_Brush->isChecked())
-        change(brushIntensityRemove, tr("Background brush intensity is %1"), settings::removeBrushIntensity.name);
+        change(brushIntensityRemove, tr("Background brush intensity is %1"),
+               settings::removeBrushIntensity.name);
     else if (form->actionForeground_Brush->isEnabled() && form->actionForeground_Brush->isChecked())
         change(brushIntensityKeep, tr("Foreground brush intensity is %1"), settings::keepBrushIntensity.name);
 }

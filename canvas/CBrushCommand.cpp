@@ -10,15 +10,22 @@
 namespace {
 
 // QImage::copy() takes an empty rectangle for the whole picture.
-QImage pixelsIn(const QImage &image, const QRect &area) { return area.isEmpty() ? QImage() : image.copy(area); }
+QImage pixelsIn(const QImage &image, const QRect &area)
+{
+    return area.isEmpty() ? QImage() : image.copy(area);
+}
 
 constexpr int uncompressed = 100;
 
 } // namespace
 
-CBrushCommand::CBrushCommand(QGraphicsPixmapItem *item, const QRect &area, QPixmap *afterPixmap, QImage *image,
-                             const QImage &before)
-    : m_item(item), m_area(area), m_afterPixmap(afterPixmap), m_image(image), m_before(before),
+CBrushCommand::CBrushCommand(QGraphicsPixmapItem *item, const QRect &area, QPixmap *afterPixmap,
+                             QImage *image, const QImage &before)
+    : m_item(item),
+      m_area(area),
+      m_afterPixmap(afterPixmap),
+      m_image(image),
+      m_before(before),
       m_after(pixelsIn(*image, area))
 {
 }
@@ -51,8 +58,9 @@ void CBrushCommand::moveToDisk()
 {
     if (m_before.isNull() || !m_store.open())
         return;
-    const bool saved = m_before.save(&m_store, "PNG", uncompressed) && m_after.save(&m_store, "PNG", uncompressed) &&
-                       m_store.flush() && m_store.error() == QFileDevice::NoError;
+    const bool saved = m_before.save(&m_store, "PNG", uncompressed) &&
+                       m_after.save(&m_store, "PNG", uncompressed) && m_store.flush() &&
+                       m_store.error() == QFileDevice::NoError;
     if (!saved) { // a full disk: better to keep the pixels than the file
         m_store.close();
         m_store.remove();

@@ -14,8 +14,8 @@
 
 /// Undo of one batch of brush dabs: keeps the pixels of the box around them from before and after.
 ///
-/// With the first redo() the pixels move into a temporary file, so that a long history costs disk and not memory;
-/// where no file can be written they stay in memory. The file goes with the command.
+/// With the first redo() the pixels move into a temporary file, so that a long history costs disk and not
+/// memory; where no file can be written they stay in memory. The file goes with the command.
 class CBrushCommand : public QUndoCommand
 {
 public:

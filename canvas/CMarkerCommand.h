@@ -9,8 +9,9 @@
 #include <QPointer>
 #include <QUndoCommand>
 
-/// Undo of one marker dab that is already on the scene. Undoing takes the dab away and deletes it; there is no
-/// way back, so redo() does nothing and a second undo() neither. A dab that has gone meanwhile is left alone.
+/// Undo of one marker dab that is already on the scene. Undoing takes the dab away and deletes it; there is
+/// no way back, so redo() does nothing and a second undo() neither. A dab that has gone meanwhile is left
+/// alone.
 class CMarkerCommand : public QUndoCommand
 {
 public:

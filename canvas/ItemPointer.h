@@ -8,8 +8,8 @@
 
 #include <memory>
 
-/// A borrowed pointer to a scene item that becomes null when the item dies, whoever deletes it: the scene on a
-/// clear(), an undo command, or the owner. It is to items what QPointer is to objects.
+/// A borrowed pointer to a scene item that becomes null when the item dies, whoever deletes it: the scene on
+/// a clear(), an undo command, or the owner. It is to items what QPointer is to objects.
 template <typename Item> class ItemPointer
 {
 public:
@@ -25,7 +25,9 @@ public:
     Item *operator->() const { return get(); }
 
 private:
-    struct Life {};
+    struct Life
+    {
+    };
 
     // The item's own custom data goes with the item, so a token there tells whether it lives.
     static std::shared_ptr<void> lifeOf(QGraphicsItem &item)

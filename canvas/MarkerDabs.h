@@ -9,8 +9,8 @@
 #include <QSize>
 
 /// \file
-/// What a marker dab looks like on the scene, for those who lay it and those who read it. The dabs on the scene
-/// are the marker data; nothing else keeps them.
+/// What a marker dab looks like on the scene, for those who lay it and those who read it. The dabs on the
+/// scene are the marker data; nothing else keeps them.
 namespace markers {
 
 inline constexpr QRgb keepColour = qRgb(50, 255, 50);
@@ -23,13 +23,15 @@ inline constexpr qreal maskOverlayZ = 7.0; ///< above the photo, below the dabs
 inline constexpr qreal brushOutlineZ = 20.0;
 
 /// Pixel indices (y · width + x) under the dabs; see appendSeedSquare().
-struct Seeds {
+struct Seeds
+{
     QList<int> keep;
     QList<int> remove;
 };
 
-/// Reads the seeds off the items of a scene that shows a picture of `size`. A rectangle is a Keep dab whatever its
-/// colour; an ellipse is a Remove dab, whatever made it, unless its pen is exactly the blue of the Blue marker.
+/// Reads the seeds off the items of a scene that shows a picture of `size`. A rectangle is a Keep dab
+/// whatever its colour; an ellipse is a Remove dab, whatever made it, unless its pen is exactly the blue of
+/// the Blue marker.
 [[nodiscard]] Seeds seedsOf(const QList<QGraphicsItem *> &items, QSize size);
 
 } // namespace markers

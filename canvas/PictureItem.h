@@ -15,6 +15,6 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 };
 
-/// Brings the pixels of `area` in the pixmap of `item` up to date with `image`, a picture in Format_ARGB32 of the
-/// same size. Only these are converted; a pixmap of another size or without alpha is replaced as a whole.
+/// Brings the pixels of `area` in the pixmap of `item` up to date with `image`, a picture in Format_ARGB32 of
+/// the same size. Only these are converted; a pixmap of another size or without alpha is replaced as a whole.
 void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area);

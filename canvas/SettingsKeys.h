@@ -5,11 +5,12 @@
 
 /// \file
 /// The settings that the program keeps, and what each of its readers takes for a key that is not stored. The
-/// readers differ on purpose: the window works with its own intensities until the user has seen the dialog once.
-/// Defaults are texts, as a settings file holds them; null means that the reader does not read the key.
+/// readers differ on purpose: the window works with its own intensities until the user has seen the dialog
+/// once. Defaults are texts, as a settings file holds them; null means that the reader does not read the key.
 namespace settings {
 
-struct Key {
+struct Key
+{
     const char *name;
     const char *windowDefault;
     const char *viewDefault;

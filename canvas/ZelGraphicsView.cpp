@@ -20,7 +20,10 @@ constexpr QPoint pencilTip(4, 21);
 constexpr int penWidth = 32;
 constexpr QPoint penTip(0, 26);
 
-double deviationFromOne(double factor) { return factor > 1.0 ? factor : 1.0 / factor; }
+double deviationFromOne(double factor)
+{
+    return factor > 1.0 ? factor : 1.0 / factor;
+}
 
 /// By how much the view has to scale along one axis to keep the picture's apparent size.
 double resizeFactor(double shown, double newLength, double oldLength)
@@ -34,7 +37,10 @@ double resizeFactor(double shown, double newLength, double oldLength)
 
 ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent) {}
 
-ZelGraphicsView::~ZelGraphicsView() { discardErasedDabs(); }
+ZelGraphicsView::~ZelGraphicsView()
+{
+    discardErasedDabs();
+}
 
 void ZelGraphicsView::SetTool(DrawingTools tool)
 {
@@ -72,7 +78,8 @@ QCursor ZelGraphicsView::pixmapCursor(const QString &path, int width, QPoint hot
     const qreal ratio = devicePixelRatioF();
     QPixmap drawing(path);
     drawing.setDevicePixelRatio(1.0);
-    QPixmap pixmap = width > 0 ? drawing.scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation) : QPixmap();
+    QPixmap pixmap =
+        width > 0 ? drawing.scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation) : QPixmap();
     if (pixmap.isNull())
         return Qt::ArrowCursor;
     pixmap.setDevicePixelRatio(ratio);
@@ -180,7 +187,10 @@ void ZelGraphicsView::mouseReleaseEvent(QMouseEvent *event)
     QGraphicsView::mouseReleaseEvent(event);
 }
 
-void ZelGraphicsView::leaveEvent(QEvent * /*event*/) { removeBrushOutline(); }
+void ZelGraphicsView::leaveEvent(QEvent * /*event*/)
+{
+    removeBrushOutline();
+}
 
 void ZelGraphicsView::resizeEvent(QResizeEvent *event)
 {
@@ -190,7 +200,8 @@ void ZelGraphicsView::resizeEvent(QResizeEvent *event)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     const QSizeF newSize = event->size();
     const QSizeF oldSize = event->oldSize();
-    if (!newSize.isEmpty() && !oldSize.isEmpty()) { // without an old size there is nothing to keep in step with
+    if (!newSize.isEmpty() &&
+        !oldSize.isEmpty()) { // without an old size there is nothing to keep in step with
         const QRectF shown = transform().mapRect(scene()->sceneRect());
         const double sx = resizeFactor(shown.width(), newSize.width(), oldSize.width());
         const double sy = resizeFactor(shown.height(), newSize.height(), oldSize.height());

@@ -9,10 +9,19 @@
 void ZelGraphicsView::KeepBrushMouseReleased(QMouseEvent * /*event*/) {}
 void ZelGraphicsView::RemoveBrushMouseReleased(QMouseEvent * /*event*/) {}
 
-void ZelGraphicsView::KeepBrushMousePressed(QMouseEvent *event) { pressBrush(event, keepBrushSize); }
-void ZelGraphicsView::RemoveBrushMousePressed(QMouseEvent *event) { pressBrush(event, removeBrushSize); }
+void ZelGraphicsView::KeepBrushMousePressed(QMouseEvent *event)
+{
+    pressBrush(event, keepBrushSize);
+}
+void ZelGraphicsView::RemoveBrushMousePressed(QMouseEvent *event)
+{
+    pressBrush(event, removeBrushSize);
+}
 
-void ZelGraphicsView::KeepBrushMouseMoved(QMouseEvent *event) { moveBrush(event, keepBrushSize); }
+void ZelGraphicsView::KeepBrushMouseMoved(QMouseEvent *event)
+{
+    moveBrush(event, keepBrushSize);
+}
 
 void ZelGraphicsView::RemoveBrushMouseMoved(QMouseEvent *event)
 {
@@ -73,4 +82,7 @@ void ZelGraphicsView::HandMouseMoved(QMouseEvent *event)
     lastMousePos = position;
 }
 
-void ZelGraphicsView::HandMouseReleased(QMouseEvent * /*event*/) { viewport()->setCursor(Qt::OpenHandCursor); }
+void ZelGraphicsView::HandMouseReleased(QMouseEvent * /*event*/)
+{
+    viewport()->setCursor(Qt::OpenHandCursor);
+}

@@ -39,8 +39,8 @@ void ZelGraphicsView::KeepMarkerMouseMoved(QMouseEvent *event)
     if (!mousePressed || !acceptsDabAt(position))
         return;
     const QColor colour(markers::keepColour);
-    pushMarkerCommand(
-        scene()->addRect(QRectF(position, QSizeF(keepMarkerSize, keepMarkerSize)), QPen(colour), QBrush(colour)));
+    pushMarkerCommand(scene()->addRect(QRectF(position, QSizeF(keepMarkerSize, keepMarkerSize)), QPen(colour),
+                                       QBrush(colour)));
 }
 
 void ZelGraphicsView::RemoveMarkerMouseMoved(QMouseEvent *event)
@@ -49,8 +49,8 @@ void ZelGraphicsView::RemoveMarkerMouseMoved(QMouseEvent *event)
     if (!mousePressed || !acceptsDabAt(position))
         return;
     const QColor colour(markers::removeColour);
-    pushMarkerCommand(scene()->addEllipse(QRectF(position, QSizeF(removeMarkerSize, removeMarkerSize)), QPen(colour),
-                                          QBrush(colour)));
+    pushMarkerCommand(scene()->addEllipse(QRectF(position, QSizeF(removeMarkerSize, removeMarkerSize)),
+                                          QPen(colour), QBrush(colour)));
 }
 
 void ZelGraphicsView::pushMarkerCommand(QGraphicsItem *dab)

@@ -14,8 +14,8 @@ BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size)
     QPainterPath path;
     // Widened to doubles first, so that no coordinate can overflow.
     for (const QRect &square : squares)
-        path.addEllipse(QRectF(double(square.x()) - offset.x(), double(square.y()) - offset.y(), square.width(),
-                               square.height()));
+        path.addEllipse(QRectF(double(square.x()) - offset.x(), double(square.y()) - offset.y(),
+                               square.width(), square.height()));
     // Winding, so that overlapping dabs are one area and no pixel is counted twice.
     const QRegion dabs(path.toFillPolygon(QTransform()).toPolygon(), Qt::WindingFill);
     const QRectF bounds = path.boundingRect();

@@ -9,7 +9,8 @@
 #include <QRegion>
 
 /// One batch of round brush dabs, in pixels of the picture that it edits.
-struct BrushBatch {
+struct BrushBatch
+{
     QRegion pixels; ///< the pixels that change: the union of the dabs, cut to the picture
     QRect box;      ///< the box around the dabs, rounded to whole pixels; may reach outside the picture
 };

@@ -8,7 +8,8 @@
 /// It owns nothing: whoever fills it allocates `data` with `new[]`, releases it with `delete[]` and sets it
 /// back to null. A filter never changes its input and, but for `FrSobelEdgeDetector`, writes into storage
 /// that the caller has made. The number of elements is `width * height * channels * depth`.
-template <typename T> struct CFrImage {
+template <typename T> struct CFrImage
+{
     T *data = nullptr;
     int width = 0;
     int height = 0;

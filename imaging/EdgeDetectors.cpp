@@ -26,15 +26,17 @@ template <int divisor, typename T> int colorDifferences(const CFrImage<unsigned 
         const unsigned char *here = above + std::ptrdiff_t{src.width} * 4;
         T *out = dst.data + std::ptrdiff_t{y - 1} * src.width;
         for (int x = 1; x < src.width; ++x)
-            out[x - 1] =
-                static_cast<T>(colorDifference(above + std::ptrdiff_t{x - 1} * 4, here + std::ptrdiff_t{x - 1} * 4) / divisor);
+            out[x - 1] = static_cast<T>(
+                colorDifference(above + std::ptrdiff_t{x - 1} * 4, here + std::ptrdiff_t{x - 1} * 4) /
+                divisor);
     }
     return 0;
 }
 
 } // namespace
 
-int cvSobel(CFrImage<unsigned char> const *src, CFrImage<short> *dst, int xOrder, int /*yOrder*/, int /*aperture*/)
+int cvSobel(CFrImage<unsigned char> const *src, CFrImage<short> *dst, int xOrder, int /*yOrder*/,
+            int /*aperture*/)
 {
     const int width = src->width;
     const int height = src->height;
@@ -47,10 +49,10 @@ int cvSobel(CFrImage<unsigned char> const *src, CFrImage<short> *dst, int xOrder
         const unsigned char *above = mid - width;
         const unsigned char *below = mid + width;
         for (int x = 1; x < width - 1; ++x) {
-            const int gradient =
-                xOrder != 0
-                    ? above[x + 1] + 2 * mid[x + 1] + below[x + 1] - above[x - 1] - 2 * mid[x - 1] - below[x - 1]
-                    : above[x - 1] + 2 * above[x] + above[x + 1] - below[x - 1] - 2 * below[x] - below[x + 1];
+            const int gradient = xOrder != 0 ? above[x + 1] + 2 * mid[x + 1] + below[x + 1] - above[x - 1] -
+                                                   2 * mid[x - 1] - below[x - 1]
+                                             : above[x - 1] + 2 * above[x] + above[x + 1] - below[x - 1] -
+                                                   2 * below[x] - below[x + 1];
             out[x] = static_cast<short>(gradient);
         }
     }

@@ -27,8 +27,13 @@ class ChannelGradient
 {
 public:
     ChannelGradient(int width, int height, int byteInPixel)
-        : m_width(width), m_height(height), m_byte(byteInPixel), m_half(gaussianHalfKernel(taps, sigma)),
-          m_plane(width, taps), m_smooth(width, taps), m_blurred(width, 3)
+        : m_width(width),
+          m_height(height),
+          m_byte(byteInPixel),
+          m_half(gaussianHalfKernel(taps, sigma)),
+          m_plane(width, taps),
+          m_smooth(width, taps),
+          m_blurred(width, 3)
     {
     }
 
@@ -67,7 +72,8 @@ private:
     RowRing<std::uint8_t> m_blurred;
 };
 
-struct EdgeStatistics {
+struct EdgeStatistics
+{
     int largest = 0;
     std::uint64_t sum = 0;
 };
@@ -76,7 +82,9 @@ class EdgeStrip
 {
 public:
     explicit EdgeStrip(const QImage &picture)
-        : m_picture(picture), m_width(picture.width()), m_height(picture.height()),
+        : m_picture(picture),
+          m_width(picture.width()),
+          m_height(picture.height()),
           m_channels{ChannelGradient(m_width, m_height, 0), ChannelGradient(m_width, m_height, 1),
                      ChannelGradient(m_width, m_height, 2)},
           m_magnitudes(3 * static_cast<std::size_t>(m_width))
@@ -147,7 +155,8 @@ EdgeStatistics averageGradients(const QImage &picture, std::uint8_t *edges)
 
 void computeEdgeMap(const QImage &picture, std::uint8_t *edges)
 {
-    const auto pixels = static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
+    const auto pixels =
+        static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
     if (pixels == 0)
         return;
     const EdgeStatistics statistics = averageGradients(picture, edges);

@@ -14,7 +14,8 @@ constexpr double mostPixels = 1 << 28;
 void drawObject(QPainter &painter, const ExportLayers &layers, double scaleX, double scaleY)
 {
     const QPointF corner(std::trunc(layers.offset.x() * scaleX), std::trunc(layers.offset.y() * scaleY));
-    const QSizeF extent(std::trunc(layers.cutOut.width() * scaleX), std::trunc(layers.cutOut.height() * scaleY));
+    const QSizeF extent(std::trunc(layers.cutOut.width() * scaleX),
+                        std::trunc(layers.cutOut.height() * scaleY));
     if (extent.width() * extent.height() > mostPixels) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QRectF(corner, extent), layers.cutOut);

@@ -9,7 +9,8 @@
 #include <QSize>
 
 /// What an export puts together.
-struct ExportLayers {
+struct ExportLayers
+{
     QPixmap canvas;   ///< the background at its own size
     QImage cutOut;    ///< the object with its alpha
     QPoint offset;    ///< where the object lies, in pixels of the preview

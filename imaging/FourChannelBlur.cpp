@@ -73,7 +73,8 @@ bool canBlur(const QImage &src, const QImage &dst)
 
 } // namespace
 
-void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma, const ProgressCallback &progress)
+void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma,
+                      const ProgressCallback &progress)
 {
     if (!canBlur(src, dst))
         return;

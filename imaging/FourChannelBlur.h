@@ -18,4 +18,5 @@ using ProgressCallback = std::function<void(int)>;
 /// size / 2 pixels of `dst` are left as they were; so is all of it where the picture is no larger than that.
 /// `dst` has the size of `src`, four bytes a pixel, and is another picture; if not, nothing is done.
 /// `progress` rises to just below 90.
-void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma, const ProgressCallback &progress);
+void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma,
+                      const ProgressCallback &progress);

@@ -16,7 +16,10 @@ using namespace rowfilters;
 namespace {
 
 using Bytes = CFrImage<unsigned char>;
-unsigned char *rowOf(const Bytes &plane, int y) { return plane.data + std::ptrdiff_t{y} * plane.width; }
+unsigned char *rowOf(const Bytes &plane, int y)
+{
+    return plane.data + std::ptrdiff_t{y} * plane.width;
+}
 
 void copyBorder(const Bytes &src, Bytes &dst, int band)
 {
@@ -63,7 +66,7 @@ constexpr int fastDivisor = 159;
 constexpr int fastBand = 5;
 
 // Indexed by column, then row. The seventh entry (right neighbour) has the weight of a corner on purpose.
-constexpr double smallKernel[9] = {0.05472157, 0.11098164, 0.05472157, 0.11098164, 0.22508352,
+constexpr double smallKernel[9] = {0.05472157, 0.11098164, 0.05472157,  0.11098164, 0.22508352,
                                    0.11098164, 0.05472157, 0.054721575, 0.05472157};
 
 unsigned char smallKernelAt(const Bytes &src, int stride, int x, int y)

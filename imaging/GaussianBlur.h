@@ -19,8 +19,8 @@ int FrGaussianBlurAny(CFrImage<unsigned char> *src, CFrImage<unsigned char> *dst
 /// Separable Gaussian with nine taps, both passes in doubles, truncated once. The outer 4 pixels are copied.
 int FrGaussianBlur99(CFrImage<unsigned char> *src, CFrImage<unsigned char> *dst, double sigma);
 
-/// A fixed 5 x 5 integer kernel of sum 159. The outer 5 pixels are copied, although the kernel reaches only 2.
-/// A source with more than one channel is the caller's error: nothing is written.
+/// A fixed 5 x 5 integer kernel of sum 159. The outer 5 pixels are copied, although the kernel reaches
+/// only 2. A source with more than one channel is the caller's error: nothing is written.
 int FrGaussianBlurFast(CFrImage<unsigned char> *src, CFrImage<unsigned char> *dst);
 
 /// A fixed 3 x 3 kernel whose right neighbour weighs half as much as the left one; each product is truncated

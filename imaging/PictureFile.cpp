@@ -26,7 +26,8 @@ QImage readPicture(const QString &path)
 
 bool writePicture(const QImage &picture, const QString &path, const QByteArray &format)
 {
-    if (picture.isNull() || path.isEmpty() || !QImageWriter::supportedImageFormats().contains(format.toLower()))
+    if (picture.isNull() || path.isEmpty() ||
+        !QImageWriter::supportedImageFormats().contains(format.toLower()))
         return false;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))

@@ -12,7 +12,7 @@
 /// Null when the file can't be read, holds no picture, or would need more than 1 GiB of pixels.
 [[nodiscard]] QImage readPicture(const QString &path);
 
-/// Writes a picture in `format` ("jpg", "png" ...) at quality 100. The file appears, or takes the place of the
-/// one that was there, in one step when all of it is on the disk: whatever fails before leaves an older file
-/// whole and no new one behind. Returns whether it was written.
+/// Writes a picture in `format` ("jpg", "png" ...) at quality 100. The file appears, or takes the place of
+/// the one that was there, in one step when all of it is on the disk: whatever fails before leaves an older
+/// file whole and no new one behind. Returns whether it was written.
 bool writePicture(const QImage &picture, const QString &path, const QByteArray &format);

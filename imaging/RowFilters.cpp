@@ -9,7 +9,10 @@ namespace rowfilters {
 
 namespace {
 
-std::uint8_t lowByte(double value) { return static_cast<std::uint8_t>(static_cast<int>(value)); }
+std::uint8_t lowByte(double value)
+{
+    return static_cast<std::uint8_t>(static_cast<int>(value));
+}
 
 } // namespace
 
@@ -50,13 +53,14 @@ void cutOnce(RowRing<double> &rows, int y, HalfKernel half, int from, int to, st
     }
 }
 
-void sobelMagnitudeRow(const std::uint8_t *above, const std::uint8_t *mid, const std::uint8_t *below, int width,
-                       std::uint8_t *out)
+void sobelMagnitudeRow(const std::uint8_t *above, const std::uint8_t *mid, const std::uint8_t *below,
+                       int width, std::uint8_t *out)
 {
     out[0] = 0;
     out[width - 1] = 0;
     for (int x = 1; x < width - 1; ++x) {
-        const int gx = above[x + 1] + 2 * mid[x + 1] + below[x + 1] - above[x - 1] - 2 * mid[x - 1] - below[x - 1];
+        const int gx =
+            above[x + 1] + 2 * mid[x + 1] + below[x + 1] - above[x - 1] - 2 * mid[x - 1] - below[x - 1];
         const int gy =
             above[x - 1] + 2 * above[x] + above[x + 1] - below[x - 1] - 2 * below[x] - below[x + 1];
         // A magnitude of 256 or more wraps: strong edges fold back, and the edge map relies on it.

@@ -21,7 +21,9 @@ template <typename T> class RowRing
 {
 public:
     RowRing(int width, int rows)
-        : m_width(static_cast<std::size_t>(width)), m_rows(rows), m_data(m_width * static_cast<std::size_t>(rows))
+        : m_width(static_cast<std::size_t>(width)),
+          m_rows(rows),
+          m_data(m_width * static_cast<std::size_t>(rows))
     {
     }
     T *row(int y) { return m_data.data() + static_cast<std::size_t>(y % m_rows) * m_width; }
@@ -35,14 +37,15 @@ private:
 /// Horizontal pass over `in`: centre first, then the pairs outward. Writes out[radius .. width - radius - 1].
 void smoothRow(const std::uint8_t *in, int width, HalfKernel half, double *out);
 
-/// Vertical pass for row `y`, cut to a byte after the centre and after every pair. Columns `from` .. `to` - 1.
+/// Vertical pass for row `y`, cut to a byte after the centre and after every pair. Columns `from` .. `to`
+/// - 1.
 void cutAtEachTap(RowRing<double> &rows, int y, HalfKernel half, int from, int to, std::uint8_t *out);
 
 /// Vertical pass for row `y`, summed in doubles and cut once. Columns `from` .. `to` - 1.
 void cutOnce(RowRing<double> &rows, int y, HalfKernel half, int from, int to, std::uint8_t *out);
 
 /// Low byte of the truncated Sobel gradient magnitude of the middle row; the first and last column become 0.
-void sobelMagnitudeRow(const std::uint8_t *above, const std::uint8_t *mid, const std::uint8_t *below, int width,
-                       std::uint8_t *out);
+void sobelMagnitudeRow(const std::uint8_t *above, const std::uint8_t *mid, const std::uint8_t *below,
+                       int width, std::uint8_t *out);
 
 } // namespace rowfilters

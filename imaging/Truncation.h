@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <limits>
 
-/// Truncates toward zero. What lies so far out that arithmetic with it could overflow an int is moved to a bound
-/// that is still off every picture; what is not a number becomes 0.
+/// Truncates toward zero. What lies so far out that arithmetic with it could overflow an int is moved to a
+/// bound that is still off every picture; what is not a number becomes 0.
 inline int truncateToInt(double value)
 {
     constexpr double bound = std::numeric_limits<int>::max() / 4;

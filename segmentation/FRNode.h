@@ -3,8 +3,10 @@
 
 #pragma once
 
-/// A pixel that waits in a level queue of the flooding, as programs that keep such queues of their own see it.
-struct FRNode {
+/// A pixel that waits in a level queue of the flooding, as programs that keep such queues of their own see
+/// it.
+struct FRNode
+{
     int index;  ///< y · width + x
     int offset; ///< byte offset of the pixel in the colour picture: y · bytesPerLine + 4 · x
 };

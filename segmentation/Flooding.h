@@ -22,13 +22,13 @@ enum class EdgeCost {
     highest   ///< 255, whatever the value
 };
 
-/// Writes, for the pixels of one row, how much their brightness differs from the right-hand neighbour (0 for the
-/// last one) and from the pixel above (0 where `above` is null).
+/// Writes, for the pixels of one row, how much their brightness differs from the right-hand neighbour (0 for
+/// the last one) and from the pixel above (0 where `above` is null).
 void colourDifferences(const std::uint8_t *row, const std::uint8_t *above, int width, std::uint8_t *toRight,
                        std::uint8_t *toAbove);
 
-/// A picture being flooded. `Word` holds all that the flooding has to know of a pixel, so that a visit costs one
-/// access to memory: the edge cost, both colour differences and, in what is left of it, the label.
+/// A picture being flooded. `Word` holds all that the flooding has to know of a pixel, so that a visit costs
+/// one access to memory: the edge cost, both colour differences and, in what is left of it, the label.
 template <typename Word> class Flooding
 {
 public:
@@ -36,14 +36,15 @@ public:
     static constexpr std::uint64_t mostRegions = (Word{} - Word{1} >> 24) - 2;
 
     Flooding(const QImage &image, const std::uint8_t *edges, EdgeCost rule)
-        : m_width(image.width()), m_height(image.height()),
+        : m_width(image.width()),
+          m_height(image.height()),
           m_words(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
     {
         prepare(image, edges, rule);
     }
 
-    /// Labels pixels as belonging to `region`, 1 .. mostRegions. A later call wins; indices off the picture are
-    /// passed over.
+    /// Labels pixels as belonging to `region`, 1 .. mostRegions. A later call wins; indices off the picture
+    /// are passed over.
     template <typename Indices> void seed(const Indices &indices, Word region)
     {
         for (const int index : indices)

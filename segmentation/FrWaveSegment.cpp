@@ -17,15 +17,19 @@ class WaveGrower
 {
 public:
     WaveGrower(const QImage &image, int threshold)
-        : m_bits(image.constBits()), m_bytesPerLine(image.bytesPerLine()), m_width(image.width()),
-          m_height(image.height()), m_threshold(threshold),
+        : m_bits(image.constBits()),
+          m_bytesPerLine(image.bytesPerLine()),
+          m_width(image.width()),
+          m_height(image.height()),
+          m_threshold(threshold),
           m_taken(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
     {
     }
 
     [[nodiscard]] bool isTaken(int index) const { return m_taken[static_cast<std::size_t>(index)] != 0; }
 
-    /// The region that starts at `start`. The start itself is not marked taken: a neighbour may take it again.
+    /// The region that starts at `start`. The start itself is not marked taken: a neighbour may take it
+    /// again.
     QList<int> grow(int start)
     {
         m_region.clear();
@@ -109,6 +113,12 @@ int FrWaveSegment(QImage *image, QList<QList<int>> &regions, int threshold, QPro
     return 0;
 }
 
-bool IsBlack(unsigned char value) { return value == 0; }
+bool IsBlack(unsigned char value)
+{
+    return value == 0;
+}
 
-bool is_white_mw(unsigned char value) { return value == 255; }
+bool is_white_mw(unsigned char value)
+{
+    return value == 255;
+}

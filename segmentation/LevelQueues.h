@@ -51,12 +51,14 @@ public:
 private:
     static constexpr std::uint32_t blockSize = 510; // a block is 2 KiB
 
-    struct Block {
+    struct Block
+    {
         Block *next;
         std::array<std::uint32_t, blockSize> indices;
     };
 
-    struct Level {
+    struct Level
+    {
         Block *head = nullptr;
         Block *tail = nullptr;
         std::uint32_t begin = 0; ///< next to pop, in head

@@ -22,8 +22,10 @@ class RingWalk
 {
 public:
     explicit RingWalk(const QBitmap &mask)
-        : m_mask(mask.toImage().convertToFormat(QImage::Format_ARGB32)), m_width(m_mask.width()),
-          m_height(m_mask.height()), m_taken(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
+        : m_mask(mask.toImage().convertToFormat(QImage::Format_ARGB32)),
+          m_width(m_mask.width()),
+          m_height(m_mask.height()),
+          m_taken(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
     {
     }
 
@@ -59,7 +61,10 @@ public:
     }
 
 private:
-    [[nodiscard]] QRgb at(int x, int y) const { return reinterpret_cast<const QRgb *>(m_mask.constScanLine(y))[x]; }
+    [[nodiscard]] QRgb at(int x, int y) const
+    {
+        return reinterpret_cast<const QRgb *>(m_mask.constScanLine(y))[x];
+    }
     [[nodiscard]] bool isBlack(int x, int y) const { return y >= 0 && at(x, y) == black; }
 
     [[nodiscard]] bool isBorder(int x, int y) const

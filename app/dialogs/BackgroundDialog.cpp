@@ -32,10 +32,22 @@ void BackgroundDialog::enableChoosers(bool colour, bool picture)
     m_form->pushButton_2->setEnabled(picture);
 }
 
-void BackgroundDialog::on_pictureradioButton_clicked() { enableChoosers(false, true); }
-void BackgroundDialog::on_colorradioButton_clicked() { enableChoosers(true, false); }
-void BackgroundDialog::on_whiteradioButton_clicked() { enableChoosers(false, false); }
-void BackgroundDialog::on_transparentradioButton_clicked() { enableChoosers(false, false); }
+void BackgroundDialog::on_pictureradioButton_clicked()
+{
+    enableChoosers(false, true);
+}
+void BackgroundDialog::on_colorradioButton_clicked()
+{
+    enableChoosers(true, false);
+}
+void BackgroundDialog::on_whiteradioButton_clicked()
+{
+    enableChoosers(false, false);
+}
+void BackgroundDialog::on_transparentradioButton_clicked()
+{
+    enableChoosers(false, false);
+}
 
 void BackgroundDialog::on_pushButton_clicked()
 {
@@ -47,8 +59,8 @@ void BackgroundDialog::on_pushButton_clicked()
 
 void BackgroundDialog::on_pushButton_2_clicked()
 {
-    m_form->picturelabel->setText(
-        QFileDialog::getOpenFileName(this, tr("Open Image"), QString(), tr("Image Files (*.png *.jpg *.bmp)")));
+    m_form->picturelabel->setText(QFileDialog::getOpenFileName(this, tr("Open Image"), QString(),
+                                                               tr("Image Files (*.png *.jpg *.bmp)")));
 }
 
 void BackgroundDialog::on_buttonBox_accepted()

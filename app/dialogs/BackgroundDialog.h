@@ -20,8 +20,8 @@ public:
     explicit BackgroundDialog(QWidget *parent = nullptr);
     ~BackgroundDialog() override;
 
-    bool accepted = false; ///< OK was pressed
-    bool useColor = true;  ///< the answer is `color`, else `picturePath`
+    bool accepted = false;           ///< OK was pressed
+    bool useColor = true;            ///< the answer is `color`, else `picturePath`
     unsigned int color = 0xFFFFFFFF; ///< ARGB
     QString picturePath;
 

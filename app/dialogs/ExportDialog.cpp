@@ -13,7 +13,9 @@
 #include <QSettings>
 
 ExportDialog::ExportDialog(int width, int height, QSettings *settings, QWidget *parent)
-    : QDialog(parent), m_form(std::make_unique<Ui_ExportDialog>()), m_settings(settings),
+    : QDialog(parent),
+      m_form(std::make_unique<Ui_ExportDialog>()),
+      m_settings(settings),
       m_aspect(static_cast<float>(height) / static_cast<float>(width))
 {
     m_form->setupUi(this);
@@ -53,7 +55,8 @@ void ExportDialog::on_checkBox_toggled(bool checked)
 void ExportDialog::on_pushButton_clicked()
 {
     const QString directory =
-        m_settings->value(settings::currentDirectory.name, settings::currentDirectory.dialogDefault).toString();
+        m_settings->value(settings::currentDirectory.name, settings::currentDirectory.dialogDefault)
+            .toString();
     const QString name = QFileDialog::getSaveFileName(this, tr("Save File"), directory,
                                                       tr("JPG Files (*.jpg);;PNG Files (*.png)"));
     if (name.isEmpty())

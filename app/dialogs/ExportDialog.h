@@ -16,7 +16,8 @@ class ExportDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Starts with the given size, whose proportions are kept until the user says otherwise. `settings` is borrowed.
+    /// Starts with the given size, whose proportions are kept until the user says otherwise. `settings` is
+    /// borrowed.
     ExportDialog(int width, int height, QSettings *settings, QWidget *parent);
     ~ExportDialog() override;
 

@@ -13,7 +13,9 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
     : QDialog(parent), m_form(std::make_unique<Ui_OptionsDialog>()), m_settings(settings)
 {
     m_form->setupUi(this);
-    const auto stored = [this](const settings::Key &key) { return m_settings->value(key.name, key.dialogDefault); };
+    const auto stored = [this](const settings::Key &key) {
+        return m_settings->value(key.name, key.dialogDefault);
+    };
     m_form->spinBox->setValue(stored(settings::keepMarkerSize).toInt());
     m_form->spinBox_2->setValue(stored(settings::removeMarkerSize).toInt());
     m_form->spinBox_4->setValue(stored(settings::keepBrushSize).toInt());
@@ -25,7 +27,8 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
     m_form->spinBox_9->setValue(stored(settings::gaussSize).toInt());
     m_form->spinBox_6->setValue(stored(settings::keepBrushIntensity).toInt());
     m_form->spinBox_7->setValue(stored(settings::removeBrushIntensity).toInt());
-    m_form->checkBox->setChecked(false); // not read: confirming the dialog turns the shared size off unless ticked
+    m_form->checkBox->setChecked(
+        false); // not read: confirming the dialog turns the shared size off unless ticked
 }
 
 OptionsDialog::~OptionsDialog() = default;

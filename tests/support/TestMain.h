@@ -11,8 +11,8 @@
 
 namespace testsupport {
 
-/// Runs a test object in a world of its own: its settings and temporary files go to a folder that is removed at the
-/// end, and never to the user's own. Offscreen unless QT_QPA_PLATFORM names another platform.
+/// Runs a test object in a world of its own: its settings and temporary files go to a folder that is removed
+/// at the end, and never to the user's own. Offscreen unless QT_QPA_PLATFORM names another platform.
 template <typename TestObject> int runTest(int argc, char *argv[])
 {
     QTemporaryDir world;
@@ -35,5 +35,8 @@ template <typename TestObject> int runTest(int argc, char *argv[])
 
 } // namespace testsupport
 
-#define ORNEVO_TEST_MAIN(TestObject)                                                                                   \
-    int main(int argc, char *argv[]) { return testsupport::runTest<TestObject>(argc, argv); }
+#define ORNEVO_TEST_MAIN(TestObject)                                                                         \
+    int main(int argc, char *argv[])                                                                         \
+    {                                                                                                        \
+        return testsupport::runTest<TestObject>(argc, argv);                                                 \
+    }

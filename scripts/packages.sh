@@ -1,0 +1,36 @@
+# Sourced by the scripts: what they need from Debian, and how it gets there.
+
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libhwy-dev)
+# qt6-image-formats-plugins reads TIFF; the fonts are for machines that have none yet.
+run_packages=(qt6-image-formats-plugins fontconfig fonts-dejavu-core)
+headless_packages=(xvfb xauth)
+check_packages=(clang libclang-rt-14-dev clang-format clang-tidy git)
+
+say() { printf '== %s\n' "$*"; }
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# Installs those of the named packages that are missing; asks for root only when there are any.
+need_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} = 0 ] && return 0
+    say "installing from Debian: ${missing[*]}"
+    as_root apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
+
+# Configures and builds a preset of CMakePresets.json.
+build_preset() {
+    say "configuring and building: $1"
+    cmake --preset "$1"
+    cmake --build --preset "$1"
+}

@@ -1,0 +1,297 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "tour/Story.h"
+
+#include "tour/Agreement.h"
+
+#include <QAction>
+#include <QGraphicsPixmapItem>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double leastAgreement = 0.97;
+constexpr qreal overlayZ = 7.0;
+constexpr qreal objectZ = 10.0;
+constexpr int movesPerStroke = 40;
+
+bool isGreen(QRgb pixel)
+{
+    return (pixel & 0xFFFFFF) == 0x00FF00;
+}
+bool isMostlyOpaque(QRgb pixel)
+{
+    return qAlpha(pixel) >= 128;
+}
+
+} // namespace
+
+Story::Story(QMainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures)
+    : m_window(window),
+      m_driver(window, folder),
+      m_samples(samples),
+      m_helpPictures(helpPictures),
+      m_strokes(readStrokes(m_samples.filePath("still-life-strokes.txt"))),
+      m_truth(m_samples.filePath("still-life-mask.png"))
+{
+    expect(!m_truth.isNull(), "the sample's true mask can't be read");
+}
+
+void Story::tell()
+{
+    m_driver.picture("start");
+    openPhoto();
+    layMarks();
+    undoAndErase();
+    showMask();
+    showPreview();
+    touchUp();
+    chooseColours();
+    choosePicture();
+    moveAndZoom();
+    exportPictures();
+    readHelp();
+    leavePreview();
+}
+
+void Story::openPhoto()
+{
+    const QString path = m_samples.absoluteFilePath("still-life.jpg");
+    m_driver.withDialog(
+        "QFileDialog",
+        [&](QWidget &dialog) {
+            m_driver.picture("open", dialog);
+            Driver::chooseFile(dialog, path);
+        },
+        [&] { m_driver.clickTool("actionOpen"); });
+    expect(m_window.windowTitle() == "Ornevo Pro - still-life.jpg", "the title does not name the photo");
+    expect(m_window.statusBar()->currentMessage() == "Ready", "the status bar does not say Ready");
+    expect(itemCount(QGraphicsPixmapItem::Type) == 1, "the photo is not on the canvas");
+    m_driver.picture("photo");
+}
+
+void Story::layMarks()
+{
+    m_driver.clickTool("actionKeep_arker");
+    for (const QLineF &stroke : m_strokes.keep)
+        m_driver.drag(stroke.p1(), stroke.p2(), movesPerStroke);
+    expect(itemCount(QGraphicsRectItem::Type) > 0, "no Keep marks were laid");
+    m_driver.picture("keep-marks");
+
+    m_driver.clickTool("action_Remove_Marker");
+    for (const QLineF &stroke : m_strokes.remove)
+        m_driver.drag(stroke.p1(), stroke.p2(), movesPerStroke);
+    expect(itemCount(QGraphicsEllipseItem::Type) > 0, "no Remove marks were laid");
+    m_driver.picture("remove-marks");
+    helpPicture(3);
+}
+
+void Story::undoAndErase()
+{
+    const qsizetype discs = itemCount(QGraphicsEllipseItem::Type);
+    m_driver.press(Qt::Key_Z, Qt::ControlModifier);
+    expect(itemCount(QGraphicsEllipseItem::Type) == discs - 1, "Undo did not take one Remove dab away");
+
+    const qsizetype squares = itemCount(QGraphicsRectItem::Type);
+    m_driver.clickTool("actionEraser");
+    m_driver.drag(m_strokes.keep.first().p1(), m_strokes.keep.first().p1(), 1);
+    expect(itemCount(QGraphicsRectItem::Type) < squares, "the eraser took nothing away");
+    m_driver.picture("undone-and-erased");
+}
+
+void Story::showMask()
+{
+    m_driver.clickTool("actionMask");
+    const QImage overlay = pixmapAt(overlayZ).toImage();
+    expect(overlay.size() == m_truth.size(), "there is no overlay of the photo's size");
+    const double agreement = intersectionOverUnion(overlay, m_truth, isGreen);
+    qInfo("agreement of the mask with the truth (intersection over union): %.4f", agreement);
+    expect(agreement >= leastAgreement, QString("the mask agrees with the truth by %1 only").arg(agreement));
+    m_driver.picture("mask");
+    helpPicture(4);
+}
+
+void Story::showPreview()
+{
+    m_driver.clickTool("actionPreview");
+    const QImage object = pixmapAt(objectZ).toImage();
+    expect(object.size() == m_truth.size() && object.hasAlphaChannel(), "the preview shows no cut-out");
+    const double agreement = intersectionOverUnion(object, m_truth, isMostlyOpaque);
+    expect(agreement >= leastAgreement,
+           QString("the cut-out agrees with the truth by %1 only").arg(agreement));
+    m_driver.picture("preview");
+    helpPicture(5);
+}
+
+void Story::touchUp()
+{
+    const QImage before = pixmapAt(objectZ).toImage();
+    const QPointF inside = m_strokes.keep.last().center();
+    m_driver.clickTool("actionBackground_Brush");
+    m_driver.drag(inside, inside + QPointF(160, 0), 12);
+    Driver::wait(100); // a pause of the pointer ends a batch
+    expect(pixmapAt(objectZ).toImage() != before, "the Background brush changed nothing");
+    m_driver.picture("background-brush");
+
+    m_driver.clickTool("actionForeground_Brush");
+    m_driver.drag(inside, inside + QPointF(160, 0), 12);
+    Driver::wait(100);
+    m_driver.picture("foreground-brush");
+    for (int undone = 0; pixmapAt(objectZ).toImage() != before; ++undone) {
+        expect(undone < 200, "Undo did not bring the cut-out back");
+        m_driver.press(Qt::Key_Z, Qt::ControlModifier);
+    }
+    m_driver.picture("brushes-undone");
+}
+
+void Story::chooseBackground(const QString &radioButton, const std::function<void(QWidget &)> &choose)
+{
+    m_driver.withDialog(
+        "BackgroundDialog",
+        [&](QWidget &dialog) {
+            Driver::click(dialog, radioButton);
+            choose(dialog);
+            m_driver.picture("choose-" + radioButton.chopped(11), dialog);
+            Driver::accept(dialog);
+        },
+        [&] { m_driver.clickTool("actionSelect_Background"); });
+}
+
+void Story::chooseColours()
+{
+    chooseBackground("transparentradioButton", [](QWidget &) {});
+    m_driver.picture("transparent");
+    helpPicture(6);
+    exportTo("transparent.png");
+    const QImage exported(m_driver.file("transparent.png"));
+    expect(exported.size() == m_truth.size() && exported.hasAlphaChannel(), "the exported PNG has no alpha");
+    const double agreement = intersectionOverUnion(exported, m_truth, isMostlyOpaque);
+    expect(agreement >= leastAgreement, QString("the exported object agrees by %1 only").arg(agreement));
+
+    chooseBackground("colorradioButton", [&](QWidget &dialog) {
+        m_driver.withDialog(
+            "QColorDialog",
+            [](QWidget &colours) {
+                auto *html = colours.findChild<QLineEdit *>("qt_colorname_lineedit");
+                expect(html != nullptr, "the colour chooser has no field for a name");
+                html->clear();
+                QTest::keyClicks(html, "#3f7fbf");
+                Driver::accept(colours);
+            },
+            [&] { Driver::click(dialog, "pushButton"); });
+        expect(dialog.findChild<QLabel *>("colorlabel")->text() == "ff3f7fbf",
+               "the chosen colour is not shown");
+    });
+    m_driver.picture("colour");
+    helpPicture(7);
+}
+
+void Story::choosePicture()
+{
+    chooseBackground("pictureradioButton", [&](QWidget &dialog) {
+        m_driver.withDialog(
+            "QFileDialog",
+            [&](QWidget &files) { Driver::chooseFile(files, m_samples.absoluteFilePath("background.jpg")); },
+            [&] { Driver::click(dialog, "pushButton_2"); });
+    });
+    m_driver.picture("picture");
+}
+
+void Story::moveAndZoom()
+{
+    const QPointF inside = m_strokes.keep.last().center();
+    m_driver.clickTool("actionHandTool");
+    m_driver.drag(inside, inside + QPointF(-120, 60), 6);
+    m_driver.clickTool("actionBackgroundZoomPlus");
+    m_driver.clickTool("actionBackgroundZoomPlus");
+    m_driver.picture("moved-and-zoomed");
+    helpPicture(8);
+    m_driver.clickTool("actionZoom_In");
+    m_driver.picture("view-zoomed-in");
+    m_driver.clickTool("actionZoom_Out");
+}
+
+void Story::exportTo(const QString &name)
+{
+    m_driver.withDialog(
+        "ExportDialog",
+        [&](QWidget &dialog) {
+            m_driver.withDialog(
+                "QFileDialog", [&](QWidget &files) { Driver::chooseFile(files, m_driver.file(name)); },
+                [&] { Driver::click(dialog, "pushButton"); });
+            m_driver.picture("export", dialog);
+            Driver::accept(dialog);
+        },
+        [&] { m_driver.press(Qt::Key_S, Qt::ControlModifier); });
+}
+
+void Story::exportPictures()
+{
+    const QImage background(m_samples.filePath("background.jpg"));
+    for (const QString name : {"composition.png", "composition.jpg"}) {
+        exportTo(name);
+        const QImage exported(m_driver.file(name));
+        expect(exported.size() == background.size(), name + " has not the size of the background");
+    }
+}
+
+void Story::readHelp()
+{
+    m_driver.clickMenu("menuHelp", "actionIndex");
+    QWidget *help = m_window.findChild<QWidget *>("HelpDialog");
+    expect(help != nullptr && help->isVisible(), "the help did not open");
+    m_driver.picture("help", *help);
+    help->close();
+    m_driver.withDialog(
+        "QMessageBox",
+        [&](QWidget &box) {
+            m_driver.picture("about", box);
+            Driver::accept(box);
+        },
+        [&] { m_driver.clickMenu("menuHelp", "actionAbout"); });
+    m_driver.withDialog(
+        "OptionsDialog",
+        [&](QWidget &dialog) {
+            m_driver.picture("preferences", dialog);
+            Driver::accept(dialog);
+        },
+        [&] { m_driver.clickMenu("menuOptions", "actionPreferences"); });
+}
+
+void Story::leavePreview()
+{
+    m_driver.clickTool("actionPreview");
+    expect(itemCount(QGraphicsRectItem::Type) > 0, "the marks are gone after the preview");
+    m_driver.picture("back-to-the-marks");
+}
+
+void Story::helpPicture(int number)
+{
+    if (m_helpPictures.isEmpty())
+        return;
+    const QString path = QString("%1/screenshot_%2.png").arg(m_helpPictures).arg(number, 2, 10, QChar('0'));
+    expect(QDir().mkpath(m_helpPictures) && m_driver.look().save(path), "can't write " + path);
+}
+
+QPixmap Story::pixmapAt(qreal z) const
+{
+    for (QGraphicsItem *item : m_driver.canvas().scene()->items())
+        if (auto *picture = qgraphicsitem_cast<QGraphicsPixmapItem *>(item))
+            if (picture->zValue() == z)
+                return picture->pixmap();
+    return {};
+}
+
+qsizetype Story::itemCount(int type) const
+{
+    const auto items = m_driver.canvas().scene()->items();
+    return std::count_if(items.cbegin(), items.cend(),
+                         [type](QGraphicsItem *item) { return item->type() == type; });
+}
