@@ -22,11 +22,12 @@
 
 #ifndef (Stage) #declare Stage = 1; #end
 #ifndef (Lens) #declare Lens = 1; #end         // 0: a quick look, all in focus
-#ifndef (Samples) #declare Samples = 90; #end  // lens samples per pixel
+#ifndef (Samples) #declare Samples = 36; #end  // lens samples per pixel
 
 global_settings {
     assumed_gamma 1.0
-    max_trace_level 4
+    max_trace_level 3
+    adc_bailout 0.02
 #if (Stage = 1)
     radiosity {
         pretrace_start 0.04
@@ -158,7 +159,7 @@ global_settings {
 }
 #declare SpoutPath = spline {
     natural_spline
-    0.00, <-5.20, 4.10, 0>
+    0.00, <-4.00, 4.60, 0>
     0.25, <-8.00, 5.10, 0>
     0.50, <-10.05, 7.30, 0>
     0.75, <-11.40, 9.90, 0>
@@ -166,7 +167,7 @@ global_settings {
 }
 #declare SpoutRadii = spline {
     natural_spline
-    0.00, <2.60, 2.30, 0>
+    0.00, <2.25, 2.10, 0>
     0.25, <1.95, 1.75, 0>
     0.50, <1.42, 1.35, 0>
     0.75, <1.05, 1.02, 0>
@@ -329,8 +330,8 @@ box { <-90, -3, -96>, <90, -0.12, 72> pigment { rgb <0.02, 0.01, 0.006> } finish
 object { Orange translate <-21.5, 0, 46> }
 object { Orange rotate z * 20 translate <-14.0, 0.1, 56> }
 object { Orange scale 0.95 translate <-18.6, 5.4, 52> }
-object { Plum translate <15.9, 0, 11> }
-object { Plum scale 1.05 translate <21.2, 0, 17> }
+object { Plum translate <17.3, 0, 4> }
+object { Plum scale 1.05 translate <22.3, 0, 12> }
 
 #declare BottleShape = spline {
     natural_spline
@@ -372,9 +373,9 @@ box { <-1, -1, 0>, <1, 1, 0.1> scale <70, 80, 1>
     rotate x * -22 rotate y * -48 translate <-210, 150, -190> no_shadow }
 
 light_source { <-235, 200, -130>, rgb <1.0, 0.96, 0.90> * 1.10
-    area_light <80, 0, -80>, <0, 113, 0>, 7, 7 adaptive 1 jitter circular }
+    area_light <80, 0, -80>, <0, 113, 0>, 3, 3 adaptive 0 jitter circular }
 light_source { <230, 120, -260>, rgb <1.0, 0.90, 0.78> * 0.34
-    area_light <60, 0, 60>, <0, 85, 0>, 4, 4 adaptive 1 jitter circular }
+    area_light <60, 0, 60>, <0, 85, 0>, 2, 2 adaptive 0 jitter circular }
 
 #end
 
@@ -464,8 +465,8 @@ Jar(36, 35.5, 5.0, 10, <0.30, 0.13, 0.07>)
 #declare K = 0;
 #while (K < 26)
     #declare X = -58 + 4.7 * K + 2.4 * rand(LampDice);
-    sphere { <X, 66.0 - 5 * abs(sin(X * 0.09)) + 4.5 * rand(LampDice), -3>, 0.55
-        pigment { rgb 1 } finish { ambient 0 diffuse 0 emission <1.0, 0.58, 0.22> * (5 + 7 * rand(LampDice)) } no_shadow }
+    sphere { <X, 66.0 - 5 * abs(sin(X * 0.09)) + 4.5 * rand(LampDice), -3>, 0.7
+        pigment { rgb 1 } finish { ambient 0 diffuse 0 emission <1.0, 0.58, 0.22> * (2.6 + 3.4 * rand(LampDice)) } no_shadow }
     #declare K = K + 1;
 #end
 
@@ -489,10 +490,10 @@ camera {
     angle 2 * degrees(atan2(FrameWidth / 2, Distance))
 #if (Stage = 1 & Lens)
     focal_point <0, 3, -2.2>
-    aperture 3.0
-    blur_samples Samples
-    confidence 0.97
-    variance 1 / 6000
+    aperture 5.0
+    blur_samples 16, Samples
+    confidence 0.9
+    variance 1 / 1500
 #end
 }
 
