@@ -22,7 +22,7 @@
 
 #ifndef (Stage) #declare Stage = 1; #end
 #ifndef (Lens) #declare Lens = 1; #end         // 0: a quick look, all in focus
-#ifndef (Samples) #declare Samples = 36; #end  // lens samples per pixel
+#ifndef (Samples) #declare Samples = 19; #end  // lens samples per pixel
 
 global_settings {
     assumed_gamma 1.0
@@ -491,7 +491,7 @@ camera {
 #if (Stage = 1 & Lens)
     focal_point <0, 3, -2.2>
     aperture 5.0
-    blur_samples 16, Samples
+    blur_samples 7, Samples
     confidence 0.9
     variance 1 / 1500
 #end
