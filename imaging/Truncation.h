@@ -10,6 +10,6 @@
 /// bound that is still off every picture; what is not a number becomes 0.
 inline int truncateToInt(double value)
 {
-    constexpr double bound = std::numeric_limits<int>::max() / 4;
+    constexpr double bound = std::numeric_limits<int>::max() * 0.25;
     return value == value ? static_cast<int>(std::clamp(value, -bound, bound)) : 0;
 }

@@ -70,6 +70,9 @@ void Driver::clickMenu(const QString &menuName, const QString &actionName)
 
 void Driver::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
+    // Shortcuts reach the active window only, and not every platform hands that back after a dialog.
+    m_window.activateWindow();
+    expect(QTest::qWaitForWindowActive(&m_window), "the window does not become active");
     QTest::keyClick(&m_window, key, modifiers);
     wait(settleTime);
 }

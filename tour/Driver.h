@@ -31,7 +31,7 @@ public:
     Driver(QMainWindow &window, const QString &folder);
 
     [[nodiscard]] QGraphicsView &canvas() const { return *m_canvas; }
-    [[nodiscard]] QString file(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString file(const QString &name) const { return m_folder.absoluteFilePath(name); }
 
     /// Clicks the tool-bar button of an action.
     void clickTool(const QString &action);

@@ -179,7 +179,10 @@ void Story::chooseColours()
         m_driver.withDialog(
             "QColorDialog",
             [](QWidget &colours) {
-                auto *html = colours.findChild<QLineEdit *>("qt_colorname_lineedit");
+                QLineEdit *html = nullptr;
+                for (QLineEdit *edit : colours.findChildren<QLineEdit *>())
+                    if (edit->objectName() != "qt_spinbox_lineedit") // those are inside of the spin boxes
+                        html = edit;
                 expect(html != nullptr, "the colour chooser has no field for a name");
                 html->clear();
                 QTest::keyClicks(html, "#3f7fbf");
