@@ -35,7 +35,10 @@ double resizeFactor(double shown, double newLength, double oldLength)
 
 } // namespace
 
-ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent) {}
+ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent)
+{
+    setBackgroundBrush(palette().mid()); // so that the edges of a white picture can be seen
+}
 
 ZelGraphicsView::~ZelGraphicsView()
 {
