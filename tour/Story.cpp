@@ -153,8 +153,8 @@ void Story::touchUp()
     expect(pixmapAt(objectZ).toImage() != before, "the Background brush changed nothing");
     m_driver.picture("background-brush");
 
-    m_driver.clickTool("actionForeground_Brush");
-    m_driver.drag(inside, inside + QPointF(200, 0), movesPerBrushStroke);
+    m_driver.clickTool("actionForeground_Brush"); // brings back half of it
+    m_driver.drag(inside, inside + QPointF(100, 0), movesPerBrushStroke);
     Driver::wait(batchPause);
     m_driver.picture("foreground-brush");
     undoAndRedoTouchUp(before);
@@ -163,6 +163,7 @@ void Story::touchUp()
 void Story::undoAndRedoTouchUp(const QImage &before)
 {
     const QImage touchedUp = m_state.previewImage();
+    expect(pixmapAt(objectZ).toImage() != before, "the Foreground brush undid more than its stroke");
     const auto undoAll = [&] {
         for (int undone = 0; pixmapAt(objectZ).toImage() != before; ++undone) {
             expect(undone < mostUndos, "Undo did not bring the cut-out back");
