@@ -128,6 +128,8 @@ private slots:
     void ninetyNineAgrees();
     void ninetyNineOfAConstant();
     void constantsShowTheOrderOfTheSum();
+    void rampsShowHowPairsAreAdded_data();
+    void rampsShowHowPairsAreAdded();
     void fastAgrees();
     void fastOfAConstant();
     void fastLeavesABandOfFive();
@@ -304,6 +306,36 @@ void TestGaussianBlur::constantsShowTheOrderOfTheSum()
         }
     }
     QVERIFY2(otherwise > 0, "from left to right the sums came out the same: nothing was shown");
+}
+
+void TestGaussianBlur::rampsShowHowPairsAreAdded_data()
+{
+    QTest::addColumn<int>("across");
+    QTest::addColumn<int>("down");
+    for (const int across : {-9, 0, 3, 13})
+        for (const int down : {-11, 0, 7, 14})
+            QTest::addRow("%d across, %d down", across, down) << across << down;
+}
+
+void TestGaussianBlur::rampsShowHowPairsAreAdded()
+{
+    // On an even slope the two pixels of a pair differ while the sum comes out within a hair of a whole
+    // number, so that it shows whether a pair is added before it is weighted.
+    QFETCH(int, across);
+    QFETCH(int, down);
+    for (int middle = 120; middle <= 136; ++middle) {
+        Plane picture(9, 9);
+        for (int y = 0; y < 9; ++y)
+            for (int x = 0; x < 9; ++x)
+                picture.at(x, y) = static_cast<std::uint8_t>(middle + (x - 4) * across + (y - 4) * down);
+        for (int i = 1; i <= 60; ++i) {
+            const double sigma = 0.1 * i;
+            const QByteArray once = complaint(ninetyNine(sigma), referenceNinetyNine(sigma), picture);
+            QVERIFY2(once.isEmpty(), once.constData());
+            const QByteArray tapwise = complaint(any(sigma, 9), referenceAny(sigma, 9), picture);
+            QVERIFY2(tapwise.isEmpty(), tapwise.constData());
+        }
+    }
 }
 
 void TestGaussianBlur::fastAgrees()
