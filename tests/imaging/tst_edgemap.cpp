@@ -91,7 +91,7 @@ void TestEdgeMap::agreesOnPaddedPictures()
 void TestEdgeMap::agreesOnPhotographs()
 {
     SKIP_WITHOUT_PHOTOGRAPHS();
-    for (const QString &path : testsupport::installedPhotographs()) {
+    for (const QString &path : testsupport::availablePhotographs()) {
         const QImage picture = testsupport::smallPhotograph(path);
         QVERIFY2(!picture.isNull(), qPrintable(path));
         VERIFY_SAME(path.toUtf8(), edgeMapOf(picture), reference::edgeMap(picture), picture.width());

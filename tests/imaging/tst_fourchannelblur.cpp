@@ -116,7 +116,7 @@ void TestFourChannelBlur::agreesOnPaddedPictures()
 void TestFourChannelBlur::agreesOnPhotographs()
 {
     SKIP_WITHOUT_PHOTOGRAPHS();
-    for (const QString &path : testsupport::installedPhotographs()) {
+    for (const QString &path : testsupport::availablePhotographs()) {
         const QImage picture = testsupport::smallPhotograph(path, {120, 120});
         VERIFY_SAME(path.toUtf8(), blurred(picture, 5, 1.0), expectedOf(picture, 5, 1.0));
     }

@@ -162,7 +162,7 @@ void TestFrWatershed::agreesOnPaddedPictures()
 void TestFrWatershed::agreesOnPhotographs()
 {
     SKIP_WITHOUT_PHOTOGRAPHS();
-    for (const QString &path : testsupport::installedPhotographs()) {
+    for (const QString &path : testsupport::availablePhotographs()) {
         const QImage photo = testsupport::smallPhotograph(path);
         QVERIFY2(!photo.isNull(), qPrintable(path));
         const Indices keep = square(photo.width() / 2 - 8, photo.height() / 2 - 8, 16, photo.width());

@@ -155,7 +155,7 @@ void TestFrWatershedMany::agreesOnPaddedPictures()
 void TestFrWatershedMany::agreesOnPhotographs()
 {
     SKIP_WITHOUT_PHOTOGRAPHS();
-    for (const QString &path : testsupport::installedPhotographs()) {
+    for (const QString &path : testsupport::availablePhotographs()) {
         const QImage photo = testsupport::smallPhotograph(path);
         const Seeds seeds = gridOfSeeds(photo.size(), 40);
         const QByteArray words = complaint(photo, seeds, reference::edgeMap(photo), {Indices{}});

@@ -87,7 +87,7 @@ void TestFrWaveSegment::agreesOnPaddedPictures()
 void TestFrWaveSegment::agreesOnPhotographs()
 {
     SKIP_WITHOUT_PHOTOGRAPHS();
-    for (const QString &path : testsupport::installedPhotographs()) {
+    for (const QString &path : testsupport::availablePhotographs()) {
         const QImage photo = testsupport::smallPhotograph(path, {120, 120});
         QVERIFY2(!photo.isNull() && regionsOf(photo, 30) == expectedOf(photo, 30), qPrintable(path));
     }

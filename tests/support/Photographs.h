@@ -10,21 +10,23 @@
 
 namespace testsupport {
 
-/// Photographs that Debian's packages mate-backgrounds and python3-skimage install; a few of each, since one
-/// more of a kind shows little. Empty where neither is there.
-inline QStringList installedPhotographs()
+/// Photographs that Debian's packages mate-backgrounds and python3-skimage ship; a few of each, since one
+/// more of a kind shows little. They are looked for where scripts/fetch-photos unpacks them (named by
+/// ORNEVO_PHOTOS), then where the packages install them. Empty where there are none.
+inline QStringList availablePhotographs()
 {
-    const QStringList candidates{"/usr/share/backgrounds/mate/nature/Garden.jpg",
-                                 "/usr/share/backgrounds/mate/nature/LadyBird.jpg",
-                                 "/usr/share/backgrounds/mate/nature/FreshFlower.jpg",
-                                 "/usr/lib/python3/dist-packages/skimage/data/astronaut.png",
-                                 "/usr/lib/python3/dist-packages/skimage/data/camera.png",
-                                 "/usr/lib/python3/dist-packages/skimage/data/coffee.png",
-                                 "/usr/lib/python3/dist-packages/skimage/data/rocket.jpg"};
+    const QStringList folders{qEnvironmentVariable("ORNEVO_PHOTOS"), "/usr/share/backgrounds/mate/nature",
+                              "/usr/lib/python3/dist-packages/skimage/data"};
     QStringList found;
-    for (const QString &candidate : candidates)
-        if (QFileInfo::exists(candidate))
-            found.append(candidate);
+    for (const QString name : {"Garden.jpg", "LadyBird.jpg", "FreshFlower.jpg", "astronaut.png", "camera.png",
+                               "coffee.png", "rocket.jpg"}) {
+        for (const QString &folder : folders) {
+            if (!folder.isEmpty() && QFileInfo::exists(folder + "/" + name)) {
+                found.append(folder + "/" + name);
+                break;
+            }
+        }
+    }
     return found;
 }
 
@@ -40,5 +42,5 @@ inline QImage smallPhotograph(const QString &path, QSize bounds = QSize(240, 180
 
 /// Leaves the test, saying why, where no photograph is installed.
 #define SKIP_WITHOUT_PHOTOGRAPHS()                                                                           \
-    if (testsupport::installedPhotographs().isEmpty())                                                       \
-    QSKIP("neither mate-backgrounds nor python3-skimage is installed")
+    if (testsupport::availablePhotographs().isEmpty())                                                       \
+    QSKIP("no photographs: neither unpacked by scripts/fetch-photos nor installed")
