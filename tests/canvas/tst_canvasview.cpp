@@ -20,6 +20,8 @@ Q_DECLARE_METATYPE(DrawingTools)
 
 using testsupport::CanvasMouse;
 
+static void loadResources() { Q_INIT_RESOURCE(ornevo); } // outside any namespace, as the macro wants it
+
 namespace {
 
 constexpr int sceneWidth = 200;
@@ -101,7 +103,7 @@ class CanvasViewTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerResources(); }
+    void initTestCase() { loadResources(); }
     void toolsHaveTheirNumbers();
     void signalsStandInOrder();
     void cursorOfTool_data();
@@ -130,13 +132,7 @@ private slots:
     void circleAndPenOutliveNothing_data();
     void circleAndPenOutliveNothing();
     void partsGoInAnyOrder();
-
-private:
-    static void registerResources();
 };
-
-static void loadResources() { Q_INIT_RESOURCE(ornevo); }
-void CanvasViewTest::registerResources() { loadResources(); }
 
 void CanvasViewTest::toolsHaveTheirNumbers()
 {

@@ -17,6 +17,8 @@
 
 Q_DECLARE_METATYPE(DrawingTools)
 
+static void loadResources() { Q_INIT_RESOURCE(ornevo); } // outside any namespace, as the macro wants it
+
 namespace {
 
 /// A view in which a point of the viewport is, at zoom 1, the point of the scene.
@@ -76,6 +78,7 @@ class MarkersTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { loadResources(); }
     void keepDab();
     void removeDab();
     void clickWithoutMovementLaysNothing();

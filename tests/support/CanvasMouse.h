@@ -3,15 +3,16 @@
 
 #pragma once
 
+#include <QApplication>
 #include <QGraphicsView>
+#include <QMouseEvent>
 #include <QTest>
-#include <QWindow>
 
 namespace testsupport {
 
-/// A mouse over a view that is shown. Its events enter at the window, as those of the platform do, and find their way
-/// through Qt to the viewport; nothing moves the pointer of the screen, which would send events of its own.
-/// Positions are in coordinates of the viewport.
+/// A mouse over a view that is shown. Moves go straight to the viewport: a platform drops one that leads nowhere, which
+/// tests need, and moving the pointer of the screen would send events of its own. Positions are in coordinates of the
+/// viewport.
 class CanvasMouse
 {
 public:
@@ -19,12 +20,20 @@ public:
 
     void press(QPoint position, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mousePress(window(), button, {}, inWindow(position));
+        m_held |= button;
+        QTest::mousePress(m_view.viewport(), button, {}, position);
     }
-    void move(QPoint position) { QTest::mouseMove(window(), inWindow(position)); }
+    void move(QPoint position)
+    {
+        QMouseEvent event(QEvent::MouseMove, QPointF(position), QPointF(m_view.viewport()->mapToGlobal(position)),
+                          Qt::NoButton, m_held, Qt::NoModifier);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(m_view.viewport(), &event);
+    }
     void release(QPoint position, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mouseRelease(window(), button, {}, inWindow(position));
+        m_held &= ~Qt::MouseButtons(button);
+        QTest::mouseRelease(m_view.viewport(), button, {}, position);
     }
     void click(QPoint position)
     {
@@ -41,10 +50,8 @@ public:
     }
 
 private:
-    QWindow *window() const { return m_view.window()->windowHandle(); }
-    QPoint inWindow(QPoint position) const { return m_view.viewport()->mapTo(m_view.window(), position); }
-
     QGraphicsView &m_view;
+    Qt::MouseButtons m_held;
 };
 
 } // namespace testsupport
