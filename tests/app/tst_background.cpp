@@ -283,17 +283,39 @@ void BackgroundTest::answers_data()
     QTest::addColumn<QString>("pathText");
     QTest::addColumn<bool>("useColour");
     QTest::addColumn<uint>("colour");
-    QTest::newRow("as it comes") << "" << "FFFFFFFF" << "" << true << 0xFFFFFFFFU;
-    QTest::newRow("white") << "whiteradioButton" << "11223344" << "/a.png" << true << 0xFFFFFFFFU;
-    QTest::newRow("transparent") << "transparentradioButton" << "11223344" << "/a.png" << true << 0U;
-    QTest::newRow("colour untouched") << "colorradioButton" << "FFFFFFFF" << "" << true << 0xFFFFFFFFU;
-    QTest::newRow("colour") << "colorradioButton" << "11223344" << "/a.png" << true << 0x11223344U;
-    QTest::newRow("padded colour") << "colorradioButton" << " 5ff0000" << "" << true << 0x05FF0000U;
-    QTest::newRow("much padded colour") << "colorradioButton" << "       0" << "" << true << 0U;
-    QTest::newRow("unreadable colour") << "colorradioButton" << "no colour" << "" << true << 0U;
-    QTest::newRow("colour too long") << "colorradioButton" << "1FFFFFFFF" << "" << true << 0U;
-    QTest::newRow("picture") << "pictureradioButton" << "11223344" << "/a.png" << false << 0U;
-    QTest::newRow("no picture") << "pictureradioButton" << "11223344" << "" << true << 0xFFFFFFFFU;
+    QTest::newRow("as it comes") << ""
+                                 << "FFFFFFFF"
+                                 << "" << true << 0xFFFFFFFFU;
+    QTest::newRow("white") << "whiteradioButton"
+                           << "11223344"
+                           << "/a.png" << true << 0xFFFFFFFFU;
+    QTest::newRow("transparent") << "transparentradioButton"
+                                 << "11223344"
+                                 << "/a.png" << true << 0U;
+    QTest::newRow("colour untouched") << "colorradioButton"
+                                      << "FFFFFFFF"
+                                      << "" << true << 0xFFFFFFFFU;
+    QTest::newRow("colour") << "colorradioButton"
+                            << "11223344"
+                            << "/a.png" << true << 0x11223344U;
+    QTest::newRow("padded colour") << "colorradioButton"
+                                   << " 5ff0000"
+                                   << "" << true << 0x05FF0000U;
+    QTest::newRow("much padded colour") << "colorradioButton"
+                                        << "       0"
+                                        << "" << true << 0U;
+    QTest::newRow("unreadable colour") << "colorradioButton"
+                                       << "no colour"
+                                       << "" << true << 0U;
+    QTest::newRow("colour too long") << "colorradioButton"
+                                     << "1FFFFFFFF"
+                                     << "" << true << 0U;
+    QTest::newRow("picture") << "pictureradioButton"
+                             << "11223344"
+                             << "/a.png" << false << 0U;
+    QTest::newRow("no picture") << "pictureradioButton"
+                                << "11223344"
+                                << "" << true << 0xFFFFFFFFU;
 }
 
 void BackgroundTest::answers()

@@ -41,7 +41,10 @@ QPushButton &okOf(const QWidget &dialog)
     return *part<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Ok);
 }
 
-QImage argb(const QImage &image) { return image.convertToFormat(QImage::Format_ARGB32); }
+QImage argb(const QImage &image)
+{
+    return image.convertToFormat(QImage::Format_ARGB32);
+}
 
 } // namespace
 
@@ -116,14 +119,10 @@ private:
     static QImage expected(WindowUnderTest &t, QSize size)
     {
         const QGraphicsPixmapItem *background = t.probe.backgroundItem();
-        const reference::ExportSource source{t.probe.backgroundImage(),
-                                             t.probe.backgroundColor(),
-                                             background->pixmap(),
-                                             background->boundingRect().size(),
-                                             background->transform().m11(),
-                                             background->transform().m22(),
-                                             t.probe.previewImage(),
-                                             t.probe.previewOffset()};
+        const reference::ExportSource source{t.probe.backgroundImage(),     t.probe.backgroundColor(),
+                                             background->pixmap(),          background->boundingRect().size(),
+                                             background->transform().m11(), background->transform().m22(),
+                                             t.probe.previewImage(),        t.probe.previewOffset()};
         return reference::exportComposition(source, size.width(), size.height()).toImage();
     }
 
@@ -132,7 +131,10 @@ private:
     QImage m_backdrop = testpictures::blobImage(120, 66, 5);
 };
 
-void ExportTest::initTestCase() { QCOMPARE(m_picture.size(), QSize(width, height)); }
+void ExportTest::initTestCase()
+{
+    QCOMPARE(m_picture.size(), QSize(width, height));
+}
 
 void ExportTest::init()
 {
@@ -614,8 +616,9 @@ void ExportTest::lostTransparency()
         return;
     QVERIFY(alreadyWritten);
     QCOMPARE(title, QString("Transparency was lost"));
-    QCOMPARE(text, QString("You've selected a transparent background color but saving as jpeg. Transparency of the "
-                           "color was lost. Please choose .png to save transparent backgrounds"));
+    QCOMPARE(text,
+             QString("You've selected a transparent background color but saving as jpeg. Transparency of the "
+                     "color was lost. Please choose .png to save transparent backgrounds"));
     QCOMPARE(icon, QMessageBox::Warning);
     QCOMPARE(buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(parent, nullptr);

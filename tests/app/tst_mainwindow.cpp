@@ -21,7 +21,8 @@ using testsupport::WindowUnderTest;
 
 namespace {
 
-struct ActionRow {
+struct ActionRow
+{
     const char *name;
     const char *text;
     const char *shortcut;
@@ -40,31 +41,41 @@ constexpr ActionRow actionRows[] = {
     {"actionSave", "Save", "", ":/icons/save_32.png", false, true, true, "", 0, 0},
     {"actionSave_As", "Save As", "", ":/icons/save_32_h.png", false, true, true, "", 0, 0},
     {"actionQuit", "Quit", "Ctrl+Q", ":/icons/delete_32.png", false, true, true, "menuFile", 3, 0},
-    {"actionKeep_arker", "\"Keep\" Marker", "", ":/icons/Green Ball.tiff", true, true, true, "menuActions", 1, 4},
-    {"action_Remove_Marker", "\"Remove\" Marker", "", ":/icons/Red Ball.tiff", true, true, true, "menuActions", 2, 5},
+    {"actionKeep_arker", "\"Keep\" Marker", "", ":/icons/Green Ball.tiff", true, true, true, "menuActions", 1,
+     4},
+    {"action_Remove_Marker", "\"Remove\" Marker", "", ":/icons/Red Ball.tiff", true, true, true,
+     "menuActions", 2, 5},
     {"actionIndex", "Index", "", "", false, true, true, "menuHelp", 1, 0},
     {"actionAbout", "About", "", "", false, true, true, "menuHelp", 3, 0},
     {"actionZoom_In", "Zoom In", "", ":/icons/zoomplus.png", false, true, true, "", 0, 2},
     {"actionZoom_Out", "Zoom Out", "", ":/icons/zoomminus.png", false, true, true, "", 0, 3},
     {"actionPreview", "Preview", "", ":/icons/Play.tiff", true, true, true, "menuActions", 4, 8},
     {"actionMask", "Mask", "", ":/icons/foxglove.png", false, true, true, "menuActions", 5, 7},
-    {"actionSelect_Background", "Select Background", "", ":/icons/colors.tiff", false, false, true, "menuActions", 10, 9},
+    {"actionSelect_Background", "Select Background", "", ":/icons/colors.tiff", false, false, true,
+     "menuActions", 10, 9},
     {"actionHandTool", "HandTool", "", ":/icons/openhand.png", true, false, true, "menuActions", 11, 10},
     {"actionPreferences", "Preferences", "", "", false, true, true, "menuOptions", 1, 0},
-    {"actionExport", "Export", "Ctrl+S", ":/icons/ToolbarPicturesFolderIcon.png", false, true, true, "menuFile", 2, 15},
+    {"actionExport", "Export", "Ctrl+S", ":/icons/ToolbarPicturesFolderIcon.png", false, true, true,
+     "menuFile", 2, 15},
     {"actionEraser", "Eraser", "", ":/icons/eraser1.png", true, true, true, "menuActions", 3, 6},
     {"actionBackground_Eraser", "Background Eraser", "", "", true, true, true, "", 0, 0},
     {"actionBackground_Brush", "Background Brush", "", ":/icons/redbrush.png", true, false, true, "", 0, 11},
-    {"actionForeground_Brush", "Foreground Brush", "", ":/icons/greenbrush.png", true, false, true, "", 0, 12},
-    {"actionBackgroundZoomPlus", "backgroundZoomPlus", "", ":/icons/zoomplusbg.png", false, false, true, "", 0, 13},
-    {"actionBackgroundZoomMinus", "backgroundZoomMinus", "", ":/icons/zoomminusbg.png", false, false, true, "", 0, 14},
+    {"actionForeground_Brush", "Foreground Brush", "", ":/icons/greenbrush.png", true, false, true, "", 0,
+     12},
+    {"actionBackgroundZoomPlus", "backgroundZoomPlus", "", ":/icons/zoomplusbg.png", false, false, true, "",
+     0, 13},
+    {"actionBackgroundZoomMinus", "backgroundZoomMinus", "", ":/icons/zoomminusbg.png", false, false, true,
+     "", 0, 14},
     {"actionFinematt", "finematt", "", "", false, true, true, "", 0, 0},
     {"actionBlueMarker", "BlueMarker", "", "", true, true, true, "", 0, 0},
-    {"actionContact_Us", "Contact Us", "", ":/icons/mail-message-new.png", false, true, false, "menuHelp", 2, 16},
+    {"actionContact_Us", "Contact Us", "", ":/icons/mail-message-new.png", false, true, false, "menuHelp", 2,
+     16},
     {"actionIncreaseToolSize", "increaseToolSize", "Ctrl+Right", "", false, true, true, "menuActions", 6, 0},
     {"actionDecreaseToolSoze", "decreaseToolSize", "Ctrl+Left", "", false, true, true, "menuActions", 7, 0},
-    {"actionIncreaseBrushIntensity", "increaseBrushIntensity", "Ctrl+Up", "", false, true, true, "menuActions", 8, 0},
-    {"actionDecreaseBrushIntensity", "decreaseBrushIntensity", "Ctrl+Down", "", false, true, true, "menuActions", 9, 0},
+    {"actionIncreaseBrushIntensity", "increaseBrushIntensity", "Ctrl+Up", "", false, true, true,
+     "menuActions", 8, 0},
+    {"actionDecreaseBrushIntensity", "decreaseBrushIntensity", "Ctrl+Down", "", false, true, true,
+     "menuActions", 9, 0},
     {"actionTestMenu", "About", "", "", false, true, true, "", 0, 0},
 };
 
@@ -162,7 +173,11 @@ void MainWindowTest::startsWithoutAWarning()
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QApplication::processEvents();
     }
-    QCOMPARE(log.taken(), QStringList());
+    QStringList ours;
+    for (const QString &line : log.taken())
+        if (!line.startsWith("This plugin does not support")) // the offscreen platform on itself
+            ours << line;
+    QCOMPARE(ours, QStringList());
 }
 
 void MainWindowTest::actions_data()
@@ -183,15 +198,18 @@ void MainWindowTest::actions()
     QCOMPARE(action->shortcut(), QKeySequence(expected.shortcut, QKeySequence::PortableText));
     QCOMPARE(action->isCheckable(), expected.checkable);
     QVERIFY(!action->isChecked());
-    QCOMPARE(action->isEnabled(), expected.enabled);
+    QCOMPARE(action->isEnabled(), expected.enabled && expected.visible); // a hidden action counts as disabled
     QCOMPARE(action->isVisible(), expected.visible);
+    window.findChild<QAction *>(expected.name)->setVisible(true);
+    QCOMPARE(action->isEnabled(), expected.enabled);
     QCOMPARE(action->icon().isNull(), *expected.icon == 0);
     if (*expected.icon != 0) {
         QVERIFY(QFile::exists(expected.icon));
         const QPixmap fromFile(expected.icon);
         QVERIFY2(!fromFile.isNull(), expected.icon);
         const QSize size = fromFile.size();
-        QCOMPARE(action->icon().pixmap(size, 1.0).toImage(), QIcon(expected.icon).pixmap(size, 1.0).toImage());
+        QCOMPARE(action->icon().pixmap(size, 1.0).toImage(),
+                 QIcon(expected.icon).pixmap(size, 1.0).toImage());
     }
     for (const char *name : {"menuFile", "menuOptions", "menuActions", "menuHelp"}) {
         const auto *menu = window.findChild<QMenu *>(name);
@@ -199,7 +217,8 @@ void MainWindowTest::actions()
         QCOMPARE(position, qsizetype{QString(name) == expected.menu ? expected.menuPosition : 0});
     }
     const auto *toolBar = window.findChild<QToolBar *>("mainToolBar");
-    QCOMPARE(toolBar->actions().indexOf(const_cast<QAction *>(action)) + 1, qsizetype{expected.toolBarPosition});
+    QCOMPARE(toolBar->actions().indexOf(const_cast<QAction *>(action)) + 1,
+             qsizetype{expected.toolBarPosition});
     if (expected.name == QString("actionSave_As"))
         QVERIFY(action->isIconVisibleInMenu());
     if (expected.name == QString("actionAbout"))
@@ -235,7 +254,8 @@ void MainWindowTest::menusHoldNothingElse()
     QStringList menus;
     for (const QAction *action : window.menuBar()->actions())
         menus << action->menu()->objectName() + " " + action->menu()->title();
-    QCOMPARE(menus, QStringList({"menuFile File", "menuOptions Options", "menuActions Actions", "menuHelp Help"}));
+    QCOMPARE(menus,
+             QStringList({"menuFile File", "menuOptions Options", "menuActions Actions", "menuHelp Help"}));
     QCOMPARE(window.findChild<QMenu *>("menuFile")->actions().size(), 3);
     QCOMPARE(window.findChild<QMenu *>("menuOptions")->actions().size(), 1);
     QCOMPARE(window.findChild<QMenu *>("menuActions")->actions().size(), 12);
@@ -272,9 +292,11 @@ void MainWindowTest::toolTips_data()
     QTest::newRow("actionKeep_arker") << "\"Keep\" Marker\nUsed to mark the areas of image you want to keep.";
     QTest::newRow("action_Remove_Marker") << "\"Remove\" Marker\nUsed to mark the areas of image you want to "
                                              "remove. They will become background.";
-    QTest::newRow("actionPreview") << "Preview\nSwitch to preview mode to see how your final picture will look. Some "
-                                      "tools are only available in this mode.";
-    QTest::newRow("actionMask") << "Mask Tool\nPreview your foreground and background highlighted with colors.";
+    QTest::newRow("actionPreview")
+        << "Preview\nSwitch to preview mode to see how your final picture will look. Some "
+           "tools are only available in this mode.";
+    QTest::newRow("actionMask")
+        << "Mask Tool\nPreview your foreground and background highlighted with colors.";
     QTest::newRow("actionZoom_In") << "Zoom In";
     QTest::newRow("actionZoom_Out") << "Zoom Out";
     QTest::newRow("actionSelect_Background") << "Select Background";
@@ -284,7 +306,8 @@ void MainWindowTest::toolTips_data()
         << "Background Zoom\nScales the background when it is a picture.";
     QTest::newRow("actionBlueMarker") << "Blue marker";
     QTest::newRow("actionContact_Us")
-        << "Talk to us!\nHave a question?\nDon't know how to use the product?\nWant a new feature?\nThink our "
+        << "Talk to us!\nHave a question?\nDon't know how to use the product?\nWant a new feature?\nThink "
+           "our "
            "product sucks?\nWant to negotiate price?\nTell us about that! Your opinion matters to us.";
 }
 
@@ -322,9 +345,9 @@ void MainWindowTest::actionGroups()
             names << action->objectName();
         groups << names;
     }
-    QCOMPARE(groups, QList<QStringList>({{"actionKeep_arker", "action_Remove_Marker", "actionBlueMarker",
-                                          "actionEraser"},
-                                         {"actionForeground_Brush", "actionBackground_Brush", "actionHandTool"}}));
+    QCOMPARE(groups, QList<QStringList>(
+                         {{"actionKeep_arker", "action_Remove_Marker", "actionBlueMarker", "actionEraser"},
+                          {"actionForeground_Brush", "actionBackground_Brush", "actionHandTool"}}));
 }
 
 void MainWindowTest::windowAndItsParts()

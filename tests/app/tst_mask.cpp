@@ -20,7 +20,10 @@ namespace {
 constexpr int width = 64;
 constexpr int height = 48;
 
-QImage rgb(const QPixmap &pixmap) { return pixmap.toImage().convertToFormat(QImage::Format_RGB32); }
+QImage rgb(const QPixmap &pixmap)
+{
+    return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+}
 
 /// What the markers on the scene say, read independently.
 QList<reference::Marker> markersOn(const QGraphicsScene &scene)
@@ -70,7 +73,8 @@ private:
     /// The object's pixels that the markers on the scene ask for.
     QList<int> expected(WindowUnderTest &t) const
     {
-        const reference::Seeds seeds = reference::collectSeeds(markersOn(t.probe.imageScene()), width, height);
+        const reference::Seeds seeds =
+            reference::collectSeeds(markersOn(t.probe.imageScene()), width, height);
         QList<int> object;
         reference::watershed(m_picture, seeds.keep, seeds.remove, object, reference::edgeMap(m_picture));
         return object;
@@ -81,7 +85,10 @@ private:
     QImage m_picture = testpictures::blobImage(width, height, 3);
 };
 
-void MaskTest::initTestCase() { QVERIFY(m_picture.save(file())); }
+void MaskTest::initTestCase()
+{
+    QVERIFY(m_picture.save(file()));
+}
 
 void MaskTest::overlayOfPaintedMarkers()
 {

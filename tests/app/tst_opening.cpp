@@ -114,7 +114,8 @@ void OpeningTest::dialogAsksAsItShould()
     });
     t.trigger("actionOpen");
     QCOMPARE(caption, QString("Open Image"));
-    QCOMPARE(filters, QStringList({"Image Files (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif)", "All files (*.*)"}));
+    QCOMPARE(filters,
+             QStringList({"Image Files (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif)", "All files (*.*)"}));
     QCOMPARE(parent, &t.window);
 }
 
@@ -276,7 +277,8 @@ void OpeningTest::unreadableFile()
 void OpeningTest::unreadableFileAtFirst()
 {
     WindowUnderTest t;
-    t.answers.chooseFile(file("notes.txt"), [](QFileDialog &dialog) { dialog.selectNameFilter("All files (*.*)"); });
+    t.answers.chooseFile(file("notes.txt"),
+                         [](QFileDialog &dialog) { dialog.selectNameFilter("All files (*.*)"); });
     t.trigger("actionOpen");
     QCOMPARE(t.statusTexts, QStringList({failed}));
     QCOMPARE(t.window.windowTitle(), QString("Ornevo Pro"));
@@ -302,7 +304,8 @@ void OpeningTest::failureLeavesAPartialState()
     t.probe.isOriginalFile() = false;
     const QTransform zoom = t.view.transform();
     t.statusTexts.clear();
-    t.answers.chooseFile(file("notes.txt"), [](QFileDialog &dialog) { dialog.selectNameFilter("All files (*.*)"); });
+    t.answers.chooseFile(file("notes.txt"),
+                         [](QFileDialog &dialog) { dialog.selectNameFilter("All files (*.*)"); });
     t.trigger("actionOpen");
     QCOMPARE(t.statusTexts, QStringList({failed}));
     // Gone:
@@ -391,7 +394,8 @@ void OpeningTest::backgroundChoiceStays()
 void OpeningTest::picturesOfManySizes_data()
 {
     QTest::addColumn<QSize>("size");
-    for (const QSize size : {QSize(1, 1), QSize(1, 40), QSize(40, 1), QSize(2, 2), QSize(3, 7), QSize(257, 129)})
+    for (const QSize size :
+         {QSize(1, 1), QSize(1, 40), QSize(40, 1), QSize(2, 2), QSize(3, 7), QSize(257, 129)})
         QTest::addRow("%d x %d", size.width(), size.height()) << size;
 }
 
@@ -450,7 +454,8 @@ void OpeningTest::openingMidStroke()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
-    for (const DrawingTools tool : {ToolPen, ToolKeepMarker, ToolEraser, ToolBlueMarker, ToolKeepBrush, ToolHand}) {
+    for (const DrawingTools tool :
+         {ToolPen, ToolKeepMarker, ToolEraser, ToolBlueMarker, ToolKeepBrush, ToolHand}) {
         t.view.SetTool(tool);
         t.mouse.press(t.at(20, 20));
         t.mouse.move(t.at(22, 22));

@@ -18,9 +18,15 @@ namespace {
 constexpr int width = 60;
 constexpr int height = 44;
 
-QImage argb(const QPixmap &pixmap) { return pixmap.toImage().convertToFormat(QImage::Format_ARGB32); }
+QImage argb(const QPixmap &pixmap)
+{
+    return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+}
 
-QImage chessboard() { return QImage(":/icons/chessbackground.png"); }
+QImage chessboard()
+{
+    return QImage(":/icons/chessbackground.png");
+}
 
 void markObject(WindowUnderTest &t)
 {
@@ -68,7 +74,10 @@ private:
     QImage m_picture = testpictures::blobImage(width, height, 4);
 };
 
-void PreviewTest::initTestCase() { QVERIFY(m_picture.save(file())); }
+void PreviewTest::initTestCase()
+{
+    QVERIFY(m_picture.save(file()));
+}
 
 void PreviewTest::switchesTheTools()
 {
@@ -81,8 +90,9 @@ void PreviewTest::switchesTheTools()
         return count;
     };
     const auto editing = {"actionMask", "actionKeep_arker", "action_Remove_Marker", "actionEraser"};
-    const auto previewing = {"actionForeground_Brush",     "actionBackground_Brush",   "actionHandTool",
-                             "actionSelect_Background", "actionBackgroundZoomMinus", "actionBackgroundZoomPlus"};
+    const auto previewing = {
+        "actionForeground_Brush",  "actionBackground_Brush",    "actionHandTool",
+        "actionSelect_Background", "actionBackgroundZoomMinus", "actionBackgroundZoomPlus"};
     QCOMPARE(enabled(editing), 4);
     QCOMPARE(enabled(previewing), 0);
     t.trigger("actionPreview");
@@ -164,7 +174,8 @@ void PreviewTest::maskAndCutOut()
     t.trigger("actionPreview");
     QVERIFY(!t.probe.outmask().isEmpty());
     QVERIFY(t.probe.outmask().size() < width * height);
-    const QImage mask = reference::maskImage(t.probe.outmask(), width, height, smooth, size.isEmpty() ? 5 : size.toInt());
+    const QImage mask =
+        reference::maskImage(t.probe.outmask(), width, height, smooth, size.isEmpty() ? 5 : size.toInt());
     QCOMPARE(t.probe.maskImage().format(), QImage::Format_RGB32);
     QCOMPARE(t.probe.maskImage(), mask);
     const QImage cutOut = reference::cutOut(QPixmap::fromImage(m_picture), mask);
@@ -408,7 +419,9 @@ void PreviewTest::whatIsSeen()
         for (int x = 0; x < width; ++x) {
             const int alpha = 255 - qBlue(t.probe.maskImage().pixel(x, y));
             const QRgb photo = m_picture.pixel(x, y);
-            const auto blend = [alpha](int over, int under) { return (alpha * over + (255 - alpha) * under) / 255; };
+            const auto blend = [alpha](int over, int under) {
+                return (alpha * over + (255 - alpha) * under) / 255;
+            };
             const QRgb got = seen.pixel(x, y);
             QVERIFY(qAbs(qRed(got) - blend(qRed(photo), 0x20)) <= 1);
             QVERIFY(qAbs(qGreen(got) - blend(qGreen(photo), 0x40)) <= 1);
@@ -494,14 +507,30 @@ void PreviewTest::undoOfBrushAfterRebuilding()
 
 void PreviewTest::switchingInAnyOrder()
 {
-    const QList<const char *> steps{"actionPreview",           "actionMask",           "actionKeep_arker",
-                                    "action_Remove_Marker",    "actionEraser",         "actionBlueMarker",
-                                    "actionForeground_Brush",  "actionBackground_Brush", "actionHandTool",
-                                    "actionBackgroundZoomPlus", "actionZoom_In",        "actionZoom_Out",
-                                    "actionIncreaseToolSize",  "actionDecreaseToolSoze", "actionIncreaseBrushIntensity",
-                                    "undo",                    "redo",                 "stroke",
-                                    "stroke",                  "stroke",               "pen",
-                                    "open",                    "rebuild",              "leave",
+    const QList<const char *> steps{"actionPreview",
+                                    "actionMask",
+                                    "actionKeep_arker",
+                                    "action_Remove_Marker",
+                                    "actionEraser",
+                                    "actionBlueMarker",
+                                    "actionForeground_Brush",
+                                    "actionBackground_Brush",
+                                    "actionHandTool",
+                                    "actionBackgroundZoomPlus",
+                                    "actionZoom_In",
+                                    "actionZoom_Out",
+                                    "actionIncreaseToolSize",
+                                    "actionDecreaseToolSoze",
+                                    "actionIncreaseBrushIntensity",
+                                    "undo",
+                                    "redo",
+                                    "stroke",
+                                    "stroke",
+                                    "stroke",
+                                    "pen",
+                                    "open",
+                                    "rebuild",
+                                    "leave",
                                     "wait"};
     WindowUnderTest t;
     t.probe.currentFile() = file();

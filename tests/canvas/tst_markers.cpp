@@ -17,12 +17,16 @@
 
 Q_DECLARE_METATYPE(DrawingTools)
 
-static void loadResources() { Q_INIT_RESOURCE(ornevo); } // outside any namespace, as the macro wants it
+static void loadResources()
+{
+    Q_INIT_RESOURCE(ornevo);
+} // outside any namespace, as the macro wants it
 
 namespace {
 
 /// A view in which a point of the viewport is, at zoom 1, the point of the scene.
-struct Canvas {
+struct Canvas
+{
     explicit Canvas(QRectF sceneRect = QRectF(0, 0, 200, 150)) : scene(sceneRect), mouse(view)
     {
         settings.clear();
@@ -220,7 +224,8 @@ void MarkersTest::halfPixelsAtDoubleZoom()
     QCOMPARE(canvas.scene.items().size(), 0);
     canvas.mouse.stroke({QPoint(2, 2)});
     QCOMPARE(canvas.scene.items().size(), 1);
-    QCOMPARE(qgraphicsitem_cast<QGraphicsRectItem *>(canvas.scene.items().first())->rect(), QRectF(1, 1, 10, 10));
+    QCOMPARE(qgraphicsitem_cast<QGraphicsRectItem *>(canvas.scene.items().first())->rect(),
+             QRectF(1, 1, 10, 10));
     canvas.mouse.stroke({QPoint(3, 5)}); // the position is not rounded
     QCOMPARE(canvas.scene.items(Qt::AscendingOrder).size(), 2);
     QCOMPARE(qgraphicsitem_cast<QGraphicsRectItem *>(canvas.scene.items().first())->rect(),
@@ -540,7 +545,7 @@ void MarkersTest::penDrawsAPath()
     QCOMPARE(line->pen(), QPen(QColor(255, 255, 10, 255)));
     QCOMPARE(line->brush(), QBrush());
     QCOMPARE(line->zValue(), 0.0);
-    QCOMPARE(line->path(), QPainterPath(QPointF(20, 20)));
+    QVERIFY(line->path().isEmpty());
     canvas.mouse.move(QPoint(30, 25));
     canvas.mouse.move(QPoint(40, 45));
     canvas.mouse.release(QPoint(40, 45));

@@ -10,9 +10,9 @@
 
 namespace testsupport {
 
-/// A mouse over a view that is shown. Moves go straight to the viewport: a platform drops one that leads nowhere, which
-/// tests need, and moving the pointer of the screen would send events of its own. Positions are in coordinates of the
-/// viewport.
+/// A mouse over a view that is shown. Its events go straight to the viewport: a platform drops a move that
+/// leads nowhere, which tests need, and moving the pointer of the screen would send events of its own.
+/// Positions are in coordinates of the viewport.
 class CanvasMouse
 {
 public:
@@ -21,19 +21,13 @@ public:
     void press(QPoint position, Qt::MouseButton button = Qt::LeftButton)
     {
         m_held |= button;
-        QTest::mousePress(m_view.viewport(), button, {}, position);
+        send(QEvent::MouseButtonPress, position, button);
     }
-    void move(QPoint position)
-    {
-        QMouseEvent event(QEvent::MouseMove, QPointF(position), QPointF(m_view.viewport()->mapToGlobal(position)),
-                          Qt::NoButton, m_held, Qt::NoModifier);
-        QSpontaneKeyEvent::setSpontaneous(&event);
-        qApp->notify(m_view.viewport(), &event);
-    }
+    void move(QPoint position) { send(QEvent::MouseMove, position, Qt::NoButton); }
     void release(QPoint position, Qt::MouseButton button = Qt::LeftButton)
     {
         m_held &= ~Qt::MouseButtons(button);
-        QTest::mouseRelease(m_view.viewport(), button, {}, position);
+        send(QEvent::MouseButtonRelease, position, button);
     }
     void click(QPoint position)
     {
@@ -50,6 +44,14 @@ public:
     }
 
 private:
+    void send(QEvent::Type type, QPoint position, Qt::MouseButton button)
+    {
+        QMouseEvent event(type, QPointF(position), QPointF(m_view.viewport()->mapToGlobal(position)), button,
+                          m_held, Qt::NoModifier);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(m_view.viewport(), &event);
+    }
+
     QGraphicsView &m_view;
     Qt::MouseButtons m_held;
 };

@@ -15,9 +15,8 @@ public:
     MessageLog()
     {
         lines().clear();
-        m_before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
-            lines() << text.trimmed();
-        });
+        m_before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &text) { lines() << text.trimmed(); });
     }
     ~MessageLog() { qInstallMessageHandler(m_before); }
     MessageLog(const MessageLog &) = delete;

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QObject>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -19,9 +20,9 @@
 
 namespace testsupport {
 
-/// Answers modal dialogs while the code that opened them waits in their event loops. Answers are given in the order in
-/// which they were registered, each to the next dialog of its class. A dialog that nobody waits for is dismissed after
-/// a while, so that a test fails and does not hang.
+/// Answers modal dialogs while the code that opened them waits in their event loops. Answers are given in the
+/// order in which they were registered, each to the next dialog of its class. A dialog that nobody waits for
+/// is dismissed after a while, so that a test fails and does not hang.
 class ModalAnswers : public QObject
 {
 public:
@@ -41,10 +42,16 @@ public:
         expect<QFileDialog>([path, look](QFileDialog &dialog) {
             if (look)
                 look(dialog);
+            // Its model reads folders in another thread and may not know the file at once.
             auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
-            name->clear();
-            name->setText(path);
-            confirm(dialog);
+            auto *button = dialog.findChild<QDialogButtonBox *>()->button(confirming(dialog));
+            const auto typed = [&] {
+                name->clear();
+                name->setText(path);
+                return button->isEnabled();
+            };
+            if (QTest::qWaitFor(typed, patience))
+                QTest::mouseClick(button, Qt::LeftButton);
         });
     }
     void cancelFile()
@@ -55,7 +62,9 @@ public:
     [[nodiscard]] bool allGiven() const { return m_answers.empty() && m_dismissed.isEmpty(); }
     [[nodiscard]] QString report() const
     {
-        return QString("%1 answers not asked for; dismissed: [%2]").arg(m_answers.size()).arg(m_dismissed.join(", "));
+        return QString("%1 answers not asked for; dismissed: [%2]")
+            .arg(m_answers.size())
+            .arg(m_dismissed.join(", "));
     }
 
     static void press(QDialog &dialog, QDialogButtonBox::StandardButton which)
@@ -65,9 +74,10 @@ public:
     }
 
 private:
-    static void confirm(QFileDialog &dialog)
+    static QDialogButtonBox::StandardButton confirming(const QFileDialog &dialog)
     {
-        press(dialog, dialog.acceptMode() == QFileDialog::AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+        return dialog.acceptMode() == QFileDialog::AcceptSave ? QDialogButtonBox::Save
+                                                              : QDialogButtonBox::Open;
     }
 
     void scheduleLook()

@@ -37,7 +37,10 @@ public:
     }
     void trigger(const char *name) const { action(name).trigger(); }
     [[nodiscard]] QString status() const { return window.statusBar()->currentMessage(); }
-    [[nodiscard]] QProgressBar &progressBar() const { return *window.findChild<QProgressBar *>("progressBar"); }
+    [[nodiscard]] QProgressBar &progressBar() const
+    {
+        return *window.findChild<QProgressBar *>("progressBar");
+    }
 
     /// Opens a picture as the user does.
     void openPicture(const QString &path)
