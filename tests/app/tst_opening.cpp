@@ -304,8 +304,10 @@ void OpeningTest::failureLeavesAPartialState()
     t.probe.isOriginalFile() = false;
     const QTransform zoom = t.view.transform();
     t.statusTexts.clear();
-    t.answers.chooseFile(file("notes.txt"),
-                         [](QFileDialog &dialog) { dialog.selectNameFilter("All files (*.*)"); });
+    t.answers.chooseFile(file("notes.txt"), [this](QFileDialog &dialog) {
+        dialog.setDirectory(m_folder.path());
+        dialog.selectNameFilter("All files (*.*)");
+    });
     t.trigger("actionOpen");
     QCOMPARE(t.statusTexts, QStringList({failed}));
     // Gone:

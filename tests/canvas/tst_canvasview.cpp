@@ -9,6 +9,7 @@
 #include <QGraphicsScene>
 #include <QMetaMethod>
 #include <QResizeEvent>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QUndoStack>
@@ -591,6 +592,8 @@ void CanvasViewTest::circleFollowsAndHides()
     }
     // Whole numbers are cut off, not rounded.
     canvas.view.setTransform(QTransform::fromScale(4, 4));
+    canvas.view.horizontalScrollBar()->setValue(0);
+    canvas.view.verticalScrollBar()->setValue(0);
     canvas.view.SetTool(ToolKeepBrush);
     canvas.mouse.move(QPoint(103, 103)); // 98 / 4 = 24.5; 10 / 4 = 2.5
     QVERIFY(canvas.circle() != nullptr);
