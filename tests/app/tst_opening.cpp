@@ -302,12 +302,11 @@ void OpeningTest::failureLeavesAPartialState()
     t.action("actionPreview").setChecked(true);
     t.probe.previewOffset() = QPoint(5, 6);
     t.probe.isOriginalFile() = false;
+    QTest::qWait(50); // the progress bar came and went, and the view is resized when events are processed
     const QTransform zoom = t.view.transform();
     t.statusTexts.clear();
-    t.answers.chooseFile(file("notes.txt"), [this](QFileDialog &dialog) {
-        dialog.setDirectory(m_folder.path());
-        dialog.selectNameFilter("All files (*.*)");
-    });
+    t.answers.chooseFile(file("notes.txt"),
+                         [](QFileDialog &dialog) { dialog.selectNameFilter("All files (*.*)"); });
     t.trigger("actionOpen");
     QCOMPARE(t.statusTexts, QStringList({failed}));
     // Gone:

@@ -42,6 +42,7 @@ public:
         expect<QFileDialog>([path, look](QFileDialog &dialog) {
             if (look)
                 look(dialog);
+            dialog.setDirectory(QFileInfo(path).absolutePath());
             // Its model reads folders in another thread and may not know the file at once.
             auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
             auto *button = dialog.findChild<QDialogButtonBox *>()->button(confirming(dialog));

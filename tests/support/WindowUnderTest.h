@@ -26,6 +26,7 @@ public:
         window.show();
         if (!QTest::qWaitForWindowExposed(&window))
             qFatal("the window does not come up");
+        QApplication::setActiveWindow(&window); // a bare X server has nobody else to do it, and keys need it
     }
 
     [[nodiscard]] QAction &action(const char *name) const
