@@ -101,5 +101,6 @@ private:
     unsigned char blueMarkerSize = 0;
     double markerOpacity = 0.0;
     bool mousePressed = false;
+    QPointF m_penStart;
     std::vector<ItemPointer<QGraphicsItem>> m_erasedDabs;
 };
