@@ -101,6 +101,7 @@ private slots:
 private:
     friend class MainWindowProbe; // the tests' look at the state below
 
+    void hideProgress();
     void setUpActions();
     void connectCanvas();
     void chooseTool(int tool, bool checked);

@@ -52,6 +52,7 @@ private slots:
     void diagnostics();
     void orderOnTheScene();
     void twiceGivesOneOverlay();
+    void leavesTheZoomAlone();
     void opacityComesFromTheSettings();
     void withoutAPicture();
     void withoutAPictureTheOldResultStays();
@@ -175,6 +176,24 @@ void MaskTest::twiceGivesOneOverlay()
         t.trigger("actionMask");
         QCOMPARE(t.probe.imageScene().items().size(), 4);
         QCOMPARE(t.probe.maskItem()->scene(), &t.probe.imageScene());
+    }
+}
+
+void MaskTest::leavesTheZoomAlone()
+{
+    WindowUnderTest t;
+    t.openPicture(file());
+    t.dab("actionKeep_arker", 20, 20);
+    t.dab("action_Remove_Marker", 50, 20);
+    for (int i = 0; i < 8; ++i)
+        t.trigger("actionZoom_In");
+    QTest::qWait(50);
+    const QTransform zoom = t.view.transform();
+    // The progress bar comes and goes with every mask; the canvas must not give way to it.
+    for (int i = 0; i < 3; ++i) {
+        t.trigger("actionMask");
+        QTest::qWait(50);
+        QCOMPARE(t.view.transform(), zoom);
     }
 }
 
