@@ -9,11 +9,12 @@
 #include <QDir>
 #include <QFile>
 #include <QGraphicsScene>
+#include <QMap>
 #include <QUndoStack>
 
 #include <csignal>
 #include <sys/resource.h>
-#include <unistd.h>
+#include <sys/stat.h>
 
 using testpictures::randomArgbImage;
 
@@ -55,26 +56,23 @@ private:
     QByteArray m_before;
 };
 
-QByteArray readLink(const QString &path)
+/// The temporary files that there are: in the folder, and those without a name that only we hold open. A path for
+/// each file by its number on the disk, for one file can have both.
+QMap<quint64, QString> temporaryFiles()
 {
-    char target[4096];
-    const ssize_t length = readlink(path.toLocal8Bit().constData(), target, sizeof target);
-    return QByteArray(target, std::max<ssize_t>(length, 0));
-}
-
-/// The temporary files that there are: in the folder, and those without a name that only we hold open.
-QStringList temporaryFiles()
-{
-    QStringList found;
-    const QDir folder(QDir::tempPath());
-    for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
-        found.append(folder.filePath(name));
-    const QDir handles("/proc/self/fd");
-    for (const QString &name : handles.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
-        const QString handle = handles.filePath(name);
-        const QByteArray target = readLink(handle);
-        if (target.startsWith(folder.path().toLocal8Bit() + '/') && target.contains("(deleted)"))
-            found.append(handle);
+    QMap<quint64, QString> found;
+    struct stat folder{};
+    stat(qgetenv("TMPDIR").constData(), &folder);
+    for (const QString &path : {QDir::tempPath(), QString("/proc/self/fd")}) {
+        const QDir entries(path);
+        for (const QString &name : entries.entryList(QDir::AllEntries | QDir::Hidden | QDir::System)) {
+            struct stat file{};
+            if (stat(entries.filePath(name).toLocal8Bit().constData(), &file) != 0 || !S_ISREG(file.st_mode))
+                continue;
+            // An open file counts where it is on the folder's disk and has no name left.
+            if (path == QDir::tempPath() || (file.st_dev == folder.st_dev && file.st_nlink == 0))
+                found.insert(file.st_ino, entries.filePath(name));
+        }
     }
     return found;
 }

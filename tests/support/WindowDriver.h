@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -30,8 +31,7 @@ public:
     explicit DialogAnswers(QList<Answer> answers) : m_answers(std::move(answers))
     {
         m_age.start();
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
-        m_timer.start(2);
+        lookSoon();
     }
     explicit DialogAnswers(Answer answer) : DialogAnswers(QList<Answer>{std::move(answer)}) {}
 
@@ -39,26 +39,34 @@ public:
     [[nodiscard]] int given() const { return m_given; }
 
 private:
+    // Not a repeating timer: its time would not come again while an answer waits for the next dialog.
+    void lookSoon()
+    {
+        QTimer::singleShot(2, &m_life, [this] { look(); });
+    }
+
     void look()
     {
+        lookSoon();
         QWidget *dialog = QApplication::activeModalWidget();
         if (dialog == nullptr)
             return;
-        if (m_age.elapsed() > 15000 || (m_given == m_answers.size() && dialog != m_last)) {
-            dialog->close(); // nobody expects this one: do not wait for ever
+        const bool unexpected = m_given == m_answers.size() && !m_seen.contains(dialog);
+        if (unexpected || m_age.elapsed() > 10000) {
+            dialog->close(); // do not wait for ever
             return;
         }
-        if (m_given == m_answers.size() || dialog == m_last)
+        if (m_seen.contains(dialog))
             return;
-        m_last = dialog;
+        m_seen.append(dialog);
         const Answer answer = m_answers.at(m_given++);
         answer(dialog); // may open another dialog, which is then looked for from in here
     }
 
     QList<Answer> m_answers;
-    QTimer m_timer;
+    QObject m_life;
     QElapsedTimer m_age;
-    QWidget *m_last = nullptr;
+    QList<QPointer<QWidget>> m_seen;
     int m_given = 0;
 };
 
@@ -94,6 +102,15 @@ inline QString status(const QMainWindow &window)
     return window.findChild<QStatusBar *>("statusBar")->currentMessage();
 }
 
+/// Lets the layouts and whatever else is due come to rest: a hidden progress bar gives its room to the canvas.
+inline void settle()
+{
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
 /// Shows the window and makes it the active one, without which its shortcuts sleep.
 inline void show(QMainWindow &window, QSize size = {640, 560})
 {
@@ -102,6 +119,7 @@ inline void show(QMainWindow &window, QSize size = {640, 560})
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QApplication::setActiveWindow(&window);
     canvas(window)->setFocus();
+    settle();
 }
 
 /// Opens a picture through the menu's action and the file dialog.
@@ -110,6 +128,22 @@ inline void openPhoto(QMainWindow &window, const QString &path)
     DialogAnswers answers([&path](QWidget *dialog) { typeFileName(dialog, path); });
     action(window, "actionOpen")->trigger();
     QCOMPARE(answers.given(), 1);
+    settle();
+}
+
+/// Presses a key with the canvas in front.
+inline void key(QMainWindow &window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
+{
+    QApplication::setActiveWindow(&window);
+    canvas(window)->setFocus();
+    QTest::keyClick(canvas(window), key, modifiers);
+}
+
+/// Presses the keys of a standard action, which differ between platforms.
+inline void key(QMainWindow &window, QKeySequence::StandardKey standard)
+{
+    const QKeyCombination keys = QKeySequence(standard)[0];
+    key(window, keys.key(), keys.keyboardModifiers());
 }
 
 inline void press(QGraphicsView &view, QPoint position, Qt::MouseButton button = Qt::LeftButton)
