@@ -60,6 +60,7 @@ void MainWindow::connectCanvas()
     connect(form->graphicsView, SIGNAL(HandTool(QPoint, QPoint)), this, SLOT(on_HandToolPressed(QPoint, QPoint)));
     connect(&brushTimer, SIGNAL(timeout()), this, SLOT(on_ProcessBrushMouseEvent()));
     connect(&skipLastRectTimer, SIGNAL(timeout()), this, SLOT(on_TimeToSkipLastRect()));
+    connect(&undoStack, &QUndoStack::indexChanged, this, &MainWindow::showChangeByOlderEntry);
 }
 
 void MainWindow::chooseTool(int tool, bool checked)
