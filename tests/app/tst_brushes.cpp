@@ -79,7 +79,10 @@ QImage opaque(QRgb colour, int alpha)
     return picture;
 }
 
-QImage premultiplied(const QImage &picture) { return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied); }
+QImage premultiplied(const QImage &picture)
+{
+    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
 
 } // namespace
 
@@ -326,8 +329,9 @@ void TestBrushes::pastTheEdge()
     usePreviewImage(expected.copy());
     const QImage before = expected.copy();
     action(*window, "actionBackground_Brush")->trigger();
-    const QList<QRect> squares{QRect(-8, -8, 16, 16),   QRect(width - 5, 50, 16, 16), QRect(40, height - 3, 16, 16),
-                               QRect(-40, -40, 16, 16), QRect(width + 50, 10, 16, 16)};
+    const QList<QRect> squares{QRect(-8, -8, 16, 16), QRect(width - 5, 50, 16, 16),
+                               QRect(40, height - 3, 16, 16), QRect(-40, -40, 16, 16),
+                               QRect(width + 50, 10, 16, 16)};
     sendAndWait(squares);
     reference::applyBrush(expected, squares, {}, reference::Brush::Remove, 100);
     QCOMPARE(image(), expected);
@@ -350,8 +354,8 @@ void TestBrushes::pastTheEdge()
     driver::release(*view, view->mapFromScene(164, 60));
     QTRY_VERIFY(probe->pendingBrushRects().isEmpty());
     expected = before.copy();
-    reference::applyBrush(expected, {QRect(145, 55, 10, 10), QRect(152, 55, 10, 10), QRect(159, 55, 10, 10)}, {},
-                          reference::Brush::Remove, 100);
+    reference::applyBrush(expected, {QRect(145, 55, 10, 10), QRect(152, 55, 10, 10), QRect(159, 55, 10, 10)},
+                          {}, reference::Brush::Remove, 100);
     QCOMPARE(image(), expected);
 }
 
@@ -571,8 +575,10 @@ void TestBrushes::withoutPreview()
     MainWindowProbe inside(empty);
     action(empty, "actionForeground_Brush")->setChecked(true);
     QGraphicsView *canvas = driver::canvas(empty);
-    QVERIFY(QMetaObject::invokeMethod(canvas, "AnyBrush", Q_ARG(QRect, QRect(5, 5, 9, 9)), Q_ARG(bool, true)));
-    QVERIFY(QMetaObject::invokeMethod(canvas, "HandTool", Q_ARG(QPoint, QPoint(1, 1)), Q_ARG(QPoint, QPoint(4, 3))));
+    QVERIFY(
+        QMetaObject::invokeMethod(canvas, "AnyBrush", Q_ARG(QRect, QRect(5, 5, 9, 9)), Q_ARG(bool, true)));
+    QVERIFY(QMetaObject::invokeMethod(canvas, "HandTool", Q_ARG(QPoint, QPoint(1, 1)),
+                                      Q_ARG(QPoint, QPoint(4, 3))));
     QCOMPARE(inside.pendingBrushRects().size(), 1);
     QTRY_VERIFY(inside.pendingBrushRects().isEmpty());
     QCOMPARE(inside.undoStack().count(), 0);
@@ -596,14 +602,15 @@ void TestBrushes::randomBatches()
         QList<QRect> squares;
         for (int k = random.below(9) + 1; k > 0; --k) {
             const int side = random.below(50);
-            squares.append(QRect(random.below(width + 60) - 30, random.below(height + 60) - 30, side,
-                                 std::max(side + random.below(3) - 1, 0))); // at most zooms not quite a square
+            squares.append(
+                QRect(random.below(width + 60) - 30, random.below(height + 60) - 30, side,
+                      std::max(side + random.below(3) - 1, 0))); // at most zooms not quite a square
         }
         for (const QRect &square : squares)
             send(square, false);
         QVERIFY(QMetaObject::invokeMethod(window.get(), "on_ProcessBrushMouseEvent"));
-        reference::applyBrush(expected, squares, offset, keep ? reference::Brush::Keep : reference::Brush::Remove,
-                              intensity);
+        reference::applyBrush(expected, squares, offset,
+                              keep ? reference::Brush::Keep : reference::Brush::Remove, intensity);
         QCOMPARE(image(), expected);
         states.append(expected.copy());
     }
@@ -633,13 +640,12 @@ void TestBrushes::exportAfterTouchUp()
     const auto exported = [this] {
         const QString name = folder.filePath("export.png");
         QFile::remove(name);
-        driver::DialogAnswers answers({[](QWidget *dialog) {
-                                           dialog->findChild<QPushButton *>("pushButton")->click();
-                                           dialog->findChild<QDialogButtonBox *>("buttonBox")
-                                               ->button(QDialogButtonBox::Ok)
-                                               ->click();
-                                       },
-                                       [name](QWidget *dialog) { driver::typeFileName(dialog, name); }});
+        driver::DialogAnswers answers(
+            {[](QWidget *dialog) {
+                 dialog->findChild<QPushButton *>("pushButton")->click();
+                 dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)->click();
+             },
+             [name](QWidget *dialog) { driver::typeFileName(dialog, name); }});
         driver::key(*window, Qt::Key_S);
         return QImage(name);
     };

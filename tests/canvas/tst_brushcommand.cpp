@@ -56,17 +56,21 @@ private:
     QByteArray m_before;
 };
 
-/// The temporary files that there are: in the folder, and those without a name that only we hold open. A path for
-/// each file by its number on the disk, for one file can have both.
+/// The temporary files that there are: in the folder, and those without a name that only we hold open. A path
+/// for each file by its number on the disk, for one file can have both.
 QMap<quint64, QString> temporaryFiles()
 {
     QMap<quint64, QString> found;
-    struct stat folder{};
+    struct stat folder
+    {
+    };
     stat(qgetenv("TMPDIR").constData(), &folder);
     for (const QString &path : {QDir::tempPath(), QString("/proc/self/fd")}) {
         const QDir entries(path);
         for (const QString &name : entries.entryList(QDir::AllEntries | QDir::Hidden | QDir::System)) {
-            struct stat file{};
+            struct stat file
+            {
+            };
             if (stat(entries.filePath(name).toLocal8Bit().constData(), &file) != 0 || !S_ISREG(file.st_mode))
                 continue;
             // An open file counts where it is on the folder's disk and has no name left.

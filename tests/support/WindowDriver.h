@@ -102,7 +102,8 @@ inline QString status(const QMainWindow &window)
     return window.findChild<QStatusBar *>("statusBar")->currentMessage();
 }
 
-/// Lets the layouts and whatever else is due come to rest: a hidden progress bar gives its room to the canvas.
+/// Lets the layouts and whatever else is due come to rest: a hidden progress bar gives its room to the
+/// canvas.
 inline void settle()
 {
     for (int i = 0; i < 3; ++i) {
