@@ -111,6 +111,7 @@ private slots:
     void everyActionInEveryState();
     void toolsInEveryState_data();
     void toolsInEveryState();
+    void previewLetsGoOfTools();
 
 private:
     void enter(State state);
@@ -312,6 +313,31 @@ void TestEveryAction::toolsInEveryState()
         driver::key(*window, QKeySequence::Undo);
     while (probe->undoStack().canRedo())
         driver::key(*window, QKeySequence::Redo);
+}
+
+void TestEveryAction::previewLetsGoOfTools()
+{
+    enter(Photo);
+    QAction *preview = action(*window, "actionPreview");
+    for (const char *name :
+         {"actionKeep_arker", "action_Remove_Marker", "actionEraser", "actionBlueMarker"}) {
+        QAction *marker = action(*window, name);
+        marker->trigger();
+        preview->trigger();
+        QVERIFY2(marker->isChecked(), name); // on the way in the markers fall asleep as they are
+        preview->trigger();
+        // The Blue marker is none of the preview's business.
+        QVERIFY2(marker->isChecked() == (marker->objectName() == "actionBlueMarker"), name);
+    }
+    preview->trigger();
+    for (const char *name : {"actionForeground_Brush", "actionBackground_Brush", "actionHandTool"}) {
+        QAction *brush = action(*window, name);
+        brush->trigger();
+        preview->trigger();
+        QVERIFY2(brush->isChecked(), name);
+        preview->trigger();
+        QVERIFY2(!brush->isChecked(), name);
+    }
 }
 
 ORNEVO_TEST_MAIN(TestEveryAction)

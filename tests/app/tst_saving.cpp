@@ -317,6 +317,7 @@ void TestSaving::transparencyIsFlattened()
     const QImage saved(name);
     QCOMPARE(saved.size(), QSize(90, 70));
     QVERIFY(saved.pixelColor(35, 35).blue() > 220 && saved.pixelColor(35, 35).red() < 40);
+    QVERIFY(saved.pixelColor(80, 10).lightness() < 20); // nothing shines through where the pixels were clear
     QVERIFY(!saved.hasAlphaChannel());
 }
 
