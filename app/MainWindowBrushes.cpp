@@ -66,6 +66,15 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
     undoStack.push(new CBrushCommand(previewItem, batch.box, &after, &previewImage, before));
 }
 
+// A brush entry changes the picture and shows that in the item it was made for. Once the preview has been built anew
+// that item is gone, and the one that took its place has to follow the picture.
+void MainWindow::showChangeByOlderEntry(int undoIndex)
+{
+    const bool older = entriesOlderThanPreviewItem > 0 && undoIndex <= entriesOlderThanPreviewItem;
+    if (older && previewItem != nullptr && !previewImage.isNull())
+        updatePixmap(*previewItem, previewImage, previewImage.rect());
+}
+
 void MainWindow::on_HandToolPressed(QPoint prevpos, QPoint pos)
 {
     previewOffset += pos - prevpos;
