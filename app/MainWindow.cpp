@@ -16,6 +16,8 @@ static void registerResources()
 namespace {
 
 constexpr int undoLimit = 200;
+constexpr double zoomStep = 1.2;
+constexpr double zoomStepBack = 0.8333333333333334; // 1 / 1.2
 
 } // namespace
 
@@ -109,6 +111,15 @@ void MainWindow::on_actionHandTool_toggled(bool checked)
 void MainWindow::on_actionBlueMarker_toggled(bool checked)
 {
     chooseTool(ToolBlueMarker, checked);
+}
+
+void MainWindow::on_actionZoom_In_triggered()
+{
+    form->graphicsView->scale(zoomStep, zoomStep);
+}
+void MainWindow::on_actionZoom_Out_triggered()
+{
+    form->graphicsView->scale(zoomStepBack, zoomStepBack);
 }
 
 void MainWindow::on_actionQuit_triggered()

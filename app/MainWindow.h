@@ -106,8 +106,8 @@ private:
     void connectCanvas();
     void chooseTool(int tool, bool checked);
     void setEditingActionsEnabled(bool editing);
+    [[nodiscard]] QString lastDirectory() const;
     [[nodiscard]] QGraphicsPixmapItem *topmostPicture() const;
-    void floodFromSeeds(QList<int> keepSeeds, QList<int> removeSeeds);
     void stepToolSize(int step);
     void stepBrushIntensity(int step);
     void changeToolSize(unsigned char &size, const QString &message, const char *key, int step);

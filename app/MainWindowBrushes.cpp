@@ -58,7 +58,7 @@ void MainWindow::on_RemoveBrushPressed(QList<QRect> rects)
 
 void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
 {
-    if (previewItem == nullptr || previewImage.isNull())
+    if (!form->actionPreview->isChecked() || previewItem == nullptr || previewImage.isNull())
         return; // the preview went while the batch was waiting
     BrushBatch batch = brushBatch(rects, previewOffset, previewImage.size());
     if (!skipLastRect)
@@ -69,12 +69,12 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
     const QImage before = batch.box.isEmpty() ? QImage() : previewImage.copy(batch.box);
     changeAlpha(previewImage, batch.pixels, alphaChange);
     updatePixmap(*previewItem, previewImage, batch.box);
-    QPixmap after = previewItem->pixmap();
+    QPixmap after = previewItem->pixmap(); // up to date already; the entry's first redo shows it once more
     undoStack.push(new CBrushCommand(previewItem, batch.box, &after, &previewImage, before));
 }
 
-// A brush entry changes the picture and shows that in the item it was made for. Once the preview has been built anew
-// that item is gone, and the one that took its place has to follow the picture.
+// A brush entry changes the picture and shows that in the item it was made for. Once the preview has been
+// built anew that item is gone, and the one that took its place has to follow the picture.
 void MainWindow::showChangeByOlderEntry(int undoIndex)
 {
     const bool older = entriesOlderThanPreviewItem > 0 && undoIndex <= entriesOlderThanPreviewItem;

@@ -43,7 +43,7 @@ void MainWindow::on_actionExport_triggered()
     int height = 0;
     QString fileName;
     dialog.GetSettings(&width, &height, &fileName); // a file that was chosen is written, Cancel or not
-    if (backgroundItem == nullptr || previewItem == nullptr)
+    if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
         return;
 
     const QString suffix = QFileInfo(fileName).suffix();

@@ -4,16 +4,12 @@
 #include "app/MainWindow.h"
 
 #include "app/dialogs/HelpDialog.h"
-#include "ui_MainWindow.h"
 
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QUrl>
 
 namespace {
-
-constexpr double zoomStep = 1.2;
-constexpr double zoomStepBack = 0.8333333333333334; // 1 / 1.2
 
 QString authorship()
 {
@@ -41,13 +37,4 @@ void MainWindow::on_actionAbout_triggered()
 void MainWindow::on_actionTestMenu_triggered()
 {
     QMessageBox::about(this, tr("Ornevo Pro 2.5"), authorship());
-}
-
-void MainWindow::on_actionZoom_In_triggered()
-{
-    form->graphicsView->scale(zoomStep, zoomStep);
-}
-void MainWindow::on_actionZoom_Out_triggered()
-{
-    form->graphicsView->scale(zoomStepBack, zoomStepBack);
 }

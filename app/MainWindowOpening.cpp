@@ -12,12 +12,27 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <new>
+
+namespace {
+
+std::size_t pixelCount(const QImage &picture)
+{
+    return static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
+}
+
+} // namespace
+
+QString MainWindow::lastDirectory() const
+{
+    return settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault)
+        .toString();
+}
+
 void MainWindow::on_actionOpen_triggered()
 {
-    const QString directory =
-        settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault).toString();
     currentFile = QFileDialog::getOpenFileName(
-        this, tr("Open Image"), directory,
+        this, tr("Open Image"), lastDirectory(),
         tr("Image Files (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif);;All files (*.*)"));
     if (currentFile.isEmpty()) {
         form->statusBar->showMessage(tr("No file selected"));
@@ -43,7 +58,9 @@ void MainWindow::open()
     outmask.clear();
 
     const QImage picture = readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
-    if (picture.isNull()) {
+    // Made before anything of the last picture is replaced: the two must never be of different sizes.
+    std::unique_ptr<unsigned char[]> newEdgeMap(new (std::nothrow) unsigned char[pixelCount(picture)]);
+    if (picture.isNull() || newEdgeMap == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;
     }
@@ -61,8 +78,7 @@ void MainWindow::open()
     form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
     form->progressBar->show();
     workingImage = picture;
-    edgeMap = std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(picture.width()) *
-                                                              static_cast<std::size_t>(picture.height()));
+    edgeMap = std::move(newEdgeMap);
     colorsobel();
     form->progressBar->hide();
     form->statusBar->showMessage(tr("Ready"));

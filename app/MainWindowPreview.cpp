@@ -98,7 +98,8 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         if (topmostPicture() == nullptr)
             return;
         form->statusBar->showMessage(tr("getting inversed mask"));
-        previewImage = cutOut(imagePixmap.toImage(), maskImage);
+        if (!maskImage.isNull()) // as it is when memory is short
+            previewImage = cutOut(imagePixmap.toImage(), maskImage);
         form->statusBar->showMessage(tr("painting alpha channel"));
         form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
         form->statusBar->showMessage(tr("feather done"));

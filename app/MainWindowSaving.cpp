@@ -3,7 +3,6 @@
 
 #include "app/MainWindow.h"
 
-#include "canvas/SettingsKeys.h"
 #include "imaging/PictureFile.h"
 #include "ui_MainWindow.h"
 
@@ -15,7 +14,7 @@
 void MainWindow::save(const QString &path)
 {
     const QGraphicsPixmapItem *picture = topmostPicture();
-    if (picture == nullptr)
+    if (picture == nullptr || picture->pixmap().isNull())
         return;
     QPixmap pixmap = picture->pixmap();
     pixmap.setMask(emptyMask); // an empty mask drops whatever transparency there was
@@ -43,10 +42,8 @@ void MainWindow::on_actionSave_triggered()
 
 void MainWindow::on_actionSave_As_triggered()
 {
-    const QString directory =
-        settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault).toString();
     const QString name =
-        QFileDialog::getSaveFileName(this, tr("Save File"), directory, tr("JPG Files (*.jpg)"));
+        QFileDialog::getSaveFileName(this, tr("Save File"), lastDirectory(), tr("JPG Files (*.jpg)"));
     if (name.isEmpty()) {
         form->statusBar->showMessage(tr("No file selected"));
         return;

@@ -15,6 +15,11 @@ unsigned char byteFrom(int value)
     return static_cast<unsigned char>(value);
 }
 
+bool inUse(const QAction *tool)
+{
+    return tool->isEnabled() && tool->isChecked();
+}
+
 } // namespace
 
 void MainWindow::updatetoolssettings()
@@ -53,7 +58,6 @@ void MainWindow::on_actionDecreaseBrushIntensity_triggered()
 
 void MainWindow::stepToolSize(int step)
 {
-    const auto inUse = [](const QAction *action) { return action->isEnabled() && action->isChecked(); };
     const bool keepInUse = form->actionKeep_arker->isChecked();
     const bool sameSize = settings.value(settings::sameSize.name, settings::sameSize.windowDefault).toBool();
     if (form->actionKeep_arker->isEnabled() && (keepInUse || sameSize)) {
@@ -87,10 +91,10 @@ void MainWindow::stepBrushIntensity(int step)
         form->statusBar->showMessage(message.arg(int{intensity}));
         settings.setValue(key, int{intensity});
     };
-    if (form->actionBackground_Brush->isEnabled() && form->actionBackground_Brush->isChecked())
+    if (inUse(form->actionBackground_Brush))
         change(brushIntensityRemove, tr("Background brush intensity is %1"),
                settings::removeBrushIntensity.name);
-    else if (form->actionForeground_Brush->isEnabled() && form->actionForeground_Brush->isChecked())
+    else if (inUse(form->actionForeground_Brush))
         change(brushIntensityKeep, tr("Foreground brush intensity is %1"), settings::keepBrushIntensity.name);
 }
 

@@ -3,6 +3,9 @@
 
 #include "imaging/PictureFile.h"
 
+#include "imaging/PictureCompleteness.h"
+
+#include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
@@ -15,13 +18,19 @@ constexpr int allocationLimitInMiB = 1024;
 
 QImage readPicture(const QString &path)
 {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !isCompletePicture(file))
+        return {};
     // Qt's own limit refuses what today's cameras make.
     QImageReader::setAllocationLimit(allocationLimitInMiB);
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     QImage picture;
-    return reader.read(&picture) ? picture : QImage();
+    if (!reader.read(&picture))
+        return {};
+    picture.setDevicePixelRatio(1.0); // Qt takes "@2x" in a file's name for a hint; here a pixel is a pixel
+    return picture;
 }
 
 bool writePicture(const QImage &picture, const QString &path, const QByteArray &format)

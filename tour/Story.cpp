@@ -7,6 +7,7 @@
 #include "tour/Agreement.h"
 
 #include <QAction>
+#include <QFile>
 #include <QGraphicsPixmapItem>
 #include <QLabel>
 #include <QLineEdit>
@@ -264,6 +265,7 @@ void Story::touchUpMoved()
 
 void Story::exportTo(const QString &name)
 {
+    QFile::remove(m_driver.file(name)); // of an earlier tour; the file dialog would ask
     m_driver.withDialog(
         "ExportDialog",
         [&](QWidget &dialog) {
