@@ -4,6 +4,7 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ornevo)
 set(CPACK_PACKAGE_VENDOR "The Ornevo developers")
 set(CPACK_PACKAGE_CONTACT "The Ornevo developers <contact@ornevo.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own, the first line of its description
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_COMPONENTS_ALL ornevo ornevo-dev)
 set(CPACK_STRIP_FILES ON)
@@ -24,10 +25,10 @@ set(CPACK_DEBIAN_ORNEVO_PACKAGE_DEPENDS qt6-image-formats-plugins)
 set(CPACK_DEBIAN_ORNEVO_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_COMPONENT_ORNEVO_DESCRIPTION
 "cut an object out of a photograph
- Ornevo separates an object from its background: a few green strokes mark what
- shall stay, a few red ones what shall go, and the outline between them is
- found. The object is shown over a colour, another picture or nothing,
- touched up with brushes, and exported as PNG or JPEG.")
+Ornevo separates an object from its background: a few green strokes mark what
+shall stay, a few red ones what shall go, and the outline between them is
+found. The object is shown over a colour, another picture or nothing,
+touched up with brushes, and exported as PNG or JPEG.")
 
 set(CPACK_DEBIAN_ORNEVO-DEV_PACKAGE_NAME ornevo-dev)
 set(CPACK_DEBIAN_ORNEVO-DEV_PACKAGE_SECTION libdevel)
@@ -37,7 +38,7 @@ if(ORNEVO_NEEDS_HWY)
 endif()
 set(CPACK_COMPONENT_ORNEVO-DEV_DESCRIPTION
 "libraries for cutting objects out of photographs
- The imaging and segmentation libraries of Ornevo with their headers and a
- CMake package: blurs, edge detectors and edge maps of pictures, the flooding
- of a picture from marked pixels, and the softening of a cut-out's border.")
+The imaging and segmentation libraries of Ornevo with their headers and a
+CMake package: blurs, edge detectors and edge maps of pictures, the flooding
+of a picture from marked pixels, and the softening of a cut-out's border.")
 include(CPack)
