@@ -49,9 +49,9 @@ void MainWindow::setUpActions()
     QAction *undo = undoStack.createUndoAction(this);
     undo->setShortcut(QKeySequence::Undo);
     form->menuActions->addAction(undo);
-    // Redo has no place in the menus; its key works all the same.
+    // Redo has no place in the menus; its keys work all the same.
     QAction *redo = undoStack.createRedoAction(this);
-    redo->setShortcut(QKeySequence::Redo);
+    redo->setShortcuts(QKeySequence::Redo);
     addAction(redo);
 }
 

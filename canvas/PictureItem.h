@@ -6,13 +6,28 @@
 #include <QGraphicsPixmapItem>
 #include <QImage>
 
+#include <vector>
+
 /// A pixmap item that is shown smoothly where it is reduced and with sharp pixels where it is enlarged.
+///
+/// Where it is reduced to less than a half, it is drawn from copies of half, a quarter ... of its size: a
+/// plain bilinear reduction would skip pixels, and a large photo would shimmer. The copies are made when they
+/// are first needed and take a third of the pixmap's memory.
 class PictureItem : public QGraphicsPixmapItem
 {
 public:
     explicit PictureItem(const QPixmap &pixmap);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+private:
+    friend void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area);
+
+    [[nodiscard]] const QImage *reducedFor(qreal scale);
+    void renewReduced(const QRect &area);
+
+    std::vector<QImage> m_reduced; ///< [k] has 1 / 2^(k + 1) of the size
+    qint64 m_reducedFrom = 0;      ///< cache key of the pixmap that m_reduced was made from
 };
 
 /// Brings the pixels of `area` in the pixmap of `item` up to date with `image`, a picture in Format_ARGB32 of

@@ -41,7 +41,10 @@ QString densePath(QString path)
 
 } // namespace
 
-ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent) {}
+ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent)
+{
+    setBackgroundBrush(palette().mid()); // so that the edges of a white picture can be seen
+}
 
 ZelGraphicsView::~ZelGraphicsView()
 {

@@ -67,7 +67,7 @@ int FrSobelEdgeDetector(CFrImage<unsigned char> *src, CFrImage<unsigned char> *d
     for (int y = 0; y < height; ++y) {
         unsigned char *out = magnitudes + std::ptrdiff_t{y} * width;
         const unsigned char *mid = src->data + std::ptrdiff_t{y} * width;
-        if (y == 0 || y == height - 1)
+        if (y == 0 || y == height - 1 || width == 0)
             std::fill(out, out + width, static_cast<unsigned char>(0));
         else
             rowfilters::sobelMagnitudeRow(mid - width, mid, mid + width, width, out);

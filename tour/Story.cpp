@@ -3,6 +3,7 @@
 
 #include "tour/Story.h"
 
+#include "tests/reference/MaskReference.h"
 #include "tour/Agreement.h"
 
 #include <QAction>
@@ -21,6 +22,11 @@ constexpr double leastAgreement = 0.97;
 constexpr qreal overlayZ = 7.0;
 constexpr qreal objectZ = 10.0;
 constexpr int movesPerStroke = 40;
+constexpr int movesPerBrushStroke = 12;
+constexpr int brushGrowth = 24;
+constexpr int batchPause = 100; // ms; a pause of 30 ends a batch
+constexpr int mostUndos = 200;
+constexpr int helpPictureWidth = 700; // twice what the help shows, for sharp screens
 
 bool isGreen(QRgb pixel)
 {
@@ -33,8 +39,9 @@ bool isMostlyOpaque(QRgb pixel)
 
 } // namespace
 
-Story::Story(QMainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures)
+Story::Story(MainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures)
     : m_window(window),
+      m_state(window),
       m_driver(window, folder),
       m_samples(samples),
       m_helpPictures(helpPictures),
@@ -56,6 +63,7 @@ void Story::tell()
     chooseColours();
     choosePicture();
     moveAndZoom();
+    touchUpMoved();
     exportPictures();
     readHelp();
     leavePreview();
@@ -133,22 +141,42 @@ void Story::showPreview()
 void Story::touchUp()
 {
     const QImage before = pixmapAt(objectZ).toImage();
-    const QPointF inside = m_strokes.keep.last().center();
+    const QPointF inside = m_strokes.keep.first().center();
     m_driver.clickTool("actionBackground_Brush");
-    m_driver.drag(inside, inside + QPointF(160, 0), 12);
-    Driver::wait(100); // a pause of the pointer ends a batch
+    for (int i = 0; i < brushGrowth; ++i)
+        m_driver.press(Qt::Key_Right, Qt::ControlModifier);
+    expect(m_window.statusBar()->currentMessage() ==
+               QString("Background brush size is %1").arg(10 + brushGrowth),
+           "the Background brush did not grow");
+    m_driver.drag(inside, inside + QPointF(200, 0), movesPerBrushStroke);
+    Driver::wait(batchPause);
     expect(pixmapAt(objectZ).toImage() != before, "the Background brush changed nothing");
     m_driver.picture("background-brush");
 
-    m_driver.clickTool("actionForeground_Brush");
-    m_driver.drag(inside, inside + QPointF(160, 0), 12);
-    Driver::wait(100);
+    m_driver.clickTool("actionForeground_Brush"); // brings back half of it
+    m_driver.drag(inside, inside + QPointF(100, 0), movesPerBrushStroke);
+    Driver::wait(batchPause);
     m_driver.picture("foreground-brush");
-    for (int undone = 0; pixmapAt(objectZ).toImage() != before; ++undone) {
-        expect(undone < 200, "Undo did not bring the cut-out back");
-        m_driver.press(Qt::Key_Z, Qt::ControlModifier);
-    }
+    undoAndRedoTouchUp(before);
+}
+
+void Story::undoAndRedoTouchUp(const QImage &before)
+{
+    const QImage touchedUp = m_state.previewImage();
+    expect(pixmapAt(objectZ).toImage() != before, "the Foreground brush undid more than its stroke");
+    const auto undoAll = [&] {
+        for (int undone = 0; pixmapAt(objectZ).toImage() != before; ++undone) {
+            expect(undone < mostUndos, "Undo did not bring the cut-out back");
+            m_driver.press(Qt::Key_Z, Qt::ControlModifier);
+        }
+    };
+    undoAll();
     m_driver.picture("brushes-undone");
+    for (int redone = 0; m_state.previewImage() != touchedUp; ++redone) {
+        expect(redone < mostUndos, "Redo did not bring the brushed cut-out back");
+        m_driver.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    }
+    undoAll();
 }
 
 void Story::chooseBackground(const QString &radioButton, const std::function<void(QWidget &)> &choose)
@@ -221,6 +249,19 @@ void Story::moveAndZoom()
     m_driver.clickTool("actionZoom_Out");
 }
 
+void Story::touchUpMoved()
+{
+    // The right end of the handle has moved with the object; the brush has to land where it is seen.
+    const QPointF handle = m_strokes.keep[4].center();
+    const QPointF seen = handle + m_state.previewOffset();
+    m_driver.clickTool("actionBackground_Brush");
+    m_driver.drag(seen, seen + QPointF(0, 60), movesPerBrushStroke);
+    Driver::wait(batchPause);
+    expect(qAlpha(m_state.previewImage().pixel(handle.toPoint())) < 255,
+           "the brush did not land where it was seen");
+    m_driver.picture("touched-up-after-the-move");
+}
+
 void Story::exportTo(const QString &name)
 {
     m_driver.withDialog(
@@ -243,6 +284,23 @@ void Story::exportPictures()
         const QImage exported(m_driver.file(name));
         expect(exported.size() == background.size(), name + " has not the size of the background");
     }
+    const QImage exported = QImage(m_driver.file("composition.png")).convertToFormat(QImage::Format_RGB32);
+    expect(exported == expectedComposition(background),
+           "the exported PNG is not the composition to the pixel");
+}
+
+QImage Story::expectedComposition(const QImage &background)
+{
+    reference::ExportSource source;
+    source.backgroundImage = background;
+    source.backgroundExtent = m_state.backgroundItem()->boundingRect().size();
+    source.m11 = m_state.backgroundItem()->transform().m11();
+    source.m22 = m_state.backgroundItem()->transform().m22();
+    source.previewImage = m_state.previewImage();
+    source.previewOffset = m_state.previewOffset();
+    return reference::exportComposition(source, background.width(), background.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
 }
 
 void Story::readHelp()
@@ -280,7 +338,9 @@ void Story::helpPicture(int number)
     if (m_helpPictures.isEmpty())
         return;
     const QString path = QString("%1/screenshot_%2.png").arg(m_helpPictures).arg(number, 2, 10, QChar('0'));
-    expect(QDir().mkpath(m_helpPictures) && m_driver.look().save(path), "can't write " + path);
+    expect(QDir().mkpath(m_helpPictures) &&
+               m_driver.look().scaledToWidth(helpPictureWidth, Qt::SmoothTransformation).save(path),
+           "can't write " + path);
 }
 
 QPixmap Story::pixmapAt(qreal z) const

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "app/MainWindow.h"
+#include "tests/support/MainWindowProbe.h"
 #include "tour/Driver.h"
 #include "tour/Strokes.h"
 
@@ -12,7 +14,7 @@ class Story
 public:
     /// `samples` is the folder of the sample pictures; `helpPictures` where the screenshots of the help are
     /// renewed, or empty.
-    Story(QMainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures);
+    Story(MainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures);
 
     /// Throws TourError where the program does not show what it should.
     void tell();
@@ -24,10 +26,13 @@ private:
     void showMask();
     void showPreview();
     void touchUp();
+    void undoAndRedoTouchUp(const QImage &before);
     void chooseColours();
     void choosePicture();
     void moveAndZoom();
+    void touchUpMoved();
     void exportPictures();
+    [[nodiscard]] QImage expectedComposition(const QImage &background);
     void readHelp();
     void leavePreview();
 
@@ -37,7 +42,8 @@ private:
     [[nodiscard]] QPixmap pixmapAt(qreal z) const;
     [[nodiscard]] qsizetype itemCount(int type) const;
 
-    QMainWindow &m_window;
+    MainWindow &m_window;
+    MainWindowProbe m_state;
     Driver m_driver;
     QDir m_samples;
     QString m_helpPictures;

@@ -1,0 +1,555 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "imaging/PictureFile.h"
+#include "tests/reference/TestPictures.h"
+#include "tests/support/Differences.h"
+#include "tests/support/TestMain.h"
+
+#include <QBuffer>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImageReader>
+#include <QImageWriter>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray encoded(const QImage &picture, const QByteArray &format)
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(100);
+    writer.write(picture);
+    return buffer.data();
+}
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool put(const QString &path, const QByteArray &contents)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+}
+
+QByteArray bigEndian16(int value)
+{
+    return QByteArray(1, static_cast<char>(value >> 8)) + static_cast<char>(value);
+}
+
+QByteArray littleEndian(quint32 value, int bytes)
+{
+    QByteArray result;
+    for (int i = 0; i < bytes; ++i)
+        result += static_cast<char>(value >> (8 * i));
+    return result;
+}
+
+/// A JPEG with a note of how the camera was held right behind its start.
+QByteArray withOrientation(const QByteArray &jpeg, int orientation)
+{
+    QByteArray tiff("II*\0\x08\0\0\0\x01\0", 10); // little-endian, one entry
+    tiff += QByteArray("\x12\x01\x03\0\x01\0\0\0", 8) + littleEndian(static_cast<quint32>(orientation), 4);
+    tiff += QByteArray(4, '\0'); // no further directory
+    const QByteArray body = QByteArray("Exif\0\0", 6) + tiff;
+    return jpeg.left(2) + "\xFF\xE1" + bigEndian16(static_cast<int>(body.size()) + 2) + body + jpeg.mid(2);
+}
+
+/// Four areas of colour, so that every turn and every reflection shows.
+QImage quarters(int width, int height)
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            picture.setPixel(x, y,
+                             y < height / 2 ? (x < width / 2 ? 0xFFF00000 : 0xFF00F000)
+                                            : (x < width / 2 ? 0xFF0000F0 : 0xFFF0F0F0));
+    return picture;
+}
+
+bool nearlySame(QRgb a, QRgb b, int tolerance = 8)
+{
+    return qAbs(qRed(a) - qRed(b)) <= tolerance && qAbs(qGreen(a) - qGreen(b)) <= tolerance &&
+           qAbs(qBlue(a) - qBlue(b)) <= tolerance;
+}
+
+/// Colours in the middle of the four quarters, row by row.
+QList<QRgb> quartersOf(const QImage &picture)
+{
+    const int w = picture.width();
+    const int h = picture.height();
+    return {picture.pixel(w / 4, h / 4), picture.pixel(3 * w / 4, h / 4), picture.pixel(w / 4, 3 * h / 4),
+            picture.pixel(3 * w / 4, 3 * h / 4)};
+}
+
+/// Bits, the highest first, as the entropy-coded part of a JPEG holds them.
+class BitWriter
+{
+public:
+    void put(int value, int count)
+    {
+        for (int i = count - 1; i >= 0; --i) {
+            m_byte = (m_byte << 1) | ((value >> i) & 1);
+            if (++m_count == 8)
+                flush();
+        }
+    }
+    QByteArray finished()
+    {
+        while (m_count != 0)
+            put(1, 1);
+        return m_bytes;
+    }
+
+private:
+    void flush()
+    {
+        m_bytes += static_cast<char>(m_byte);
+        if ((m_byte & 0xFF) == 0xFF)
+            m_bytes += '\0'; // so that no marker is read into it
+        m_byte = 0;
+        m_count = 0;
+    }
+    QByteArray m_bytes;
+    int m_byte = 0;
+    int m_count = 0;
+};
+
+/// One block of a constant value: its difference to the middle, and nothing else.
+void putBlock(BitWriter &bits, int value)
+{
+    const int difference = value - 128;
+    int category = 0;
+    while (qAbs(difference) >> category != 0)
+        ++category;
+    bits.put(category, 4);
+    bits.put(difference >= 0 ? difference : difference + (1 << category) - 1, category);
+    bits.put(0, 1); // end of block
+}
+
+QByteArray segment(int marker, const QByteArray &body)
+{
+    return "\xFF" + QByteArray(1, static_cast<char>(marker)) +
+           bigEndian16(static_cast<int>(body.size()) + 2) + body;
+}
+
+/// A JPEG of 8 x 8 pixels of one colour in four inks, stored inverted as printers' programs do.
+QByteArray inkJpeg(const QList<int> &inks)
+{
+    QByteArray frame = QByteArray("\x08\0\x08\0\x08\x04", 6);
+    QByteArray scan = "\x04";
+    BitWriter bits;
+    for (int i = 0; i < 4; ++i) {
+        frame += QByteArray(1, static_cast<char>(i + 1)) + QByteArray("\x11\0", 2);
+        scan += QByteArray(1, static_cast<char>(i + 1)) + QByteArray(1, '\0');
+        putBlock(bits, inks.at(i));
+    }
+    QByteArray levels("\0\0\0\0\x09\0\0\0\0\0\0\0\0\0\0\0\0", 17); // nine codes of four bits
+    for (char category = 0; category <= 8; ++category)
+        levels += category;
+    const QByteArray waves("\x10\x01\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 18); // one code: end of block
+    return "\xFF\xD8" + segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0\0", 12)) +
+           segment(0xDB, QByteArray(1, '\0') + QByteArray(64, '\x08')) + segment(0xC0, frame) +
+           segment(0xC4, levels) + segment(0xC4, waves) + segment(0xDA, scan + QByteArray("\0\x3F\0", 3)) +
+           bits.finished() + "\xFF\xD9";
+}
+
+/// A GIF of one pixel a frame: first red, then green.
+QByteArray animation()
+{
+    QByteArray gif("GIF89a\x01\0\x01\0\x80\0\0\xF0\0\0\0\xF0\0", 19); // two colours
+    for (const char code : {'\x44', '\x4C'}) {
+        gif += QByteArray("\x21\xF9\x04\0\x0A\0\0\0", 8);
+        gif += QByteArray(",\0\0\0\0\x01\0\x01\0\0\x02\x02", 12) + code + QByteArray("\x01\0", 2);
+    }
+    return gif + ";";
+}
+
+/// A BMP of 32 bits a pixel whose pixels, all 0, take no room on the disk.
+bool putHollowBmp(const QString &path, int width, int height)
+{
+    const qint64 bytes = qint64{4} * width * height;
+    QByteArray header = "BM" + littleEndian(static_cast<quint32>(bytes + 54), 4) + littleEndian(0, 4) +
+                        littleEndian(54, 4) + littleEndian(40, 4);
+    header += littleEndian(static_cast<quint32>(width), 4) + littleEndian(static_cast<quint32>(height), 4);
+    header += littleEndian(1, 2) + littleEndian(32, 2) + QByteArray(24, '\0');
+    QFile file(path);
+    return put(path, header) && file.open(QIODevice::ReadWrite) && file.resize(bytes + 54);
+}
+
+/// While it lives, no file can grow beyond `bytes`: the disk is full.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit narrow{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &narrow);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+} // namespace
+
+class TestPictureFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void readsWhatWasWritten_data();
+    void readsWhatWasWritten();
+    void readsByContentsAndNotByName();
+    void standsPhotosUpright_data();
+    void standsPhotosUpright();
+    void readsDeepColour();
+    void readsPalettes();
+    void readsInksOfPrinters();
+    void readsTheFirstFrame();
+    void readsWhatTodaysCamerasMake();
+    void refusesMoreThanAGibibyte();
+    void refusesAHeaderThatPromisesTooMuch();
+    void refusesWhatIsNoPicture_data();
+    void refusesWhatIsNoPicture();
+    void survivesTruncation_data();
+    void survivesTruncation();
+    void writesInPlaceOfAnOlderFile();
+    void writesJpegAtFullQuality();
+    void cannotWrite_data();
+    void cannotWrite();
+    void cannotWriteIntoAReadOnlyFolder();
+    void failingWriteLeavesTheOldFile_data();
+    void failingWriteLeavesTheOldFile();
+    void failingWriteLeavesNoNewFile();
+
+private:
+    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
+    [[nodiscard]] QStringList files() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden);
+    }
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestPictureFile::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void TestPictureFile::readsWhatWasWritten_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<bool>("lossless");
+    for (const char *format : {"png", "PNG", "bmp", "ppm", "tiff", "tif"})
+        QTest::newRow(format) << QByteArray(format) << true;
+    for (const char *format : {"jpg", "jpeg", "JPG"})
+        QTest::newRow(format) << QByteArray(format) << false;
+}
+
+void TestPictureFile::readsWhatWasWritten()
+{
+    QFETCH(QByteArray, format);
+    QFETCH(bool, lossless);
+    for (const QSize size : {QSize(1, 1), QSize(17, 3), QSize(64, 48)}) {
+        const QImage picture = testpictures::blobImage(size.width(), size.height(), 5);
+        QVERIFY(writePicture(picture, path("picture." + format), format));
+        const QImage back = readPicture(path("picture." + format)).convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(back.size(), size);
+        if (lossless)
+            VERIFY_SAME(format, back, picture);
+        QVERIFY(nearlySame(back.pixel(0, 0), picture.pixel(0, 0), 25));
+    }
+    QCOMPARE(files(), QStringList("picture." + format)); // and no temporary file beside it
+}
+
+void TestPictureFile::readsByContentsAndNotByName()
+{
+    const QImage picture = testpictures::blobImage(20, 10, 6);
+    for (const QString name : {"a.jpg", "b.png", "c.txt", "d", "e.gif", "Foto ä 写真.PNG"}) {
+        for (const char *format : {"png", "bmp"}) {
+            QVERIFY(put(path(name), encoded(picture, format)));
+            VERIFY_SAME(name.toUtf8(), readPicture(path(name)).convertToFormat(QImage::Format_RGB32),
+                        picture);
+        }
+        QVERIFY(put(path(name), encoded(picture, "jpg")));
+        QCOMPARE(readPicture(path(name)).size(), picture.size());
+    }
+}
+
+void TestPictureFile::standsPhotosUpright_data()
+{
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<QTransform>("turn");
+    const QTransform mirror(-1, 0, 0, 1, 0, 0);
+    QTest::newRow("none") << 0 << QTransform();
+    QTest::newRow("upright") << 1 << QTransform();
+    QTest::newRow("mirrored") << 2 << mirror;
+    QTest::newRow("upside down") << 3 << QTransform().rotate(180);
+    QTest::newRow("upside down, mirrored") << 4 << QTransform(1, 0, 0, -1, 0, 0);
+    QTest::newRow("on its side, mirrored") << 5 << QTransform(0, 1, 1, 0, 0, 0);
+    QTest::newRow("turned left") << 6 << QTransform().rotate(90);
+    QTest::newRow("on its other side, mirrored") << 7 << QTransform(0, -1, -1, 0, 0, 0);
+    QTest::newRow("turned right") << 8 << QTransform().rotate(270);
+    QTest::newRow("nonsense") << 99 << QTransform();
+}
+
+void TestPictureFile::standsPhotosUpright()
+{
+    QFETCH(int, orientation);
+    QFETCH(QTransform, turn);
+    const QImage picture = quarters(64, 32);
+    QVERIFY(put(path("photo.jpg"), withOrientation(encoded(picture, "jpg"), orientation)));
+    const QImage photo = readPicture(path("photo.jpg"));
+    const QImage expected = picture.transformed(turn);
+    QCOMPARE(photo.size(), expected.size());
+    const QList<QRgb> colours = quartersOf(photo);
+    for (int i = 0; i < 4; ++i)
+        QVERIFY2(nearlySame(colours.at(i), quartersOf(expected).at(i)), qPrintable(QString::number(i)));
+}
+
+void TestPictureFile::readsDeepColour()
+{
+    const QImage deep = testpictures::randomImage(9, 7, 7).convertToFormat(QImage::Format_RGBX64);
+    QVERIFY(put(path("deep.png"), encoded(deep, "png")));
+    const QImage back = readPicture(path("deep.png"));
+    QCOMPARE(back.depth(), 64);
+    VERIFY_SAME("16 bits", back.convertToFormat(QImage::Format_RGB32), testpictures::randomImage(9, 7, 7));
+    QImage grey(4, 4, QImage::Format_Grayscale16);
+    grey.fill(QColor(70, 70, 70));
+    QVERIFY(put(path("grey.png"), encoded(grey, "png")));
+    QCOMPARE(readPicture(path("grey.png")).convertToFormat(QImage::Format_RGB32).pixel(1, 1),
+             qRgb(70, 70, 70));
+}
+
+void TestPictureFile::readsPalettes()
+{
+    QImage palette(6, 5, QImage::Format_Indexed8);
+    palette.setColorTable({0xFF102030, 0xFFA0B0C0});
+    palette.fill(0);
+    palette.setPixel(4, 3, 1);
+    const QImage grey = testpictures::greyStepsImage(6, 5, 8);
+    const QImage bits = palette.convertToFormat(QImage::Format_Mono);
+    for (const char *format : {"png", "bmp", "tiff"}) {
+        QVERIFY(put(path("p"), encoded(palette, format)) && put(path("b"), encoded(bits, format)));
+        QVERIFY(put(path("g"), encoded(grey.convertToFormat(QImage::Format_Grayscale8), format)));
+        VERIFY_SAME(format, readPicture(path("p")).convertToFormat(QImage::Format_RGB32),
+                    palette.convertToFormat(QImage::Format_RGB32));
+        VERIFY_SAME(format, readPicture(path("g")).convertToFormat(QImage::Format_RGB32), grey);
+        VERIFY_SAME(format, readPicture(path("b")).convertToFormat(QImage::Format_RGB32),
+                    bits.convertToFormat(QImage::Format_RGB32));
+    }
+}
+
+void TestPictureFile::readsInksOfPrinters()
+{
+    QVERIFY(put(path("inks.jpg"), inkJpeg({200, 100, 50, 255})));
+    const QImage bright = readPicture(path("inks.jpg"));
+    QCOMPARE(bright.size(), QSize(8, 8));
+    QVERIFY2(nearlySame(bright.pixel(4, 4), qRgb(200, 100, 50), 2),
+             qPrintable(QString::number(bright.pixel(4, 4), 16)));
+    QVERIFY(put(path("inks.jpg"), inkJpeg({200, 100, 50, 127}))); // half covered with black
+    QVERIFY(nearlySame(readPicture(path("inks.jpg")).pixel(4, 4), qRgb(100, 50, 25), 2));
+}
+
+void TestPictureFile::readsTheFirstFrame()
+{
+    QVERIFY(put(path("moving.gif"), animation()));
+    QImageReader reader(path("moving.gif"));
+    QVERIFY(!reader.read().isNull());
+    QCOMPARE(reader.read().convertToFormat(QImage::Format_RGB32).pixel(0, 0),
+             0xFF00F000); // there is a second
+    QCOMPARE(readPicture(path("moving.gif")).convertToFormat(QImage::Format_RGB32).pixel(0, 0), 0xFFF00000);
+}
+
+void TestPictureFile::readsWhatTodaysCamerasMake()
+{
+    // 144 MB of pixels: more than the toolkit reads of its own accord.
+    QVERIFY(putHollowBmp(path("large.bmp"), 6000, 6000));
+    QCOMPARE(readPicture(path("large.bmp")).size(), QSize(6000, 6000));
+}
+
+void TestPictureFile::refusesMoreThanAGibibyte()
+{
+    QVERIFY(putHollowBmp(path("vast.bmp"), 16500, 16500));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(readPicture(path("vast.bmp")).isNull());
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(QImageReader::allocationLimit(), 1024);
+}
+
+void TestPictureFile::refusesAHeaderThatPromisesTooMuch()
+{
+    QByteArray bmp = encoded(testpictures::randomImage(4, 4, 1), "bmp");
+    bmp.replace(18, 8, littleEndian(0x7FFFFFFF, 4) + littleEndian(0x7FFFFFFF, 4));
+    QVERIFY(put(path("a.bmp"), bmp));
+    QVERIFY(put(path("b.ppm"), "P6 2147483647 2147483647 255\nabc"));
+    QVERIFY(put(path("c.pgm"), "P5 60000 60000 255\nabc"));
+    QElapsedTimer timer;
+    timer.start();
+    for (const char *name : {"a.bmp", "b.ppm", "c.pgm"})
+        QVERIFY2(readPicture(path(name)).isNull(), name);
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void TestPictureFile::refusesWhatIsNoPicture_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("text") << QByteArray("The quick brown fox jumps over the lazy dog.\n");
+    QTest::newRow("zeros") << QByteArray(4096, '\0');
+    QTest::newRow("magic of png alone") << QByteArray("\x89PNG\r\n\x1A\n");
+    QTest::newRow("magic of jpeg alone") << QByteArray("\xFF\xD8\xFF\xE0");
+    QTest::newRow("magic of gif alone") << QByteArray("GIF89a");
+    QTest::newRow("magic of tiff alone") << QByteArray("II*\0", 4);
+    QTest::newRow("magic of bmp alone") << QByteArray("BM");
+}
+
+void TestPictureFile::refusesWhatIsNoPicture()
+{
+    QFETCH(QByteArray, contents);
+    for (const char *name : {"x.png", "x.jpg", "x.bmp", "x.gif", "x.tiff", "x"}) {
+        QVERIFY(put(path(name), contents));
+        QVERIFY2(readPicture(path(name)).isNull(), name);
+    }
+    QVERIFY(readPicture(path("missing.png")).isNull());
+    QVERIFY(readPicture(m_folder->path()).isNull());
+    QVERIFY(readPicture(QString()).isNull());
+}
+
+void TestPictureFile::survivesTruncation_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    for (const char *format : {"png", "jpg", "bmp", "tiff", "ppm"})
+        QTest::newRow(format) << QByteArray(format);
+}
+
+void TestPictureFile::survivesTruncation()
+{
+    QFETCH(QByteArray, format);
+    const QByteArray whole = encoded(testpictures::blobImage(40, 30, 9), format);
+    for (qsizetype bytes = 0; bytes < whole.size(); bytes += 1 + whole.size() / 60) {
+        QVERIFY(put(path("cut"), whole.left(bytes)));
+        const QImage picture = readPicture(path("cut"));
+        // What is left of a picture may be shown, but nothing else.
+        QVERIFY(picture.isNull() || picture.size() == QSize(40, 30));
+        QVERIFY(bytes >= 20 || picture.isNull());
+    }
+}
+
+void TestPictureFile::writesInPlaceOfAnOlderFile()
+{
+    const QImage picture = testpictures::randomImage(30, 20, 10);
+    QVERIFY(put(path("a.png"), QByteArray(100000, 'x')));
+    QVERIFY(writePicture(picture, path("a.png"), "png"));
+    VERIFY_SAME("png", readPicture(path("a.png")).convertToFormat(QImage::Format_RGB32), picture);
+    QVERIFY(contentsOf(path("a.png")).size() < 100000);
+    QCOMPARE(files(), QStringList("a.png"));
+}
+
+void TestPictureFile::writesJpegAtFullQuality()
+{
+    const QImage picture = testpictures::blobImage(64, 48, 11);
+    QVERIFY(writePicture(picture, path("a.jpg"), "jpg"));
+    QCOMPARE(contentsOf(path("a.jpg")), encoded(picture, "jpg"));
+}
+
+void TestPictureFile::cannotWrite_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<bool>("picture");
+    QTest::newRow("no name") << QString() << QByteArray("png") << true;
+    QTest::newRow("missing folder") << "no/such/folder/a.png" << QByteArray("png") << true;
+    QTest::newRow("a folder") << "." << QByteArray("png") << true;
+    QTest::newRow("below a file") << "old.png/a.png" << QByteArray("png") << true;
+    QTest::newRow("no format") << "a" << QByteArray() << true;
+    QTest::newRow("unknown format") << "a.xyz" << QByteArray("xyz") << true;
+    QTest::newRow("format that is only read") << "a.gif" << QByteArray("gif") << true;
+    QTest::newRow("no picture") << "a.png" << QByteArray("png") << false;
+}
+
+void TestPictureFile::cannotWrite()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, format);
+    QFETCH(bool, picture);
+    QVERIFY(put(path("old.png"), "old"));
+    const QImage image = picture ? testpictures::randomImage(8, 8, 12) : QImage();
+    QVERIFY(!writePicture(image, name.isEmpty() ? name : path(name), format));
+    QCOMPARE(files(), QStringList("old.png"));
+    QCOMPARE(contentsOf(path("old.png")), QByteArray("old"));
+    QVERIFY(QDir(m_folder->path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
+}
+
+void TestPictureFile::cannotWriteIntoAReadOnlyFolder()
+{
+    // Not even the administrator makes files there.
+    QVERIFY(!writePicture(testpictures::randomImage(8, 8, 13), "/proc/a.png", "png"));
+    if (geteuid() == 0)
+        QSKIP("the administrator may write into any folder of the tests");
+    QVERIFY(put(path("old.png"), "old"));
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    const bool written = writePicture(testpictures::randomImage(8, 8, 13), path("a.png"), "png");
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QVERIFY(!written);
+    QCOMPARE(files(), QStringList("old.png"));
+}
+
+void TestPictureFile::failingWriteLeavesTheOldFile_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    for (const char *format : {"png", "jpg", "bmp"})
+        QTest::newRow(format) << QByteArray(format);
+}
+
+void TestPictureFile::failingWriteLeavesTheOldFile()
+{
+    QFETCH(QByteArray, format);
+    const QString name = path("a." + format);
+    const QImage older = testpictures::randomImage(10, 10, 14);
+    QVERIFY(writePicture(older, name, format));
+    const QByteArray before = contentsOf(name);
+    bool written = true;
+    {
+        const FullDisk disk(2000);
+        written = writePicture(testpictures::randomImage(200, 200, 15), name, format);
+    }
+    QVERIFY(!written);
+    QCOMPARE(contentsOf(name), before);
+    QCOMPARE(files(), QStringList("a." + format));
+}
+
+void TestPictureFile::failingWriteLeavesNoNewFile()
+{
+    {
+        const FullDisk disk(2000);
+        QVERIFY(!writePicture(testpictures::randomImage(200, 200, 16), path("a.png"), "png"));
+        // A picture that its format can't hold.
+        QVERIFY(!writePicture(testpictures::constantImage(70000, 1, 0xFF000000), path("a.jpg"), "jpg"));
+    }
+    QVERIFY(files().isEmpty());
+}
+
+ORNEVO_TEST_MAIN(TestPictureFile)
+#include "tst_picturefile.moc"
