@@ -24,7 +24,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     registerResources();
     form->setupUi(this);
     setUpActions();
-    form->progressBar->hide();
+    hideProgress();
     updatetoolssettings();
     form->graphicsView->settings = &settings;
     form->graphicsView->updatetoolssettings();
@@ -34,6 +34,15 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::hideProgress()
+{
+    // Its place stays: a canvas that grew and shrank with the bar would lose its zoom a little each time.
+    QSizePolicy policy = form->progressBar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    form->progressBar->setSizePolicy(policy);
+    form->progressBar->hide();
+}
 
 void MainWindow::setUpActions()
 {
@@ -64,6 +73,7 @@ void MainWindow::connectCanvas()
             SLOT(on_HandToolPressed(QPoint, QPoint)));
     connect(&brushTimer, SIGNAL(timeout()), this, SLOT(on_ProcessBrushMouseEvent()));
     connect(&skipLastRectTimer, SIGNAL(timeout()), this, SLOT(on_TimeToSkipLastRect()));
+    connect(&undoStack, &QUndoStack::indexChanged, this, &MainWindow::showChangeByOlderEntry);
 }
 
 void MainWindow::chooseTool(int tool, bool checked)

@@ -101,6 +101,7 @@ private slots:
 private:
     friend class MainWindowProbe; // the tests' look at the state below
 
+    void hideProgress();
     void setUpActions();
     void connectCanvas();
     void chooseTool(int tool, bool checked);
@@ -111,6 +112,7 @@ private:
     void stepBrushIntensity(int step);
     void changeToolSize(unsigned char &size, const QString &message, const char *key, int step);
     void applyBrush(const QList<QRect> &rects, int alphaChange);
+    void showChangeByOlderEntry(int undoIndex);
     void scaleBackground(double factor);
     [[nodiscard]] QPixmap exportCanvas() const;
 
@@ -135,6 +137,7 @@ private:
     bool skipLastRect = true;
     QList<QRect> pendingBrushRects;
     QUndoStack undoStack;
+    int entriesOlderThanPreviewItem = 0;
     QPixmap imagePixmap;
     unsigned char keepMarkerSize = 0;
     unsigned char removeMarkerSize = 0;

@@ -8,11 +8,16 @@
 #include "imaging/AlphaBrush.h"
 #include "ui_MainWindow.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int fullBatch = 10;
 constexpr int pauseBeforeBatch = 30;        // ms
 constexpr int pauseBeforeForgetting = 1000; // ms
+
+// Off every picture, and no arithmetic with it overflows an int.
+constexpr qint64 farthestOffset = 1 << 29;
 
 } // namespace
 
@@ -58,6 +63,8 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
     BrushBatch batch = brushBatch(rects, previewOffset, previewImage.size());
     if (!skipLastRect)
         batch.pixels -= lastBrushRect;
+    // With the view zoomed out the box can be far larger than the picture, whose pixels alone can change.
+    batch.box &= previewImage.rect();
     // QImage::copy() takes an empty rectangle for the whole picture.
     const QImage before = batch.box.isEmpty() ? QImage() : previewImage.copy(batch.box);
     changeAlpha(previewImage, batch.pixels, alphaChange);
@@ -66,9 +73,22 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
     undoStack.push(new CBrushCommand(previewItem, batch.box, &after, &previewImage, before));
 }
 
+// A brush entry changes the picture and shows that in the item it was made for. Once the preview has been built anew
+// that item is gone, and the one that took its place has to follow the picture.
+void MainWindow::showChangeByOlderEntry(int undoIndex)
+{
+    const bool older = entriesOlderThanPreviewItem > 0 && undoIndex <= entriesOlderThanPreviewItem;
+    if (older && previewItem != nullptr && !previewImage.isNull())
+        updatePixmap(*previewItem, previewImage, previewImage.rect());
+}
+
 void MainWindow::on_HandToolPressed(QPoint prevpos, QPoint pos)
 {
-    previewOffset += pos - prevpos;
+    const auto moved = [](qint64 offset, qint64 to, qint64 from) {
+        return static_cast<int>(std::clamp(offset + to - from, -farthestOffset, farthestOffset));
+    };
+    previewOffset = {moved(previewOffset.x(), pos.x(), prevpos.x()),
+                     moved(previewOffset.y(), pos.y(), prevpos.y())};
     if (previewItem != nullptr)
         previewItem->setPos(previewOffset);
 }

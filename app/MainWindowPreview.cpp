@@ -83,6 +83,7 @@ void MainWindow::applypreviewmask()
     previewScene.clear();
     backgroundItem = new PictureItem(background);
     previewItem = new PictureItem(object);
+    entriesOlderThanPreviewItem = undoStack.count();
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);
     backgroundItem->setZValue(backgroundZ);

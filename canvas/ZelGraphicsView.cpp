@@ -12,6 +12,8 @@
 #include <QResizeEvent>
 #include <QSettings>
 
+#include <algorithm>
+
 namespace {
 
 // The pencils are drawn so that their tip lies there at this width.
@@ -125,7 +127,9 @@ void ZelGraphicsView::updateellipse(int size)
 {
     if (brushOutline == nullptr)
         return;
-    const QRect square = squareAround(mapFromScene(brushOutline->rect().center()), size / 2);
+    // Not mapFromScene(): zoomed far in, the circle can lie where no int reaches.
+    const QPointF centre = viewportTransform().map(brushOutline->rect().center());
+    const QRect square = squareAround(QPoint(roundToInt(centre.x()), roundToInt(centre.y())), size / 2);
     if (scene() != nullptr && scene()->sceneRect().contains(square))
         brushOutline->setRect(square);
 }
@@ -223,6 +227,14 @@ void ZelGraphicsView::resizeEvent(QResizeEvent *event)
         scale(factor, factor);
     }
     QGraphicsView::resizeEvent(event);
+}
+
+void ZelGraphicsView::scrollContentsBy(int dx, int dy)
+{
+    // Zoomed far in, one step can be so long that Qt's moving of the pixels overflows and reads beyond them.
+    // Beyond the view's own size it makes no difference how far the pixels move.
+    const int farthest = 2 * std::max({1, viewport()->width(), viewport()->height()});
+    QGraphicsView::scrollContentsBy(std::clamp(dx, -farthest, farthest), std::clamp(dy, -farthest, farthest));
 }
 
 QRect ZelGraphicsView::squareAround(QPoint viewPosition, int half) const

@@ -55,6 +55,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
 
 private:
     void PenMousePressed(QMouseEvent *event);
@@ -101,5 +102,6 @@ private:
     unsigned char blueMarkerSize = 0;
     double markerOpacity = 0.0;
     bool mousePressed = false;
+    QPointF m_penStart;
     std::vector<ItemPointer<QGraphicsItem>> m_erasedDabs;
 };

@@ -3,6 +3,7 @@
 
 #include "canvas/MarkerDabs.h"
 #include "canvas/ZelGraphicsView.h"
+#include "imaging/Truncation.h"
 
 #include <QMouseEvent>
 
@@ -78,7 +79,12 @@ void ZelGraphicsView::HandMouseMoved(QMouseEvent *event)
     if (!mousePressed)
         return;
     const QPoint position = event->position().toPoint();
-    emit HandTool(mapToScene(lastMousePos).toPoint(), mapToScene(position).toPoint());
+    // Where the view is zoomed far out, a step of the pointer can be longer than an int holds.
+    const auto scenePoint = [this](QPoint viewPosition) {
+        const QPointF there = mapToScene(viewPosition);
+        return QPoint(roundToInt(there.x()), roundToInt(there.y()));
+    };
+    emit HandTool(scenePoint(lastMousePos), scenePoint(position));
     lastMousePos = position;
 }
 

@@ -99,7 +99,8 @@ void ZelGraphicsView::PenMousePressed(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    penPathItem = scene()->addPath(QPainterPath(scenePosition(*this, *event)));
+    m_penStart = scenePosition(*this, *event);
+    penPathItem = scene()->addPath(QPainterPath(m_penStart));
     penPathItem->setPen(QPen(QColor(markers::penColour)));
     mousePressed = true;
 }
@@ -110,8 +111,10 @@ void ZelGraphicsView::PenMouseMoved(QMouseEvent *event)
         return;
     emit ProgressStage(QByteArray("mouse moved").data());
     QPainterPath path = penPathItem->path();
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         emit ProgressStage(QByteArray("path empty").data());
+        path.moveTo(m_penStart); // the item drops a path of a start alone, and the line would begin at the origin
+    }
     path.lineTo(scenePosition(*this, *event));
     penPathItem->setPath(path);
     penPathItem->setPen(QPen(QColor(markers::penColour), 0));

@@ -34,7 +34,8 @@ bool writePicture(const QImage &picture, const QString &path, const QByteArray &
         return false;
     QImageWriter writer(&file, format);
     writer.setQuality(100);
-    if (!writer.write(picture)) {
+    // commit() does not notice when the last bytes out of the buffer find the disk full; flush() does.
+    if (!writer.write(picture) || !file.flush()) {
         file.cancelWriting();
         return false;
     }

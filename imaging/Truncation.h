@@ -4,6 +4,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 /// Truncates toward zero. What lies so far out that arithmetic with it could overflow an int is moved to a
@@ -12,4 +13,10 @@ inline int truncateToInt(double value)
 {
     constexpr double bound = std::numeric_limits<int>::max() * 0.25;
     return value == value ? static_cast<int>(std::clamp(value, -bound, bound)) : 0;
+}
+
+/// Rounds to the nearest whole number, halves away from zero, within the same bounds.
+inline int roundToInt(double value)
+{
+    return truncateToInt(std::round(value));
 }

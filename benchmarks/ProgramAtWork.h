@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/MainWindow.h"
+#include "tests/support/MainWindowProbe.h"
+
+#include <QTemporaryDir>
+
+/// Writes a mosaic of photographs of so many megapixels as a JPEG.
+void writePhoto(int megapixels, const QString &file);
+
+/// The real window with a photo, and the marks that a user would lay, for whoever measures its steps.
+class ProgramAtWork
+{
+public:
+    /// Works on a mosaic of so many megapixels, written to a file of its own.
+    explicit ProgramAtWork(int megapixels);
+    /// Works on the picture in a file.
+    explicit ProgramAtWork(const QString &photo);
+
+    MainWindow &window() { return m_window; }
+    MainWindowProbe &state() { return m_state; }
+    /// Pixels of the picture that is open.
+    [[nodiscard]] double pixels() { return double(size().width()) * size().height(); }
+
+    /// Opens the picture from its file, a JPEG, without the dialog.
+    void open();
+    /// Lays the marks of two regions on the editing scene.
+    void layMarks();
+    /// Runs a slot of the window that takes no arguments.
+    void run(const char *slot);
+    /// Switches the preview on.
+    void preview();
+    /// One batch of ten dabs of 20 pixels in the middle of the picture.
+    void brush();
+    [[nodiscard]] QString file() const { return m_photo; }
+    [[nodiscard]] QString fileFor(const QString &name) const { return m_folder.filePath(name); }
+
+private:
+    [[nodiscard]] QSize size() { return m_state.workingImage().size(); }
+
+    QTemporaryDir m_folder;
+    QString m_photo;
+    MainWindow m_window;
+    MainWindowProbe m_state;
+};

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+// How much memory the program takes over the whole road: open, mask, preview, brush, export.
+//
+//   road_memory make MEGAPIXELS FILE   writes a photo to measure with
+//   road_memory FILE                   walks the road with it and prints the bytes a pixel of the peak, above what the
+//                                      started program had
+//
+// A process of its own for either, since a peak does not go down.
+
+#include "benchmarks/ProgramAtWork.h"
+#include "imaging/ExportComposition.h"
+#include "imaging/PictureFile.h"
+
+#include <QApplication>
+#include <QSettings>
+#include <QTimer>
+
+#include <sys/resource.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+double peakBytes()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return double(usage.ru_maxrss) * 1024.0; // kilobytes, but for Mac OS, where this has not been tried
+}
+
+/// The export without its dialog: what on_actionExport_triggered() does after it.
+void exportPicture(ProgramAtWork &program, const QString &name)
+{
+    QImage canvas(program.state().backgroundItem()->pixmap().size(), QImage::Format_ARGB32);
+    canvas.fill(program.state().backgroundColor());
+    const QSize size = canvas.size();
+    const ExportLayers layers{QPixmap::fromImage(std::move(canvas)), program.state().previewImage(), QPoint(), size};
+    writePicture(composeExport(layers, size).toImage(), program.fileFor(name), "png");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    const QTemporaryDir settings;
+    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
+        QSettings::setPath(format, QSettings::UserScope, settings.path());
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Ornevo benchmark");
+    QApplication::setOrganizationName("Ornevo benchmark");
+    if (argc == 4 && QString(argv[1]) == "make") {
+        writePhoto(std::atoi(argv[2]), argv[3]);
+        return 0;
+    }
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: road_memory make MEGAPIXELS FILE | road_memory FILE\n");
+        return 2;
+    }
+    ProgramAtWork program{QString(argv[1])};
+    const double started = peakBytes();
+    program.open();
+    program.layMarks();
+    program.run("on_actionMask_triggered");
+    QApplication::processEvents();
+    program.preview();
+    QApplication::processEvents();
+    program.brush();
+    QApplication::processEvents();
+    exportPicture(program, "cut-out.png");
+    std::printf("%.1f megapixels: peak %.1f bytes a pixel above the started program\n", program.pixels() * 1e-6,
+                (peakBytes() - started) / program.pixels());
+    return 0;
+}

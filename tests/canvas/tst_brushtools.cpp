@@ -1,0 +1,555 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "canvas/ZelGraphicsView.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/WindowDriver.h"
+
+#include <QGraphicsEllipseItem>
+#include <QSignalSpy>
+
+#include <cmath>
+
+class TestBrushTools : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void squareOfTheBrush_data();
+    void squareOfTheBrush();
+    void squareInNumbers();
+    void squareLeftOfTheOrigin();
+    void pressOutsideIsSilentAndMoveIsNot();
+    void anyButtonPresses();
+    void movingWithoutAButton();
+    void circle();
+    void circleGoesAndComesBack();
+    void pressLeavesTheCircleAlone();
+    void removeBrushRepaintsTheScene();
+    void sizesWithoutArea_data();
+    void sizesWithoutArea();
+    void updateEllipse();
+    void sizesAreBytes();
+    void sharedSize();
+    void handSignals_data();
+    void handSignals();
+    void handDragsAddUp();
+    void handCursors();
+    void brushCursors();
+    void withoutAScene();
+    void releaseEndsTheStroke();
+
+private:
+    void setBrushSizes(int size);
+    QGraphicsEllipseItem *outline() const;
+    void zoomTo(double scale);
+
+    std::unique_ptr<QSettings> store;
+    std::unique_ptr<QGraphicsScene> scene;
+    std::unique_ptr<ZelGraphicsView> view;
+};
+
+namespace {
+
+int cut(double value)
+{
+    return static_cast<int>(std::trunc(value));
+}
+
+QRect expectedSquare(const QGraphicsView &view, QPoint position, int size)
+{
+    const int half = size / 2;
+    const QPointF first = view.mapToScene(position.x() - half, position.y() - half);
+    const QPointF second = view.mapToScene(position.x() + half, position.y() + half);
+    return QRect(cut(first.x()), cut(first.y()), cut(second.x() - first.x()), cut(second.y() - first.y()));
+}
+
+QRect squareOf(const QList<QVariant> &signal)
+{
+    return signal.at(0).toRect();
+}
+
+const DrawingTools brushes[] = {ToolKeepBrush, ToolRemoveBrush};
+
+} // namespace
+
+void TestBrushTools::init()
+{
+    store = std::make_unique<QSettings>();
+    store->clear();
+    scene = std::make_unique<QGraphicsScene>(0, 0, 200, 150);
+    view = std::make_unique<ZelGraphicsView>();
+    view->settings = store.get();
+    view->updatetoolssettings();
+    view->setMouseTracking(true);
+    view->resize(600, 500);
+    view->show();
+    QVERIFY(QTest::qWaitForWindowExposed(view.get()));
+    view->setScene(scene.get());
+}
+
+void TestBrushTools::cleanup()
+{
+    view.reset();
+    scene.reset();
+    store->clear();
+}
+
+void TestBrushTools::setBrushSizes(int size)
+{
+    store->setValue("SAMESIZECHECKED", false);
+    store->setValue("KEEPBSIZE", size);
+    store->setValue("REMOVEBSIZE", size);
+    view->updatetoolssettings();
+}
+
+void TestBrushTools::zoomTo(double scale)
+{
+    view->setTransform(QTransform::fromScale(scale, scale));
+    view->centerOn(100, 75);
+}
+
+QGraphicsEllipseItem *TestBrushTools::outline() const
+{
+    QGraphicsEllipseItem *found = nullptr;
+    for (QGraphicsItem *item : scene->items()) {
+        auto *ellipse = qgraphicsitem_cast<QGraphicsEllipseItem *>(item);
+        if (ellipse != nullptr && found != nullptr)
+            qFatal("two circles");
+        if (ellipse != nullptr)
+            found = ellipse;
+    }
+    return found;
+}
+
+void TestBrushTools::squareOfTheBrush_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<int>("size");
+    for (const double zoom : {0.4, 1.0, 1.2, 1.0 / 1.2, 2.5, 7.3, 40.0})
+        for (const int size : {2, 3, 10, 11, 40, 99})
+            QTest::addRow("%.2f %d", zoom, size) << zoom << size;
+}
+
+void TestBrushTools::squareOfTheBrush()
+{
+    QFETCH(double, zoom);
+    QFETCH(int, size);
+    setBrushSizes(size);
+    zoomTo(zoom);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(tool);
+        for (const QPoint step : {QPoint(0, 0), QPoint(3, 5), QPoint(-7, 2)}) {
+            const QPoint position = view->mapFromScene(100, 75) + step;
+            const QRect expected = expectedSquare(*view, position, size);
+            const bool inside = scene->sceneRect().contains(expected);
+            spy.clear();
+            driver::press(*view, position);
+            QCOMPARE(spy.size(), inside ? 1 : 0);
+            if (inside) {
+                QCOMPARE(squareOf(spy.first()), expected);
+                QCOMPARE(spy.first().at(1).toBool(), true);
+            }
+            spy.clear();
+            driver::move(*view, position, Qt::LeftButton);
+            QCOMPARE(spy.size(), 1);
+            QCOMPARE(squareOf(spy.first()), expected);
+            QCOMPARE(spy.first().at(1).toBool(), false);
+            driver::release(*view, position);
+            QCOMPARE(spy.size(), 1); // the release sends nothing
+        }
+    }
+}
+
+void TestBrushTools::squareInNumbers()
+{
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    view->SetTool(ToolKeepBrush);
+    setBrushSizes(11); // as good as 10: the half is a whole number
+    zoomTo(1.0);
+    driver::press(*view, view->mapFromScene(100, 75));
+    QCOMPARE(squareOf(spy.last()), QRect(95, 70, 10, 10));
+    zoomTo(2.0); // ten pixels on the screen are five of the picture
+    driver::press(*view, view->mapFromScene(100, 75));
+    QCOMPARE(squareOf(spy.last()), QRect(97, 72, 5, 5));
+    zoomTo(0.5);
+    driver::press(*view, view->mapFromScene(100, 75));
+    QCOMPARE(squareOf(spy.last()).size(), QSize(20, 20));
+    QCOMPARE(spy.size(), 3);
+}
+
+void TestBrushTools::squareLeftOfTheOrigin()
+{
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    view->SetTool(ToolRemoveBrush);
+    setBrushSizes(10);
+    zoomTo(2.0);
+    const QPoint corner = view->mapFromScene(0, 0);
+    driver::press(*view, corner);
+    driver::move(*view, corner, Qt::LeftButton);
+    // -2.5 is cut, not floored.
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(squareOf(spy.last()), QRect(-2, -2, 5, 5));
+}
+
+void TestBrushTools::pressOutsideIsSilentAndMoveIsNot()
+{
+    setBrushSizes(20);
+    zoomTo(1.0);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(tool);
+        for (const QPointF edge : {QPointF(2, 75), QPointF(199, 75), QPointF(100, 1), QPointF(100, 149),
+                                   QPointF(-60, 40), QPointF(230, 170)}) {
+            spy.clear();
+            const QPoint position = view->mapFromScene(edge);
+            driver::press(*view, position);
+            QCOMPARE(spy.size(), 0);
+            driver::move(*view, position, Qt::LeftButton);
+            QCOMPARE(spy.size(), 1);
+            QCOMPARE(squareOf(spy.first()), expectedSquare(*view, position, 20));
+            QVERIFY(outline() == nullptr);
+            driver::release(*view, position);
+        }
+    }
+    // The last square that still fits touches the edge.
+    view->SetTool(ToolKeepBrush);
+    spy.clear();
+    driver::press(*view, view->mapFromScene(10, 10));
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(squareOf(spy.first()), QRect(0, 0, 20, 20));
+    driver::press(*view, view->mapFromScene(9, 10));
+    QCOMPARE(spy.size(), 1);
+}
+
+void TestBrushTools::anyButtonPresses()
+{
+    zoomTo(1.0);
+    view->SetTool(ToolKeepBrush);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        driver::press(*view, view->mapFromScene(50, 50), button);
+        driver::move(*view, view->mapFromScene(52, 50), button);
+        driver::release(*view, view->mapFromScene(52, 50), button);
+    }
+    QCOMPARE(spy.size(), 6);
+}
+
+void TestBrushTools::movingWithoutAButton()
+{
+    zoomTo(1.0);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(tool);
+        for (int x = 20; x < 180; x += 10)
+            driver::move(*view, view->mapFromScene(x, 70));
+        QVERIFY(outline() != nullptr);
+        QCOMPARE(outline()->rect(), QRectF(165, 65, 10, 10));
+    }
+    QCOMPARE(spy.size(), 0);
+}
+
+void TestBrushTools::circle()
+{
+    zoomTo(1.0);
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(tool);
+        QVERIFY(outline() == nullptr);
+        driver::move(*view, view->mapFromScene(60, 40));
+        QGraphicsEllipseItem *item = outline();
+        QVERIFY(item != nullptr);
+        QCOMPARE(item->rect(), QRectF(55, 35, 10, 10));
+        QCOMPARE(item->zValue(), 20.0);
+        QCOMPARE(item->pen(), QPen());
+        QCOMPARE(item->brush(), QBrush());
+        driver::move(*view, view->mapFromScene(61, 42), Qt::LeftButton);
+        QCOMPARE(outline(), item); // the same circle, moved
+        QCOMPARE(item->rect(), QRectF(56, 37, 10, 10));
+    }
+}
+
+void TestBrushTools::circleGoesAndComesBack()
+{
+    zoomTo(1.0);
+    const auto showIt = [this] {
+        driver::move(*view, view->mapFromScene(60, 40));
+        return outline() != nullptr;
+    };
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(tool);
+        QVERIFY(showIt());
+        driver::move(*view, view->mapFromScene(3, 40)); // sticks out of the scene
+        QVERIFY(outline() == nullptr);
+        QVERIFY(showIt());
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(view.get(), &leave);
+        QVERIFY(outline() == nullptr);
+        QVERIFY(showIt());
+        for (const DrawingTools next : {ToolNone, ToolHand, ToolEraser, ToolKeepMarker, ToolKeepBrush}) {
+            view->SetTool(tool);
+            QVERIFY(showIt());
+            view->SetTool(next);
+            QVERIFY(outline() == nullptr);
+        }
+        view->SetTool(tool);
+        QVERIFY(showIt());
+        scene->clear(); // takes the circle along
+        QVERIFY(showIt());
+        view->updateellipse(20);
+        view->SetTool(ToolNone);
+        QVERIFY(scene->items().isEmpty());
+    }
+}
+
+void TestBrushTools::pressLeavesTheCircleAlone()
+{
+    zoomTo(1.0);
+    view->SetTool(ToolKeepBrush);
+    driver::press(*view, view->mapFromScene(60, 40));
+    QVERIFY(outline() == nullptr);
+    driver::move(*view, view->mapFromScene(60, 40), Qt::LeftButton);
+    driver::press(*view, view->mapFromScene(100, 90));
+    QCOMPARE(outline()->rect(), QRectF(55, 35, 10, 10));
+}
+
+void TestBrushTools::removeBrushRepaintsTheScene()
+{
+    zoomTo(1.0);
+    QList<QRectF> repainted;
+    connect(scene.get(), &QGraphicsScene::changed, this,
+            [&repainted](const QList<QRectF> &regions) { repainted += regions; });
+    const auto wholeAfterMoveTo = [&](QPointF position) {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        repainted.clear();
+        driver::move(*view, view->mapFromScene(position));
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        return std::any_of(repainted.cbegin(), repainted.cend(),
+                           [this](const QRectF &region) { return region.contains(scene->sceneRect()); });
+    };
+    view->SetTool(ToolKeepBrush);
+    QVERIFY(!wholeAfterMoveTo({50, 50}));
+    QVERIFY(!wholeAfterMoveTo({60, 50}));
+    QVERIFY(!repainted.isEmpty()); // the circle itself moved
+    view->SetTool(ToolRemoveBrush);
+    QVERIFY(wholeAfterMoveTo({50, 50}));
+    QVERIFY(wholeAfterMoveTo({60, 50}));
+    wholeAfterMoveTo({-40, 50}); // here the circle goes, which the toolkit itself may repaint for
+    QVERIFY(!wholeAfterMoveTo({-45, 50}));
+}
+
+void TestBrushTools::sizesWithoutArea_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("0") << 0;
+    QTest::newRow("1") << 1;
+}
+
+void TestBrushTools::sizesWithoutArea()
+{
+    QFETCH(int, size);
+    setBrushSizes(size);
+    zoomTo(1.0);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(tool);
+        spy.clear();
+        driver::press(*view, view->mapFromScene(50, 60));
+        QCOMPARE(spy.size(), 0);
+        driver::move(*view, view->mapFromScene(50, 60), Qt::LeftButton);
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(squareOf(spy.first()), QRect(50, 60, 0, 0));
+        QVERIFY(outline() == nullptr);
+        driver::release(*view, view->mapFromScene(50, 60));
+    }
+}
+
+void TestBrushTools::updateEllipse()
+{
+    zoomTo(1.0);
+    view->updateellipse(30); // no circle, nothing to do
+    view->SetTool(ToolKeepBrush);
+    driver::move(*view, view->mapFromScene(60, 40));
+    view->updateellipse(20);
+    QCOMPARE(outline()->rect(), QRectF(50, 30, 20, 20));
+    view->updateellipse(21);
+    QCOMPARE(outline()->rect(), QRectF(50, 30, 20, 20));
+    view->updateellipse(90); // would leave the scene
+    QCOMPARE(outline()->rect(), QRectF(50, 30, 20, 20));
+    view->updateellipse(12);
+    QCOMPARE(outline()->rect(), QRectF(54, 34, 12, 12));
+    // The size that is passed in is not kept.
+    driver::move(*view, view->mapFromScene(80, 80));
+    QCOMPARE(outline()->rect(), QRectF(75, 75, 10, 10));
+    zoomTo(2.0);
+    driver::move(*view, view->mapFromScene(80, 80));
+    view->updateellipse(40);
+    QCOMPARE(outline()->rect().size(), QSizeF(20, 20));
+    QVERIFY(QLineF(outline()->rect().center(), QPointF(80, 80)).length() < 1.5);
+}
+
+void TestBrushTools::sizesAreBytes()
+{
+    zoomTo(1.0);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    view->SetTool(ToolKeepBrush);
+    setBrushSizes(300);
+    driver::press(*view, view->mapFromScene(100, 75));
+    QCOMPARE(squareOf(spy.last()).size(), QSize(44, 44));
+    setBrushSizes(256 + 8);
+    driver::press(*view, view->mapFromScene(100, 75));
+    QCOMPARE(squareOf(spy.last()).size(), QSize(8, 8));
+    setBrushSizes(-2); // 254
+    driver::move(*view, view->mapFromScene(100, 75), Qt::LeftButton);
+    QCOMPARE(squareOf(spy.last()).size(), QSize(254, 254));
+    spy.clear();
+    setBrushSizes(256);
+    driver::press(*view, view->mapFromScene(100, 75));
+    QCOMPARE(spy.size(), 0);
+}
+
+void TestBrushTools::sharedSize()
+{
+    zoomTo(1.0);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    setBrushSizes(30);
+    store->setValue("KEEPMSIZE", 16);
+    store->setValue("SAMESIZECHECKED", true);
+    view->updatetoolssettings();
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(tool);
+        driver::press(*view, view->mapFromScene(100, 75));
+        QCOMPARE(squareOf(spy.last()).size(), QSize(16, 16));
+    }
+    store->remove("SAMESIZECHECKED"); // the canvas takes a missing key for "no"
+    view->updatetoolssettings();
+    driver::press(*view, view->mapFromScene(100, 75));
+    QCOMPARE(squareOf(spy.last()).size(), QSize(30, 30));
+}
+
+void TestBrushTools::handSignals_data()
+{
+    QTest::addColumn<double>("zoom");
+    for (const double zoom : {0.3, 0.5, 1.0, 1.2, 2.0, 4.0, 8.0})
+        QTest::addRow("%.1f", zoom) << zoom;
+}
+
+void TestBrushTools::handSignals()
+{
+    QFETCH(double, zoom);
+    zoomTo(zoom);
+    view->SetTool(ToolHand);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::HandTool);
+    const auto rounded = [this](QPoint position) { // halves away from zero
+        const QPointF mapped = view->mapToScene(position);
+        return QPoint(static_cast<int>(std::round(mapped.x())), static_cast<int>(std::round(mapped.y())));
+    };
+    QPoint last = view->mapFromScene(0, 0);
+    driver::move(*view, last);
+    QCOMPARE(spy.size(), 0);
+    driver::press(*view, last);
+    QCOMPARE(spy.size(), 0);
+    for (const QPoint step :
+         {QPoint(1, 0), QPoint(-3, 1), QPoint(7, -9), QPoint(0, 0), QPoint(-40, -31), QPoint(13, 5)}) {
+        spy.clear();
+        const QPoint next = last + step;
+        driver::move(*view, next, Qt::LeftButton);
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(spy.first().at(0).toPoint(), rounded(last));
+        QCOMPARE(spy.first().at(1).toPoint(), rounded(next));
+        last = next;
+    }
+    spy.clear();
+    driver::release(*view, last);
+    driver::move(*view, last + QPoint(5, 5));
+    QCOMPARE(spy.size(), 0);
+    // The next drag starts where it is pressed, not where the last one ended.
+    driver::press(*view, last + QPoint(20, 20));
+    driver::move(*view, last + QPoint(21, 20), Qt::LeftButton);
+    QCOMPARE(spy.first().at(0).toPoint(), rounded(last + QPoint(20, 20)));
+}
+
+void TestBrushTools::handDragsAddUp()
+{
+    zoomTo(1.0);
+    view->SetTool(ToolHand);
+    const QRectF shown = view->mapToScene(view->viewport()->rect()).boundingRect();
+    auto *item = scene->addRect(0, 0, 20, 20);
+    connect(view.get(), &ZelGraphicsView::HandTool, this,
+            [item](QPoint from, QPoint to) { item->setPos(item->pos() + to - from); });
+    QPoint position = view->mapFromScene(50, 50);
+    driver::press(*view, position);
+    for (int i = 0; i < 25; ++i)
+        driver::move(*view, position += QPoint(1, 0), Qt::LeftButton);
+    for (int i = 0; i < 14; ++i)
+        driver::move(*view, position -= QPoint(0, 1), Qt::LeftButton);
+    driver::release(*view, position);
+    QCOMPARE(item->pos(), QPointF(25, -14));
+    QCOMPARE(view->mapToScene(view->viewport()->rect()).boundingRect(), shown); // the view itself stays put
+}
+
+void TestBrushTools::handCursors()
+{
+    zoomTo(1.0);
+    view->SetTool(ToolHand);
+    QCOMPARE(view->viewport()->cursor().shape(), Qt::OpenHandCursor);
+    const QPoint position = view->mapFromScene(50, 50);
+    driver::press(*view, position);
+    QCOMPARE(view->viewport()->cursor().shape(), Qt::ClosedHandCursor);
+    driver::move(*view, position + QPoint(4, 4), Qt::LeftButton);
+    QCOMPARE(view->viewport()->cursor().shape(), Qt::ClosedHandCursor);
+    driver::release(*view, position + QPoint(4, 4));
+    QCOMPARE(view->viewport()->cursor().shape(), Qt::OpenHandCursor);
+}
+
+void TestBrushTools::brushCursors()
+{
+    for (const DrawingTools tool : brushes) {
+        view->SetTool(ToolNone);
+        QCOMPARE(view->viewport()->cursor().shape(), Qt::ArrowCursor);
+        view->SetTool(tool);
+        QCOMPARE(view->viewport()->cursor().shape(), Qt::BlankCursor);
+    }
+}
+
+void TestBrushTools::withoutAScene()
+{
+    view->setScene(nullptr);
+    QSignalSpy brushed(view.get(), &ZelGraphicsView::AnyBrush);
+    QSignalSpy dragged(view.get(), &ZelGraphicsView::HandTool);
+    for (const DrawingTools tool : {ToolKeepBrush, ToolRemoveBrush, ToolHand}) {
+        view->SetTool(tool);
+        driver::press(*view, {100, 100});
+        driver::move(*view, {110, 100}, Qt::LeftButton);
+        driver::release(*view, {110, 100});
+        view->updateellipse(20);
+    }
+    QCOMPARE(brushed.size(), 0);
+    QCOMPARE(dragged.size(), 0);
+    // The press without a scene did not leave the button held.
+    view->setScene(scene.get());
+    zoomTo(1.0);
+    view->SetTool(ToolKeepBrush);
+    driver::move(*view, view->mapFromScene(50, 50));
+    QCOMPARE(brushed.size(), 0);
+}
+
+void TestBrushTools::releaseEndsTheStroke()
+{
+    zoomTo(1.0);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    view->SetTool(ToolRemoveBrush);
+    const QPoint position = view->mapFromScene(80, 80);
+    driver::press(*view, position);
+    driver::move(*view, position + QPoint(1, 1), Qt::LeftButton);
+    driver::release(*view, position + QPoint(1, 1));
+    driver::move(*view, position + QPoint(9, 9));
+    QCOMPARE(spy.size(), 2);
+}
+
+ORNEVO_TEST_MAIN(TestBrushTools)
+#include "tst_brushtools.moc"

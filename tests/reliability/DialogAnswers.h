@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tests/reference/TestPictures.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+class QDialog;
+
+/// Sits beside a window and answers every modal dialog that opens: once as the dice fall, and if the dialog
+/// will not go, by closing it. The dice are thrown once a dialog, whatever the timing, so that a seed gives
+/// the same answers again.
+class DialogAnswers : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DialogAnswers(testpictures::Random &dice);
+
+    /// Names to choose from when a file is asked for.
+    void setFiles(const QStringList &toOpen, const QStringList &toSave);
+    [[nodiscard]] int answered() const { return m_answered; }
+
+private:
+    void look();
+    void answer(QDialog &dialog);
+    void turnKnobs(QDialog &dialog);
+
+    testpictures::Random &m_dice;
+    QStringList m_toOpen;
+    QStringList m_toSave;
+    QList<QPointer<QDialog>> m_seen;
+    int m_answered = 0;
+};
