@@ -35,6 +35,12 @@ double resizeFactor(double shown, double newLength, double oldLength)
     return newLength >= oldLength ? 1.0 : newLength / oldLength;
 }
 
+/// The name of the same drawing with twice the pixels, which QPixmap does not look for by itself.
+QString densePath(QString path)
+{
+    return path.insert(path.lastIndexOf('.'), "@2x");
+}
+
 } // namespace
 
 ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent)
@@ -81,10 +87,15 @@ QCursor ZelGraphicsView::pixmapCursor(const QString &path, int width, QPoint hot
 {
     // Scaled in device pixels, so that the cursor is as sharp as the screen allows.
     const qreal ratio = devicePixelRatioF();
+    const int deviceWidth = qRound(width * ratio);
     QPixmap drawing(path);
+    if (drawing.width() < deviceWidth) {
+        QPixmap dense(densePath(path));
+        if (!dense.isNull())
+            drawing = dense;
+    }
     drawing.setDevicePixelRatio(1.0);
-    QPixmap pixmap =
-        width > 0 ? drawing.scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation) : QPixmap();
+    QPixmap pixmap = width > 0 ? drawing.scaledToWidth(deviceWidth, Qt::SmoothTransformation) : QPixmap();
     if (pixmap.isNull())
         return Qt::ArrowCursor;
     pixmap.setDevicePixelRatio(ratio);

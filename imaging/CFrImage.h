@@ -10,9 +10,9 @@
 /// that the caller has made. The number of elements is `width * height * channels * depth`.
 template <typename T> struct CFrImage
 {
-    T *data = nullptr;
-    int width = 0;
-    int height = 0;
-    int channels = 1; ///< interleaved channels a pixel; 1 for a grey plane
-    int depth = 1;    ///< a second factor of the element count; always 1 here
+    T *data = nullptr; ///< the elements, or null
+    int width = 0;     ///< pixels a row
+    int height = 0;    ///< rows
+    int channels = 1;  ///< interleaved channels a pixel; 1 for a grey plane
+    int depth = 1;     ///< a second factor of the element count; always 1 here
 };

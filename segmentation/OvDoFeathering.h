@@ -11,8 +11,9 @@ class QImage;
 /// area in rings of one pixel and lowers the alpha of the picture there.
 ///
 /// \param picture four bytes a pixel, the fourth is the alpha; changed in place
-/// \param mask    the mask, of the size of the picture; where it is larger, what lies off the picture is left
-/// out \param count   how many rings are walked beyond the first
+/// \param mask    the mask, of the size of the picture; where it is larger, what lies off the picture is
+///                left out
+/// \param count   how many rings are walked beyond the first
 ///
 /// Ring 1 are the clear pixels that touch a set one (eight neighbours, the outermost rows and columns left
 /// out); each further ring are the set pixels next to the ring before (four neighbours). A step down looks at

@@ -73,6 +73,9 @@ void Driver::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     // Shortcuts reach the active window only, and not every platform hands that back after a dialog.
     m_window.activateWindow();
     expect(QTest::qWaitForWindowActive(&m_window), "the window does not become active");
+    // On Wayland no program may activate its own window; to this one it is the active window all the same.
+    if (QApplication::activeWindow() == nullptr)
+        QApplication::setActiveWindow(&m_window);
     QTest::keyClick(&m_window, key, modifiers);
     wait(settleTime);
 }
@@ -126,6 +129,8 @@ void Driver::chooseFile(QWidget &dialog, const QString &path)
 {
     auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
     expect(name != nullptr, "the file dialog has no field for a name");
+    // Its list of guesses would get the keys, and on Wayland does not give them on.
+    name->setCompleter(nullptr);
     name->clear();
     QTest::keyClicks(name, path);
     QTest::keyClick(name, Qt::Key_Return);

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QPalette>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -17,6 +18,32 @@
 namespace {
 
 constexpr std::chrono::minutes longestTour(4);
+
+} // namespace
+
+namespace {
+
+/// A dark desktop's colours, for desktops whose theme can't be asked for one.
+QPalette darkPalette()
+{
+    constexpr QRgb window = 0x2B2D30;
+    constexpr QRgb base = 0x1E1F22;
+    constexpr QRgb text = 0xE6E6E6;
+    constexpr QRgb faded = 0x7F8287;
+    QPalette palette((QColor(window)), QColor(window)); // the shades of frames and buttons follow from these
+    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::AlternateBase, QPalette::ToolTipBase})
+        palette.setColor(role, QColor(base));
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, QColor(text));
+        palette.setColor(QPalette::Disabled, role, QColor(faded));
+    }
+    palette.setColor(QPalette::PlaceholderText, QColor(faded));
+    palette.setColor(QPalette::Highlight, QColor(0x2F65CA));
+    palette.setColor(QPalette::HighlightedText, QColor(text));
+    palette.setColor(QPalette::Link, QColor(0x6CA8F0));
+    return palette;
+}
 
 } // namespace
 
@@ -36,8 +63,13 @@ int main(int argc, char *argv[])
     parser.addOption({"samples", "folder of the sample pictures", "folder", "samples"});
     parser.addOption({"folder", "where the pictures go", "folder", "."});
     parser.addOption({"help-pictures", "where the screenshots of the help go", "folder"});
+    parser.addOption({"dark", "in the colours of a dark desktop"});
     parser.addHelpOption();
     parser.process(application);
+    if (parser.isSet("dark")) {
+        QApplication::setStyle("Fusion"); // the other styles bring colours of their own
+        QApplication::setPalette(darkPalette());
+    }
 
     QTimer::singleShot(longestTour, &application, [] {
         std::fputs("the tour failed: it waits for something that does not come\n", stderr);

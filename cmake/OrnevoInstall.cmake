@@ -1,0 +1,87 @@
+# What `cmake --install` puts where. Two components: `ornevo` is the program with all that a desktop wants to know of
+# it; `ornevo-dev` the imaging and segmentation libraries with their headers, for find_package(Ornevo).
+
+include(CMakePackageConfigHelpers)
+option(ORNEVO_DEBIAN "Install the documents of a Debian package instead of the plain ones" OFF)
+
+set(files ${PROJECT_SOURCE_DIR}/resources/install)
+set(icons ${PROJECT_SOURCE_DIR}/resources/icons)
+
+# The program.
+install(TARGETS ornevo
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ornevo
+    BUNDLE DESTINATION . COMPONENT ornevo)
+
+if(NOT APPLE AND NOT WIN32)
+    install(FILES ${files}/ornevo.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT ornevo)
+    install(FILES ${files}/ornevo.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo RENAME example.ornevo.ornevo.metainfo.xml COMPONENT ornevo)
+    foreach(size 16 22 24 32 48 64 128 256)
+        install(FILES ${icons}/app/ornevo-${size}.png
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps RENAME ornevo.png
+            COMPONENT ornevo)
+    endforeach()
+    install(FILES ${icons}/svg/ornevo.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT ornevo)
+
+    # Man pages are kept compressed; without the time of day in it, so that two builds give the same file.
+    find_program(GZIP_PROGRAM gzip REQUIRED)
+    function(ornevo_compress source target)
+        add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/${target}
+            COMMAND ${GZIP_PROGRAM} -9nc ${source} > ${PROJECT_BINARY_DIR}/${target}
+            DEPENDS ${source} VERBATIM)
+        set_property(GLOBAL APPEND PROPERTY ORNEVO_COMPRESSED ${PROJECT_BINARY_DIR}/${target})
+    endfunction()
+    ornevo_compress(${files}/ornevo.1 ornevo.1.gz)
+    install(FILES ${PROJECT_BINARY_DIR}/ornevo.1.gz
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ornevo)
+    if(ORNEVO_DEBIAN)
+        ornevo_compress(${files}/changelog.Debian changelog.Debian.gz)
+        ornevo_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
+        foreach(package ornevo ornevo-dev)
+            install(FILES
+                ${files}/copyright
+                ${PROJECT_BINARY_DIR}/changelog.gz
+                ${PROJECT_BINARY_DIR}/changelog.Debian.gz
+                DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${package})
+        endforeach()
+    endif()
+    get_property(compressed GLOBAL PROPERTY ORNEVO_COMPRESSED)
+    add_custom_target(ornevo_documents ALL DEPENDS ${compressed})
+endif()
+if(NOT ORNEVO_DEBIAN)
+    install(FILES LICENSE README.md CHANGELOG.md
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ornevo COMPONENT ornevo)
+endif()
+
+# The libraries.
+set_target_properties(ornevo_imaging PROPERTIES EXPORT_NAME imaging)
+set_target_properties(ornevo_segmentation PROPERTIES EXPORT_NAME segmentation)
+install(TARGETS ornevo_imaging ornevo_segmentation
+    EXPORT OrnevoTargets
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ornevo-dev
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ornevo COMPONENT ornevo-dev)
+
+# A private library of a static one is needed at the link of the program that uses it.
+get_target_property(imaging_libraries ornevo_imaging LINK_LIBRARIES)
+get_target_property(segmentation_libraries ornevo_segmentation LINK_LIBRARIES)
+if("${imaging_libraries};${segmentation_libraries}" MATCHES "hwy::")
+    set(ORNEVO_NEEDS_HWY TRUE)
+else()
+    set(ORNEVO_NEEDS_HWY FALSE)
+endif()
+set(ORNEVO_QT_VERSION 6.4)
+
+set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Ornevo)
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/OrnevoConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/OrnevoConfig.cmake INSTALL_DESTINATION ${package})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/OrnevoConfigVersion.cmake
+    VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/OrnevoConfig.cmake ${PROJECT_BINARY_DIR}/OrnevoConfigVersion.cmake
+    DESTINATION ${package} COMPONENT ornevo-dev)
+install(EXPORT OrnevoTargets NAMESPACE Ornevo:: DESTINATION ${package} COMPONENT ornevo-dev)
+
+# Inside of this project by the same names as outside.
+add_library(Ornevo::imaging ALIAS ornevo_imaging)
+add_library(Ornevo::segmentation ALIAS ornevo_segmentation)
