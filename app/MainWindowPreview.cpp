@@ -98,8 +98,7 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         if (topmostPicture() == nullptr)
             return;
         form->statusBar->showMessage(tr("getting inversed mask"));
-        if (!maskImage.isNull()) // as it is when memory is short
-            previewImage = cutOut(imagePixmap.toImage(), maskImage);
+        previewImage = cutOut(imagePixmap.toImage(), maskImage);
         form->statusBar->showMessage(tr("painting alpha channel"));
         form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
         form->statusBar->showMessage(tr("feather done"));
