@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // The watersheds on mosaics of photographs, beside OpenCV's with the same seeds. Run it with
-// --benchmark_enable_random_interleaving=true --benchmark_repetitions=5 and compare medians: the machine's mood
-// then strikes all rows alike.
+// --benchmark_enable_random_interleaving=true --benchmark_repetitions=5 and compare medians: the machine's
+// mood then strikes all rows alike.
 
 #include "benchmarks/BenchmarkPictures.h"
 #include "imaging/EdgeMap.h"
@@ -47,8 +47,8 @@ Scene &scene(int megapixels)
 void countPixels(benchmark::State &state, const Scene &on)
 {
     const auto pixels = static_cast<double>(on.edges.size());
-    state.counters["s/px"] = benchmark::Counter(
-        pixels, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    state.counters["s/px"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate |
+                                                            benchmark::Counter::kInvert);
 }
 
 void ornevoTwoRegions(benchmark::State &state)

@@ -19,10 +19,10 @@ int FrWatershed(QImage *image, QList<int> &keep, QList<int> &remove, QList<int> 
     if (!picture.run(progress))
         return -1;
 
-    const auto kept = static_cast<qsizetype>(flooding::regionSizes(picture.marks(), 2)[keepRegion - 1]);
+    const auto kept = static_cast<qsizetype>(picture.marks().regionSizes(2)[keepRegion - 1]);
     result.resize(result.size() + kept);
     int *next = result.data() + (result.size() - kept);
-    flooding::forEachRun(picture.marks(), [&](std::size_t begin, std::size_t end, std::size_t region) {
+    picture.marks().forEachPixelRun([&](std::size_t begin, std::size_t end, std::size_t region) {
         if (region == keepRegion)
             for (std::size_t i = begin; i < end; ++i)
                 *next++ = static_cast<int>(i);

@@ -17,7 +17,8 @@ class QProgressBar;
 /// \param result   the indices of the Keep region are appended to it in increasing order
 /// \param edges    the edge map, one byte a pixel, width · height bytes (see computeEdgeMap()); not changed
 /// \param progress set to the percentage done now and then; may be null
-/// \return 0, or -1 when there was nothing to do: a seed list is empty, or no pixel can be flooded. `result` is
+/// \return 0, or -1 when there was nothing to do: a seed list is empty, or no pixel can be flooded. `result`
+/// is
 ///         left as it was then.
 ///
 /// A pixel costs what the edge map holds there or, where that is 0, the difference in brightness (0.299 red,

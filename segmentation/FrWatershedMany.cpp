@@ -20,7 +20,7 @@ int floodMany(const QImage &image, const std::vector<std::vector<int>> &seeds, Q
         return -1;
 
     result.resize(result.size() + static_cast<qsizetype>(seeds.size()));
-    const std::vector<std::size_t> sizes = flooding::regionSizes(picture.marks(), seeds.size());
+    const std::vector<std::size_t> sizes = picture.marks().regionSizes(seeds.size());
     std::vector<int *> next(seeds.size(), nullptr);
     for (std::size_t k = 1; k <= seeds.size() && static_cast<qsizetype>(k) < result.size(); ++k) {
         QList<int> &pixels = result[static_cast<qsizetype>(k)];
@@ -28,7 +28,7 @@ int floodMany(const QImage &image, const std::vector<std::vector<int>> &seeds, Q
         pixels.resize(before + static_cast<qsizetype>(sizes[k - 1]));
         next[k - 1] = pixels.data() + before;
     }
-    flooding::forEachRun(picture.marks(), [&](std::size_t begin, std::size_t end, std::size_t region) {
+    picture.marks().forEachPixelRun([&](std::size_t begin, std::size_t end, std::size_t region) {
         int *&pixel = next[region - 1];
         if (pixel != nullptr)
             for (std::size_t i = begin; i < end; ++i)

@@ -14,12 +14,14 @@ class QProgressBar;
 /// 0 always costs 255, whatever that value is.
 ///
 /// \param image    the colour picture, four bytes a pixel; not changed
-/// \param seeds    seeds[k - 1] holds the pixel indices of region k, k = 1 .. N; a later list wins a shared pixel
-/// \param result   holds one list on entry, which receives nothing; N lists are appended, and the pixels of
+/// \param seeds    seeds[k - 1] holds the pixel indices of region k, k = 1 .. N; a later list wins a shared
+/// pixel \param result   holds one list on entry, which receives nothing; N lists are appended, and the
+/// pixels of
 ///                 region k go to the list at position k, in increasing order
 /// \param edges    the edge map, width · height bytes; not changed
 /// \param progress set to the percentage done now and then; may be null
-/// \return N, or -1 when there was nothing to do: no seed lists, or no pixel that can be flooded. `result` is left
+/// \return N, or -1 when there was nothing to do: no seed lists, or no pixel that can be flooded. `result` is
+/// left
 ///         as it was then.
 ///
 /// An empty `result` is the caller's error: there is no position N for the last region then, and its pixels

@@ -16,8 +16,8 @@
 /// that wait at the same time, at four bytes each. A bitmap of the levels that are not empty names the lowest
 /// one without a search through them.
 ///
-/// A level is served through a Service, which keeps both ends of its queue in registers. The other levels take
-/// their entries through push() meanwhile.
+/// A level is served through a Service, which keeps both ends of its queue in registers. The other levels
+/// take their entries through push() meanwhile.
 class LevelQueues
 {
 public:
@@ -55,14 +55,16 @@ public:
 private:
     static constexpr std::size_t blockSize = 496; // with the look-ahead behind it, a block is some 2 KiB
 
-    struct Block {
+    struct Block
+    {
         Block *next = nullptr;
         std::uint32_t *end = nullptr; ///< behind the last entry, once a next block was begun
         std::array<std::uint32_t, blockSize + lookAhead> indices;
     };
 
     /// A level keeps its last block when it turns empty: most levels are soon filled again.
-    struct Level {
+    struct Level
+    {
         std::uint32_t *head = nullptr;
         std::uint32_t *tail = nullptr;
         std::uint32_t *limit = nullptr; ///< from here on the tail has no `room` in its block
@@ -86,8 +88,13 @@ class LevelQueues::Service
 {
 public:
     Service(LevelQueues &queues, unsigned level)
-        : m_queues(queues), m_queue(queues.m_levels[level]), m_level(level), m_head(m_queue.head),
-          m_end(m_queue.head), m_tail(m_queue.tail), m_limit(m_queue.limit)
+        : m_queues(queues),
+          m_queue(queues.m_levels[level]),
+          m_level(level),
+          m_head(m_queue.head),
+          m_end(m_queue.head),
+          m_tail(m_queue.tail),
+          m_limit(m_queue.limit)
     {
     }
 
@@ -97,8 +104,8 @@ public:
     /// Takes the oldest entry. There must be one.
     std::uint32_t take() { return *m_head++; }
 
-    /// A guess at an entry that is taken soon: what stands `lookAhead` places behind the next one. It may be an
-    /// entry of the past or the fill, but is always a valid index.
+    /// A guess at an entry that is taken soon: what stands `lookAhead` places behind the next one. It may be
+    /// an entry of the past or the fill, but is always a valid index.
     [[nodiscard]] std::uint32_t ahead() const { return m_head[lookAhead]; }
 
     /// Makes sure that `room` entries can be pushed.

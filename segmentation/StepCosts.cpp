@@ -11,6 +11,7 @@
 
 #include <QImage>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <vector>
@@ -93,12 +94,14 @@ void priceRow(const EdgeRows &edges, const std::uint8_t *toRight, const std::uin
     };
     std::size_t x = 1;
     for (; x + lanes < width; x += lanes)
-        hn::StoreInterleaved4(price(edges.here + x - 1, toRight + x - 1), price(edges.here + x + 1, toRight + x),
-                              price(edges.above + x, toAbove + x), price(edges.below + x, toRight + x), bytes,
+        hn::StoreInterleaved4(price(edges.here + x - 1, toRight + x - 1),
+                              price(edges.here + x + 1, toRight + x), price(edges.above + x, toAbove + x),
+                              price(edges.below + x, toRight + x), bytes,
                               reinterpret_cast<std::uint8_t *>(costs + x));
     for (; x + 1 < width; ++x)
         costs[x] = {pixelCost(edges.here[x - 1], toRight[x - 1], rule),
-                    pixelCost(edges.here[x + 1], toRight[x], rule), pixelCost(edges.above[x], toAbove[x], rule),
+                    pixelCost(edges.here[x + 1], toRight[x], rule),
+                    pixelCost(edges.above[x], toAbove[x], rule),
                     // The step down is priced with the horizontal difference. It looks like a slip, but
                     // regions that were cut out before must come out the same, so it stays.
                     pixelCost(edges.below[x], toRight[x], rule)};
@@ -122,19 +125,38 @@ std::uint8_t brightnessDifference(const std::uint8_t *p, const std::uint8_t *q)
     return static_cast<std::uint8_t>(std::abs(static_cast<int>(difference)));
 }
 
+namespace {
+
+/// Lays eight rows out as a strip.
+void interleave(const std::vector<StepCosts> &rows, std::size_t width, StepCosts *strip)
+{
+    for (std::size_t x = 0; x < width; ++x)
+        for (std::size_t row = 0; row < Strips::rows; ++row)
+            strip[x * Strips::rows + row] = rows[row * width + x];
+}
+
+} // namespace
+
 std::unique_ptr<StepCosts[]> makeStepCosts(const QImage &image, const std::uint8_t *edges, EdgeCost rule)
 {
     const auto width = static_cast<std::size_t>(image.width());
-    auto costs = std::make_unique_for_overwrite<StepCosts[]>(width * static_cast<std::size_t>(image.height()));
+    const auto last = static_cast<std::size_t>(image.height()) - 1;
+    const Strips strips(image.width(), image.height());
+    auto costs = std::make_unique_for_overwrite<StepCosts[]>(strips.size());
+    std::vector<StepCosts> rows(strips.length());
     std::vector<std::uint8_t> toRight(width);
     std::vector<std::uint8_t> toAbove(width);
-    for (int y = 1; y < image.height() - 1; ++y) {
-        const std::size_t begin = static_cast<std::size_t>(y) * width;
-        HWY_DYNAMIC_DISPATCH(differRow)
-        (image.constScanLine(y), image.constScanLine(y - 1), width, toRight.data(), toAbove.data());
-        HWY_DYNAMIC_DISPATCH(priceRow)
-        ({edges + begin - width, edges + begin, edges + begin + width}, toRight.data(), toAbove.data(), width,
-         rule, costs.get() + begin);
+    for (std::size_t top = 0; top <= last; top += Strips::rows) {
+        for (std::size_t y = std::max<std::size_t>(top, 1); y < std::min(top + Strips::rows, last); ++y) {
+            const std::uint8_t *row = image.constScanLine(static_cast<int>(y));
+            const std::uint8_t *above = image.constScanLine(static_cast<int>(y) - 1);
+            const std::uint8_t *edge = edges + y * width;
+            HWY_DYNAMIC_DISPATCH(differRow)(row, above, width, toRight.data(), toAbove.data());
+            HWY_DYNAMIC_DISPATCH(priceRow)
+            ({edge - width, edge, edge + width}, toRight.data(), toAbove.data(), width, rule,
+             rows.data() + (y - top) * width);
+        }
+        interleave(rows, width, costs.get() + strips.at(0, top));
     }
     return costs;
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "segmentation/Strips.h"
+
 #include <cstdint>
 #include <memory>
 
@@ -37,7 +39,8 @@ inline std::uint8_t pixelCost(std::uint8_t edge, std::uint8_t difference, EdgeCo
     return rule == EdgeCost::strength ? edge : std::uint8_t{255};
 }
 
-/// The costs of all steps from the pixels within the frame; those of the one-pixel frame are left undefined.
+/// The costs of all steps from the pixels within the one-pixel frame, laid out in strips. What stands in the
+/// other places means nothing.
 std::unique_ptr<StepCosts[]> makeStepCosts(const QImage &image, const std::uint8_t *edges, EdgeCost rule);
 
 } // namespace flooding

@@ -31,8 +31,8 @@ std::vector<std::vector<int>> seedLists(const QImage &image, int regions, int pe
 {
     std::vector<std::vector<int>> lists;
     for (int k = 0; k < regions; ++k) {
-        const QList<int> list =
-            randomIndices(image.width(), image.height(), perRegion, seed + 31U * static_cast<std::uint32_t>(k));
+        const QList<int> list = randomIndices(image.width(), image.height(), perRegion,
+                                              seed + 31U * static_cast<std::uint32_t>(k));
         lists.emplace_back(list.begin(), list.end());
     }
     return lists;
@@ -98,6 +98,7 @@ private slots:
     void queuesAreFirstInFirstOut();
     void stepCosts_data();
     void stepCosts();
+    void strips();
     void marks();
 };
 
@@ -121,9 +122,12 @@ void TestFlooding::pictures()
     QFETCH(std::uint32_t, seed);
     const int w = size.width();
     const int h = size.height();
-    const QImage images[] = {randomImage(w, h, seed),     constantImage(w, h, qRgb(90, 120, 30)),
-                             rampImage(w, h, 3),          plateauImage(w, h, 5, 4, seed),
-                             greyStepsImage(w, h, seed),  blobImage(w, h, seed),
+    const QImage images[] = {randomImage(w, h, seed),
+                             constantImage(w, h, qRgb(90, 120, 30)),
+                             rampImage(w, h, 3),
+                             plateauImage(w, h, 5, 4, seed),
+                             greyStepsImage(w, h, seed),
+                             blobImage(w, h, seed),
                              stepImage(w, h, w / 2, qRgb(0, 0, 0), qRgb(255, 255, 255))};
     const Plane edges[] = {constantPlane(w, h, 0), constantPlane(w, h, 255), randomPlane(w, h, seed),
                            sparsePlane(w, h, 3, seed), plateauPlane(w, h, 3, seed)};
@@ -266,9 +270,11 @@ void TestFlooding::stepCosts()
                         return rule == flooding::EdgeCost::strength ? edge : 255;
                     return reference::luminanceDifference(image.pixel(x, y), image.pixel(againstX, againstY));
                 };
+                const flooding::Strips strips(w, h);
                 for (int y = 1; y < h - 1; ++y) {
                     for (int x = 1; x < w - 1; ++x) {
-                        const flooding::StepCosts cost = costs[static_cast<std::size_t>(y * w + x)];
+                        const flooding::StepCosts cost =
+                            costs[strips.at(static_cast<std::size_t>(x), static_cast<std::size_t>(y))];
                         QCOMPARE(int{cost.left}, price(x - 1, y, x, y, x - 1, y));
                         QCOMPARE(int{cost.right}, price(x + 1, y, x, y, x + 1, y));
                         QCOMPARE(int{cost.up}, price(x, y - 1, x, y, x, y - 1));
@@ -307,8 +313,41 @@ template <typename Mark> void checkMarks(std::size_t regions)
     });
     rebuilt[1] = meeting<Mark>;
     QVERIFY(rebuilt == all);
-    for (std::size_t region = 1; region <= regions; ++region)
-        QCOMPARE(regionSizes(all, regions)[region - 1], region * 5);
+
+    MarkPlane<Mark> plane(13, 21);
+    for (std::size_t y = 0; y < 21; ++y)
+        for (std::size_t x = 0; x < 13; ++x)
+            plane.marks[plane.strips.at(x, y)] = markOf<Mark>((y * 13 + x) / 40 + 1);
+    QCOMPARE(plane.regionSizes(7), std::vector<std::size_t>({40, 40, 40, 40, 40, 40, 33}));
+    std::size_t next = 0;
+    plane.forEachPixelRun([&](std::size_t begin, std::size_t end, std::size_t region) {
+        QCOMPARE(begin, next);
+        QCOMPARE(begin / 40 + 1, region);
+        QCOMPARE((end - 1) / 40 + 1, region);
+        next = end;
+    });
+    QCOMPARE(next, std::size_t{13 * 21});
+}
+
+void TestFlooding::strips()
+{
+    for (const QSize size : {QSize(1, 1), QSize(5, 7), QSize(6, 8), QSize(9, 9), QSize(4, 33)}) {
+        const flooding::Strips strips(size.width(), size.height());
+        const auto w = static_cast<std::size_t>(size.width());
+        const auto h = static_cast<std::size_t>(size.height());
+        std::vector<bool> taken(strips.size());
+        for (std::size_t y = 0; y < h; ++y) {
+            for (std::size_t x = 0; x < w; ++x) {
+                const std::size_t i = strips.at(x, y);
+                QVERIFY(i < strips.size() && !taken[i]);
+                taken[i] = true;
+                QVERIFY(x == 0 || strips.left(i) == strips.at(x - 1, y));
+                QVERIFY(x + 1 == w || strips.right(i) == strips.at(x + 1, y));
+                QVERIFY(y == 0 || strips.above(i) == strips.at(x, y - 1));
+                QVERIFY(y + 1 == h || strips.below(i) == strips.at(x, y + 1));
+            }
+        }
+    }
 }
 
 void TestFlooding::marks()
