@@ -50,7 +50,8 @@ void ProgramAtWork::layMarks()
     for (const int index : regions[0])
         m_state.imageScene().addRect(QRectF(corner(index), QSizeF(1, 1)));
     for (const int index : regions[1])
-        m_state.imageScene().addEllipse(QRectF(corner(index), QSizeF(1, 1)), QPen(QColor(markers::removeColour)));
+        m_state.imageScene().addEllipse(QRectF(corner(index), QSizeF(1, 1)),
+                                        QPen(QColor(markers::removeColour)));
 }
 
 void ProgramAtWork::run(const char *slot)

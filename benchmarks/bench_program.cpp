@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-// The steps of the program as its user meets them, beside what each can't do without: opening beside the decoding,
-// the Mask step beside the flooding, and the brush, whose cost must follow the dabs and not the picture.
+// The steps of the program as its user meets them, beside what each can't do without: opening beside the
+// decoding, the Mask step beside the flooding, and the brush, whose cost must follow the dabs and not the
+// picture.
 
 #include "benchmarks/BenchmarkPictures.h"
 #include "benchmarks/ProgramAtWork.h"
@@ -25,13 +26,15 @@ void sizes(benchmark::internal::Benchmark *benchmark)
 
 void countPixels(benchmark::State &state, ProgramAtWork &program)
 {
-    state.counters["ns/pixel"] =
-        benchmark::Counter(program.pixels() * 1e-9, benchmark::Counter::kIsIterationInvariantRate |
-                                                        benchmark::Counter::kInvert);
+    state.counters["ns/pixel"] = benchmark::Counter(
+        program.pixels() * 1e-9, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
 /// Lets the window paint what has changed, as its user would see it.
-void showIt() { QApplication::processEvents(); }
+void showIt()
+{
+    QApplication::processEvents();
+}
 
 void decoding(benchmark::State &state)
 {
@@ -59,7 +62,8 @@ void flooding(benchmark::State &state)
     auto regions = benchmarkpictures::strokes(program.state().workingImage().size(), 2);
     for (auto _ : state) {
         QList<int> mask;
-        FrWatershed(&program.state().workingImage(), regions[0], regions[1], mask, program.state().edgeMap(), nullptr);
+        FrWatershed(&program.state().workingImage(), regions[0], regions[1], mask, program.state().edgeMap(),
+                    nullptr);
     }
     countPixels(state, program);
 }

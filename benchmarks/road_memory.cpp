@@ -4,7 +4,8 @@
 // How much memory the program takes over the whole road: open, mask, preview, brush, export.
 //
 //   road_memory make MEGAPIXELS FILE   writes a photo to measure with
-//   road_memory FILE                   walks the road with it and prints the bytes a pixel of the peak, above what the
+//   road_memory FILE                   walks the road with it and prints the bytes a pixel of the peak, above
+//   what the
 //                                      started program had
 //
 // A process of its own for either, since a peak does not go down.
@@ -37,7 +38,8 @@ void exportPicture(ProgramAtWork &program, const QString &name)
     QImage canvas(program.state().backgroundItem()->pixmap().size(), QImage::Format_ARGB32);
     canvas.fill(program.state().backgroundColor());
     const QSize size = canvas.size();
-    const ExportLayers layers{QPixmap::fromImage(std::move(canvas)), program.state().previewImage(), QPoint(), size};
+    const ExportLayers layers{QPixmap::fromImage(std::move(canvas)), program.state().previewImage(), QPoint(),
+                              size};
     writePicture(composeExport(layers, size).toImage(), program.fileFor(name), "png");
 }
 
@@ -73,7 +75,7 @@ int main(int argc, char *argv[])
     program.brush();
     QApplication::processEvents();
     exportPicture(program, "cut-out.png");
-    std::printf("%.1f megapixels: peak %.1f bytes a pixel above the started program\n", program.pixels() * 1e-6,
-                (peakBytes() - started) / program.pixels());
+    std::printf("%.1f megapixels: peak %.1f bytes a pixel above the started program\n",
+                program.pixels() * 1e-6, (peakBytes() - started) / program.pixels());
     return 0;
 }

@@ -68,7 +68,8 @@ private:
 
 bool canBlur(const QImage &src, const QImage &dst)
 {
-    return &src != &dst && !src.isNull() && src.size() == dst.size() && src.depth() == 32 && dst.depth() == 32;
+    return &src != &dst && !src.isNull() && src.size() == dst.size() && src.depth() == 32 &&
+           dst.depth() == 32;
 }
 
 } // namespace

@@ -9,7 +9,8 @@
 /// Reads a picture, whatever its name says it is, by its contents. A photo that was taken with the camera on
 /// its side comes back upright; of an animation the first frame is taken.
 ///
-/// Null when the file can't be read, ends too early, holds no picture, or would need more than 1 GiB of pixels.
+/// Null when the file can't be read, ends too early, holds no picture, or would need more than 1 GiB of
+/// pixels.
 [[nodiscard]] QImage readPicture(const QString &path);
 
 /// Writes a picture in `format` ("jpg", "png" ...) at quality 100. The file appears, or takes the place of

@@ -4,221 +4,223 @@
 #pragma once
 
 #include "segmentation/LevelQueues.h"
+#include "segmentation/Marks.h"
+#include "segmentation/StepCosts.h"
 
 #include <QImage>
 #include <QProgressBar>
 
+#include <hwy/cache_control.h>
+
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <utility>
 #include <vector>
 
 /// \file
 /// The flooding under FrWatershed() and FrWatershedMany(). Not part of the library's interface.
 namespace flooding {
 
-/// What a pixel costs where the edge map is not 0.
-enum class EdgeCost {
-    strength, ///< the value of the edge map
-    highest   ///< 255, whatever the value
-};
-
-/// Writes, for the pixels of one row, how much their brightness differs from the right-hand neighbour (0 for
-/// the last one) and from the pixel above (0 where `above` is null).
-void colourDifferences(const std::uint8_t *row, const std::uint8_t *above, int width, std::uint8_t *toRight,
-                       std::uint8_t *toAbove);
-
-/// A picture being flooded. `Word` holds all that the flooding has to know of a pixel, so that a visit costs
-/// one access to memory: the edge cost, both colour differences and, in what is left of it, the label.
-template <typename Word> class Flooding
+/// A picture being flooded.
+///
+/// What makes it fast:
+/// - The prices of all steps are worked out ahead, row by row and many pixels at a time, so that the flooding
+///   itself, which jumps about, never looks at a colour.
+/// - A pixel that is reached puts its region's mark into its four neighbours at once, see Marks.h. A pixel
+/// whose
+///   turn comes then knows its region, or that two met, from its own mark.
+/// - The pixels of a neighbourhood lie close together in memory, see Strips.h, and the queue tells which ones
+///   come next, so that they are fetched in time.
+/// - A level is served from registers until a lower one is filled.
+template <typename Mark> class Flooding
 {
 public:
-    /// The largest number of regions that the labels have room for.
-    static constexpr std::uint64_t mostRegions = (Word{} - Word{1} >> 24) - 2;
-
+    /// `image` and `edges` must outlive the object.
     Flooding(const QImage &image, const std::uint8_t *edges, EdgeCost rule)
-        : m_width(image.width()),
-          m_height(image.height()),
-          m_words(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
+        : m_image(image),
+          m_edges(edges),
+          m_rule(rule),
+          m_plane(image.width(), image.height()),
+          m_pixels(m_plane.width * m_plane.height),
+          m_nearSeeds(m_pixels / stretch + 1),
+          m_queues(0)
     {
-        prepare(image, edges, rule);
     }
 
-    /// Labels pixels as belonging to `region`, 1 .. mostRegions. A later call wins; indices off the picture
-    /// are passed over.
-    template <typename Indices> void seed(const Indices &indices, Word region)
+    /// Labels pixels as belonging to `region`, 1 .. mostRegions<Mark>. A later call wins; indices off the
+    /// picture are passed over.
+    template <typename Indices> void seed(const Indices &indices, std::size_t region)
     {
-        for (const int index : indices)
-            if (static_cast<std::size_t>(index) < m_words.size()) // a negative index turns into a huge one
-                setLabel(static_cast<std::size_t>(index), region);
+        const Mark mark = markOf<Mark>(region);
+        for (const int index : indices) {
+            const auto i = static_cast<std::size_t>(index);
+            if (i >= m_pixels) // a negative index turned into a huge one
+                continue;
+            m_plane.marks[placeOf(i)] = mark;
+            for (const std::size_t neighbour : {i - 1, i + 1, i - m_plane.width, i + m_plane.width})
+                if (neighbour < m_pixels)
+                    m_nearSeeds[neighbour / stretch] = 1;
+        }
     }
 
     /// Floods from the seeds. False when there was no pixel to flood.
     bool run(QProgressBar *progress)
     {
-        if (m_width < 3 || m_height < 3)
+        if (m_image.width() < 3 || m_image.height() < 3)
             return false;
-        setBarriers();
+        setFrame();
         queueFront();
         if (m_queues.empty())
             return false;
-        flood(progress);
+        m_costs = makeStepCosts(m_image, m_edges, m_rule);
+        while (!m_queues.empty())
+            serve(m_queues.lowest(), progress);
         return true;
     }
 
-    /// Number of pixels of the regions 1 .. regions, at [region - 1].
-    [[nodiscard]] std::vector<std::size_t> sizes(std::size_t regions) const
-    {
-        std::vector<std::size_t> counts(regions);
-        forEachLabelled([&](int, Word region) { ++counts[static_cast<std::size_t>(region) - 1]; });
-        return counts;
-    }
-
-    /// Calls visit(index, region) for the pixels that belong to a region, in increasing index order.
-    template <typename Visit> void forEachLabelled(Visit visit) const
-    {
-        for (std::size_t i = 0; i < m_words.size(); ++i) {
-            const Word region = label(m_words[i]);
-            if (isRegion(region))
-                visit(static_cast<int>(i), region);
-        }
-    }
+    [[nodiscard]] const MarkPlane<Mark> &marks() const { return m_plane; }
 
 private:
-    static constexpr int toRightShift = 8;
-    static constexpr int toAboveShift = 16;
-    static constexpr int labelShift = 24;
-    static constexpr Word belowLabel = (Word{1} << labelShift) - 1;
-    static constexpr Word barrier = (Word{} - Word{1}) >> labelShift; // frame or meeting line
-    static constexpr Word queued = barrier - 1;
-    static constexpr std::uint64_t popsBetweenReports = 10000;
+    /// Pixels that share a flag of m_nearSeeds.
+    static constexpr std::size_t stretch = 64;
+    static constexpr int popsBetweenReports = 10000;
 
-    static Word label(Word word) { return word >> labelShift; }
-    static bool isRegion(Word label) { return label - 1 < queued - 1; }
-    static unsigned edgeCost(Word word) { return static_cast<unsigned>(word & 0xFF); }
-    static unsigned toRight(Word word) { return static_cast<unsigned>(word >> toRightShift & 0xFF); }
-    static unsigned toAbove(Word word) { return static_cast<unsigned>(word >> toAboveShift & 0xFF); }
-    void setLabel(std::size_t i, Word value) { m_words[i] = (m_words[i] & belowLabel) | value << labelShift; }
-
-    void prepare(const QImage &image, const std::uint8_t *edges, EdgeCost rule)
+    /// Where the planes keep the pixel of an index y * width + x.
+    [[nodiscard]] std::size_t placeOf(std::size_t pixel) const
     {
-        const auto width = static_cast<std::size_t>(m_width);
-        std::vector<std::uint8_t> right(width);
-        std::vector<std::uint8_t> up(width);
-        const std::uint8_t *above = nullptr;
-        for (int y = 0; y < m_height; ++y) {
-            const std::uint8_t *row = image.constScanLine(y);
-            colourDifferences(row, above, m_width, right.data(), up.data());
-            Word *words = m_words.data() + static_cast<std::size_t>(y) * width;
-            const std::uint8_t *cost = edges + static_cast<std::size_t>(y) * width;
-            for (std::size_t x = 0; x < width; ++x) {
-                const Word edge = rule == EdgeCost::strength || cost[x] == 0 ? Word{cost[x]} : Word{255};
-                words[x] = edge | Word{right[x]} << toRightShift | Word{up[x]} << toAboveShift;
-            }
-            above = row;
-        }
+        return m_plane.strips.at(pixel % m_plane.width, pixel / m_plane.width);
     }
 
-    void setBarriers()
+    void setFrame()
     {
-        const auto width = static_cast<std::size_t>(m_width);
-        const std::size_t last = m_words.size() - width;
-        for (std::size_t x = 0; x < width; ++x) {
-            setLabel(x, barrier);
-            setLabel(last + x, barrier);
-        }
-        for (std::size_t i = 0; i < m_words.size(); i += width) {
-            setLabel(i, barrier);
-            setLabel(i + width - 1, barrier);
-        }
+        for (std::size_t x = 0; x < m_plane.width; ++x)
+            for (const std::size_t y : {std::size_t{0}, m_plane.height - 1})
+                m_plane.marks[m_plane.strips.at(x, y)] = meeting<Mark>;
+        for (std::size_t y = 0; y < m_plane.height; ++y)
+            for (const std::size_t x : {std::size_t{0}, m_plane.width - 1})
+                m_plane.marks[m_plane.strips.at(x, y)] = meeting<Mark>;
     }
 
-    /// Queues the pixels next to a seed, each at the price of its cheapest seeded neighbour.
+    /// Queues the pixels next to a seed in index order. Only the stretches that a seed touches are searched:
+    /// the seeds cover little of a picture.
     void queueFront()
     {
-        const auto width = static_cast<std::size_t>(m_width);
-        for (int y = 1; y < m_height - 1; ++y) {
-            const std::size_t begin = static_cast<std::size_t>(y) * width + 1;
-            for (std::size_t i = begin; i < begin + width - 2; ++i)
-                if (label(m_words[i]) == 0)
-                    queueIfNextToSeed(i);
-        }
-    }
-
-    void queueIfNextToSeed(std::size_t i)
-    {
-        constexpr unsigned none = 256;
-        const auto width = static_cast<std::size_t>(m_width);
-        unsigned cost = none;
-        const auto consider = [&](std::size_t neighbour, unsigned difference) {
-            if (isRegion(label(m_words[neighbour])) && difference < cost)
-                cost = difference;
-        };
-        consider(i - 1, toRight(m_words[i - 1]));
-        consider(i + 1, toRight(m_words[i]));
-        consider(i - width, toAbove(m_words[i]));
-        consider(i + width, toAbove(m_words[i + width]));
-        if (cost == none)
-            return;
-        const unsigned edge = edgeCost(m_words[i]);
-        enqueue(i, edge != 0 ? edge : cost);
-    }
-
-    void enqueue(std::size_t i, unsigned cost)
-    {
-        m_words[i] |= queued << labelShift;
-        m_queues.push(cost, static_cast<std::uint32_t>(i));
-    }
-
-    void flood(QProgressBar *progress)
-    {
-        const auto width = static_cast<std::size_t>(m_width);
-        std::uint64_t pops = 0;
-        while (!m_queues.empty()) {
-            if (++pops % popsBetweenReports == 0 && progress != nullptr)
-                progress->setValue(static_cast<int>(pops * 100 / m_words.size()));
-            const std::size_t i = m_queues.pop(m_queues.lowest());
-            const Word region = meetingLabel(i, width);
-            setLabel(i, region);
-            if (region != barrier)
-                enqueueNeighbours(i, width);
-        }
-    }
-
-    /// The one region among the four neighbours of a queued pixel, or a barrier where two of them meet.
-    Word meetingLabel(std::size_t i, std::size_t width) const
-    {
-        Word found = 0;
-        for (const std::size_t neighbour : {i - 1, i + 1, i - width, i + width}) {
-            const Word region = label(m_words[neighbour]);
-            if (!isRegion(region) || region == found)
+        std::vector<std::pair<std::size_t, Mark>> front;
+        for (std::size_t s = 0; s < m_nearSeeds.size(); ++s) {
+            if (m_nearSeeds[s] == 0)
                 continue;
-            if (found != 0)
-                return barrier;
-            found = region;
+            const std::size_t end = std::min(m_pixels, (s + 1) * stretch);
+            for (std::size_t pixel = s * stretch; pixel < end; ++pixel)
+                if (const std::size_t i = placeOf(pixel); m_plane.marks[i] == 0)
+                    if (const Mark mark = queueIfNextToSeed(pixel, i); mark != 0)
+                        front.emplace_back(i, mark);
         }
-        return found;
+        // Not before all are found: a pixel of the front is no seed to the ones behind it.
+        for (const auto &[i, mark] : front)
+            m_plane.marks[i] = mark;
     }
 
-    void enqueueNeighbours(std::size_t i, std::size_t width)
+    /// Queues a pixel, kept at `i`, at the price of its cheapest seeded neighbour. Returns the mark that the
+    /// seeds leave in it.
+    Mark queueIfNextToSeed(std::size_t pixel, std::size_t i)
     {
-        const auto enqueueFrom = [this](std::size_t neighbour, unsigned difference) {
-            const Word word = m_words[neighbour];
-            if (label(word) == 0)
-                enqueue(neighbour, edgeCost(word) != 0 ? edgeCost(word) : difference);
+        const std::uint8_t *const here = colour(pixel);
+        const std::ptrdiff_t toBelow = m_image.bytesPerLine();
+        Mark mark = 0;
+        std::uint8_t difference = 255;
+        const auto consider = [&](std::size_t neighbour, std::ptrdiff_t step) {
+            const Mark seed = m_plane.marks[neighbour];
+            if (!isRegion(seed))
+                return;
+            mark = joined(mark, seed);
+            difference = std::min(difference, brightnessDifference(here, here + step));
         };
-        const Word here = m_words[i];
-        enqueueFrom(i - 1, toRight(m_words[i - 1]));
-        enqueueFrom(i + 1, toRight(here));
-        enqueueFrom(i - width, toAbove(here));
-        // The step down is priced with the horizontal difference. It looks like a slip, but regions
-        // that were cut out before must come out the same, so it stays.
-        enqueueFrom(i + width, toRight(here));
+        consider(m_plane.strips.left(i), -4);
+        consider(m_plane.strips.right(i), 4);
+        consider(m_plane.strips.above(i), -toBelow);
+        consider(m_plane.strips.below(i), toBelow);
+        if (mark != 0)
+            m_queues.push(pixelCost(m_edges[pixel], difference, m_rule), static_cast<std::uint32_t>(i));
+        return mark;
     }
 
-    int m_width;
-    int m_height;
-    std::vector<Word> m_words;
+    [[nodiscard]] const std::uint8_t *colour(std::size_t pixel) const
+    {
+        return m_image.constScanLine(static_cast<int>(pixel / m_plane.width)) + 4 * (pixel % m_plane.width);
+    }
+
+    /// Serves a level until it is empty or a lower one is filled. Everything that the loop needs is held in
+    /// local variables: the marks are written as bytes, which the compiler must expect to change any member.
+    void serve(const unsigned level, QProgressBar *progress)
+    {
+        const Strips strips = m_plane.strips;
+        Mark *const marks = m_plane.marks.data();
+        const StepCosts *const costs = m_costs.get();
+        LevelQueues::Service queue(m_queues, level);
+        unsigned lowest = level;
+        while (lowest == level && queue.more()) {
+            fetchAround(queue.ahead(), marks, costs, strips);
+            const std::size_t i = queue.take();
+            if (--m_popsToReport == 0) [[unlikely]]
+                report(progress);
+            const Mark mark = marks[i];
+            if (isMeeting(mark)) [[unlikely]]
+                continue;
+            // Branches, though half of them are guessed wrong: without them the place of each entry waits for
+            // the marks before it, the entries taken next wait for the place, and that is slower still.
+            const auto reach = [&](std::size_t neighbour, const std::uint8_t &cost) {
+                const Mark before = marks[neighbour];
+                marks[neighbour] = joined(before, mark);
+                if (before != 0)
+                    return;
+                if (cost == level) {
+                    queue.push(static_cast<std::uint32_t>(neighbour));
+                } else {
+                    m_queues.push(cost, static_cast<std::uint32_t>(neighbour));
+                    lowest = std::min<unsigned>(lowest, cost);
+                }
+            };
+            queue.makeRoom();
+            reach(strips.left(i), costs[i].left);
+            reach(strips.right(i), costs[i].right);
+            reach(strips.above(i), costs[i].up);
+            reach(strips.below(i), costs[i].down);
+        }
+        queue.close();
+    }
+
+    static void fetchAround(std::size_t i, const Mark *marks, const StepCosts *costs, const Strips &strips)
+    {
+        hwy::Prefetch(costs + i);
+        hwy::Prefetch(marks + i);
+        // Of an entry on the first or the last strip, that may be a place beside the planes.
+        const std::size_t beside = strips.inNearestStrip(i);
+        if (beside < strips.size()) {
+            hwy::Prefetch(costs + beside);
+            hwy::Prefetch(marks + beside);
+        }
+    }
+
+    void report(QProgressBar *progress)
+    {
+        m_popsToReport = popsBetweenReports;
+        m_pops += popsBetweenReports;
+        if (progress != nullptr)
+            progress->setValue(static_cast<int>(m_pops * 100 / m_pixels));
+    }
+
+    const QImage &m_image;
+    const std::uint8_t *m_edges;
+    EdgeCost m_rule;
+    MarkPlane<Mark> m_plane;
+    std::size_t m_pixels;
+    std::vector<std::uint8_t> m_nearSeeds; ///< for each stretch, whether it holds a neighbour of a seed
+    std::unique_ptr<StepCosts[]> m_costs;
     LevelQueues m_queues;
+    std::uint64_t m_pops = 0;
+    int m_popsToReport = popsBetweenReports;
 };
 
 } // namespace flooding

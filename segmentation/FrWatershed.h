@@ -26,6 +26,6 @@ class QProgressBar;
 /// pixel that both regions reach belongs to neither and is not flooded through. The one-pixel frame of the
 /// picture belongs to no region, and seeds on it are lost; indices off the picture are passed over.
 ///
-/// Takes time linear in the pixels and about 8 bytes a pixel of working storage, which is released on return.
+/// Takes time linear in the pixels and about 6 bytes a pixel of working storage, which is released on return.
 int FrWatershed(QImage *image, QList<int> &keep, QList<int> &remove, QList<int> &result, unsigned char *edges,
                 QProgressBar *progress);

@@ -9,26 +9,30 @@
 
 namespace {
 
-template <typename Word>
+template <typename Mark>
 int floodMany(const QImage &image, const std::vector<std::vector<int>> &seeds, QList<QList<int>> &result,
               const unsigned char *edges, QProgressBar *progress)
 {
-    flooding::Flooding<Word> picture(image, edges, flooding::EdgeCost::highest);
+    flooding::Flooding<Mark> picture(image, edges, flooding::EdgeCost::highest);
     for (std::size_t k = 0; k < seeds.size(); ++k)
-        picture.seed(seeds[k], static_cast<Word>(k + 1));
+        picture.seed(seeds[k], k + 1);
     if (!picture.run(progress))
         return -1;
 
-    const std::vector<std::size_t> sizes = picture.sizes(seeds.size());
     result.resize(result.size() + static_cast<qsizetype>(seeds.size()));
+    const std::vector<std::size_t> sizes = picture.marks().regionSizes(seeds.size());
+    std::vector<int *> next(seeds.size(), nullptr);
     for (std::size_t k = 1; k <= seeds.size() && static_cast<qsizetype>(k) < result.size(); ++k) {
         QList<int> &pixels = result[static_cast<qsizetype>(k)];
-        pixels.reserve(pixels.size() + static_cast<qsizetype>(sizes[k - 1]));
+        const qsizetype before = pixels.size();
+        pixels.resize(before + static_cast<qsizetype>(sizes[k - 1]));
+        next[k - 1] = pixels.data() + before;
     }
-    picture.forEachLabelled([&](int index, Word region) {
-        const auto position = static_cast<qsizetype>(region);
-        if (position < result.size())
-            result[position].append(index);
+    picture.marks().forEachPixelRun([&](std::size_t begin, std::size_t end, std::size_t region) {
+        int *&pixel = next[region - 1];
+        if (pixel != nullptr)
+            for (std::size_t i = begin; i < end; ++i)
+                *pixel++ = static_cast<int>(i);
     });
     return static_cast<int>(seeds.size());
 }
@@ -41,8 +45,8 @@ int FrWatershedMany(QImage *image, std::vector<std::vector<int>> seeds, QList<QL
     assert(!result.isEmpty());
     if (seeds.empty() || image->isNull())
         return -1;
-    // Words of 32 bits leave eight for the label; more regions than these can tell apart take wider words.
-    if (seeds.size() <= flooding::Flooding<std::uint32_t>::mostRegions)
-        return floodMany<std::uint32_t>(*image, seeds, result, edges, progress);
-    return floodMany<std::uint64_t>(*image, seeds, result, edges, progress);
+    // Few regions, the usual case, fit into marks of one byte.
+    if (seeds.size() <= flooding::mostRegions<std::uint8_t>)
+        return floodMany<std::uint8_t>(*image, seeds, result, edges, progress);
+    return floodMany<std::uint32_t>(*image, seeds, result, edges, progress);
 }

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+// The watersheds on mosaics of photographs, beside OpenCV's with the same seeds. Run it with
+// --benchmark_enable_random_interleaving=true --benchmark_repetitions=5 and compare medians: the machine's
+// mood then strikes all rows alike.
+
+#include "benchmarks/BenchmarkPictures.h"
+#include "imaging/EdgeMap.h"
+#include "segmentation/FrWatershed.h"
+#include "segmentation/FrWatershedMany.h"
+
+#include <benchmark/benchmark.h>
+
+#ifdef ORNEVO_HAVE_OPENCV
+#include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
+#endif
+
+#include <cstdint>
+#include <map>
+
+namespace {
+
+constexpr int manyRegions = 8;
+
+/// A mosaic with its edge map.
+struct Scene
+{
+    QImage picture;
+    std::vector<std::uint8_t> edges;
+};
+
+Scene &scene(int megapixels)
+{
+    static std::map<int, Scene> made;
+    Scene &on = made[megapixels];
+    if (on.edges.empty()) {
+        on.picture = benchmarkpictures::photoMosaic(megapixels);
+        on.edges.resize(static_cast<std::size_t>(on.picture.width()) *
+                        static_cast<std::size_t>(on.picture.height()));
+        computeEdgeMap(on.picture, on.edges.data());
+    }
+    return on;
+}
+
+void countPixels(benchmark::State &state, const Scene &on)
+{
+    const auto pixels = static_cast<double>(on.edges.size());
+    state.counters["s/px"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate |
+                                                            benchmark::Counter::kInvert);
+}
+
+void ornevoTwoRegions(benchmark::State &state)
+{
+    Scene &on = scene(static_cast<int>(state.range(0)));
+    std::vector<QList<int>> seeds = benchmarkpictures::strokes(on.picture.size(), 2);
+    for (auto _ : state) {
+        QList<int> result;
+        FrWatershed(&on.picture, seeds[0], seeds[1], result, on.edges.data(), nullptr);
+        benchmark::DoNotOptimize(result.data());
+    }
+    countPixels(state, on);
+}
+
+void ornevoManyRegions(benchmark::State &state)
+{
+    Scene &on = scene(static_cast<int>(state.range(0)));
+    std::vector<std::vector<int>> seeds;
+    for (const QList<int> &stroke : benchmarkpictures::strokes(on.picture.size(), manyRegions))
+        seeds.emplace_back(stroke.begin(), stroke.end());
+    for (auto _ : state) {
+        QList<QList<int>> result{{}};
+        FrWatershedMany(&on.picture, seeds, result, on.edges.data(), nullptr);
+        benchmark::DoNotOptimize(result.data());
+    }
+    countPixels(state, on);
+}
+
+#ifdef ORNEVO_HAVE_OPENCV
+
+cv::Mat markersOf(const Scene &on, int regions)
+{
+    cv::Mat markers = cv::Mat::zeros(on.picture.height(), on.picture.width(), CV_32SC1);
+    int label = 0;
+    for (const QList<int> &stroke : benchmarkpictures::strokes(on.picture.size(), regions)) {
+        ++label;
+        for (const int index : stroke)
+            markers.ptr<int>()[index] = label;
+    }
+    return markers;
+}
+
+cv::Mat photoOf(const Scene &on)
+{
+    const cv::Mat view(on.picture.height(), on.picture.width(), CV_8UC4,
+                       const_cast<uchar *>(on.picture.constBits()),
+                       static_cast<std::size_t>(on.picture.bytesPerLine()));
+    cv::Mat photo;
+    cv::cvtColor(view, photo, cv::COLOR_BGRA2BGR);
+    return photo;
+}
+
+cv::Mat edgeMapOf(const Scene &on)
+{
+    const cv::Mat view(on.picture.height(), on.picture.width(), CV_8UC1,
+                       const_cast<std::uint8_t *>(on.edges.data()));
+    cv::Mat edges;
+    cv::cvtColor(view, edges, cv::COLOR_GRAY2BGR);
+    return edges;
+}
+
+void openCv(benchmark::State &state, cv::Mat (*pictureOf)(const Scene &), int regions)
+{
+    cv::setNumThreads(1);
+    const Scene &on = scene(static_cast<int>(state.range(0)));
+    const cv::Mat picture = pictureOf(on);
+    const cv::Mat seeds = markersOf(on, regions);
+    cv::Mat markers = seeds.clone();
+    for (auto _ : state) {
+        state.PauseTiming(); // the call overwrites its markers
+        seeds.copyTo(markers);
+        state.ResumeTiming();
+        cv::watershed(picture, markers);
+        benchmark::DoNotOptimize(markers.data);
+    }
+    countPixels(state, on);
+}
+
+#endif
+
+void megapixels(benchmark::internal::Benchmark *row)
+{
+    row->Arg(4)->Arg(12)->Arg(24)->Arg(64)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
+}
+
+BENCHMARK(ornevoTwoRegions)->Apply(megapixels);
+BENCHMARK(ornevoManyRegions)->Apply(megapixels);
+#ifdef ORNEVO_HAVE_OPENCV
+BENCHMARK_CAPTURE(openCv, twoRegionsOnEdgeMap, edgeMapOf, 2)->Apply(megapixels);
+BENCHMARK_CAPTURE(openCv, twoRegionsOnPhoto, photoOf, 2)->Apply(megapixels);
+BENCHMARK_CAPTURE(openCv, manyRegionsOnEdgeMap, edgeMapOf, manyRegions)->Apply(megapixels);
+#endif
+
+} // namespace
+
+BENCHMARK_MAIN();

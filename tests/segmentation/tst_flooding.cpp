@@ -1,0 +1,362 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+// The flooding and its parts against plain versions of the same.
+
+#include "segmentation/FrWatershed.h"
+#include "segmentation/FrWatershedMany.h"
+#include "segmentation/LevelQueues.h"
+#include "segmentation/Marks.h"
+#include "segmentation/StepCosts.h"
+#include "tests/reference/TestPictures.h"
+#include "tests/reference/WatershedReference.h"
+#include "tests/support/TestMain.h"
+
+#include <QDirIterator>
+#include <QProgressBar>
+
+#include <hwy/targets.h>
+
+#include <algorithm>
+#include <deque>
+
+using namespace testpictures;
+
+namespace {
+
+using Plane = std::vector<std::uint8_t>;
+
+/// A list of random pixels for each region.
+std::vector<std::vector<int>> seedLists(const QImage &image, int regions, int perRegion, std::uint32_t seed)
+{
+    std::vector<std::vector<int>> lists;
+    for (int k = 0; k < regions; ++k) {
+        const QList<int> list = randomIndices(image.width(), image.height(), perRegion,
+                                              seed + 31U * static_cast<std::uint32_t>(k));
+        lists.emplace_back(list.begin(), list.end());
+    }
+    return lists;
+}
+
+/// Floods with ours and with the plain version; true when both return and append the same.
+bool twoRegionsAgree(QImage image, Plane edges, QList<int> keep, QList<int> remove)
+{
+    QList<int> expected{-7};
+    const int expectedReturn = reference::watershed(image, keep, remove, expected, edges);
+    QList<int> result{-7};
+    const int returned = FrWatershed(&image, keep, remove, result, edges.data(), nullptr);
+    return returned == expectedReturn && result == expected;
+}
+
+bool manyRegionsAgree(QImage image, Plane edges, const std::vector<std::vector<int>> &seeds)
+{
+    QList<QList<int>> expected{{-7}};
+    const int expectedReturn = reference::watershedMany(image, seeds, expected, edges);
+    QList<QList<int>> result{{-7}};
+    const int returned = FrWatershedMany(&image, seeds, result, edges.data(), nullptr);
+    return returned == expectedReturn && result == expected;
+}
+
+bool agree(const QImage &image, const Plane &edges, int seedsPerRegion, std::uint32_t seed)
+{
+    const auto lists = seedLists(image, 2, seedsPerRegion, seed);
+    return twoRegionsAgree(image, edges, QList<int>(lists[0].begin(), lists[0].end()),
+                           QList<int>(lists[1].begin(), lists[1].end())) &&
+           manyRegionsAgree(image, edges, seedLists(image, 3, seedsPerRegion, seed + 1));
+}
+
+/// A photograph of this machine, cut to a size that the plain version floods in a moment.
+QImage photo()
+{
+    for (const char *folder : {"/usr/share/backgrounds", "/usr/lib/python3/dist-packages/skimage/data"}) {
+        QDirIterator files(folder, {"*.jpg"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QImage image(files.next());
+            if (image.width() >= 700 && image.height() >= 500)
+                return image.convertToFormat(QImage::Format_RGB32).copy(90, 60, 600, 400);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+class TestFlooding : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void pictures_data();
+    void pictures();
+    void photographs();
+    void paddedRows();
+    void manyRegions_data();
+    void manyRegions();
+    void seedsOffThePicture();
+    void longQueues();
+    void progress();
+    void queuesAreFirstInFirstOut();
+    void stepCosts_data();
+    void stepCosts();
+    void strips();
+    void marks();
+};
+
+void TestFlooding::pictures_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<std::uint32_t>("seed");
+    std::uint32_t seed = 1;
+    QList<QSize> sizes = awkwardSizes();
+    for (const QSize more : {QSize(3, 3), QSize(4, 3), QSize(17, 66), QSize(65, 40), QSize(131, 90)})
+        sizes.append(more);
+    for (const QSize size : sizes) {
+        QTest::addRow("%dx%d #%u", size.width(), size.height(), seed) << size << seed;
+        ++seed;
+    }
+}
+
+void TestFlooding::pictures()
+{
+    QFETCH(QSize, size);
+    QFETCH(std::uint32_t, seed);
+    const int w = size.width();
+    const int h = size.height();
+    const QImage images[] = {randomImage(w, h, seed),
+                             constantImage(w, h, qRgb(90, 120, 30)),
+                             rampImage(w, h, 3),
+                             plateauImage(w, h, 5, 4, seed),
+                             greyStepsImage(w, h, seed),
+                             blobImage(w, h, seed),
+                             stepImage(w, h, w / 2, qRgb(0, 0, 0), qRgb(255, 255, 255))};
+    const Plane edges[] = {constantPlane(w, h, 0), constantPlane(w, h, 255), randomPlane(w, h, seed),
+                           sparsePlane(w, h, 3, seed), plateauPlane(w, h, 3, seed)};
+    for (std::size_t i = 0; i < std::size(images); ++i)
+        for (std::size_t e = 0; e < std::size(edges); ++e)
+            for (const int seeds : {1, 7, 60})
+                QVERIFY2(agree(images[i], edges[e], seeds, seed + static_cast<std::uint32_t>(seeds)),
+                         qPrintable(QString("picture %1, edges %2, %3 seeds").arg(i).arg(e).arg(seeds)));
+}
+
+void TestFlooding::photographs()
+{
+    const QImage image = photo();
+    if (image.isNull())
+        QSKIP("no photograph on this machine");
+    const int w = image.width();
+    const int h = image.height();
+    for (const int oneIn : {2, 5, 1000000})
+        QVERIFY(agree(image, sparsePlane(w, h, oneIn, 5), 40, 11));
+}
+
+void TestFlooding::paddedRows()
+{
+    const QImage image = blobImage(70, 50, 3);
+    const QImage padded = paddedImage(image, 5, 4);
+    QVERIFY(padded.bytesPerLine() != image.bytesPerLine());
+    QVERIFY(agree(padded, sparsePlane(70, 50, 2, 6), 5, 7));
+}
+
+void TestFlooding::manyRegions_data()
+{
+    QTest::addColumn<int>("regions");
+    for (const int regions : {1, 2, 7, 8, 9, 64, 300})
+        QTest::addRow("%d", regions) << regions;
+}
+
+void TestFlooding::manyRegions()
+{
+    QFETCH(int, regions);
+    for (std::uint32_t seed = 1; seed <= 6; ++seed) {
+        const QImage image = seed % 2 == 0 ? blobImage(150, 110, seed) : plateauImage(150, 110, 7, 5, seed);
+        for (const Plane &edges : {sparsePlane(150, 110, 4, seed), constantPlane(150, 110, 0)})
+            QVERIFY(manyRegionsAgree(image, edges, seedLists(image, regions, 9, seed)));
+    }
+}
+
+void TestFlooding::seedsOffThePicture()
+{
+    const QImage image = blobImage(40, 30, 9);
+    const Plane edges = sparsePlane(40, 30, 3, 9);
+    const QList<int> keep{-1, -2147483647, 40 * 30, 2147483647, 40 * 10 + 7, 0, 40 * 12};
+    QVERIFY(twoRegionsAgree(image, edges, keep, {40 * 20 + 30, 40 * 30 - 1, 79}));
+    QVERIFY(twoRegionsAgree(image, edges, {-5}, {40 * 20 + 30}));
+    QVERIFY(twoRegionsAgree(image, edges, {0, 39, 40}, {1}));
+    QVERIFY(twoRegionsAgree(image, edges, {}, {41}));
+    QVERIFY(twoRegionsAgree(image, edges, {45}, {45}));
+}
+
+/// Levels that need many blocks and give them back.
+void TestFlooding::longQueues()
+{
+    const QImage image = greyImage(900, 700, plateauPlane(900, 700, 2, 3));
+    QVERIFY(agree(image, constantPlane(900, 700, 0), 400, 2));
+    QVERIFY(agree(image, plateauPlane(900, 700, 4, 8), 2000, 3));
+}
+
+void TestFlooding::progress()
+{
+    QImage image = blobImage(300, 200, 4);
+    Plane edges = constantPlane(300, 200, 0);
+    QList<int> keep{300 * 50 + 60};
+    QList<int> remove{300 * 150 + 240};
+    QList<int> result;
+    QProgressBar bar;
+    QList<int> values;
+    connect(&bar, &QProgressBar::valueChanged, this, [&](int value) { values.append(value); });
+    QCOMPARE(FrWatershed(&image, keep, remove, result, edges.data(), &bar), 0);
+    // 298 x 198 pixels less two seeds: five full ten thousands
+    QCOMPARE(values, QList<int>({16, 33, 50, 66, 83}));
+}
+
+void TestFlooding::queuesAreFirstInFirstOut()
+{
+    Random random(5);
+    LevelQueues queues(0);
+    std::vector<std::deque<std::uint32_t>> plain(LevelQueues::levels);
+    std::uint32_t next = 1;
+    for (int round = 0; round < 3000; ++round) {
+        for (int n = random.below(40); n > 0; --n) {
+            const int level = random.below(2) == 0 ? random.below(4) : random.below(256);
+            queues.push(static_cast<unsigned>(level), next);
+            plain[static_cast<std::size_t>(level)].push_back(next++);
+        }
+        if (queues.empty())
+            continue;
+        const unsigned lowest = queues.lowest();
+        std::deque<std::uint32_t> &expected = plain[lowest];
+        for (unsigned below = 0; below < lowest; ++below)
+            QVERIFY(plain[below].empty());
+        LevelQueues::Service service(queues, lowest);
+        const int atMost = random.below(60);
+        for (int taken = 0; taken < atMost && service.more(); ++taken) {
+            QVERIFY(service.ahead() < next);
+            QCOMPARE(service.take(), expected.front());
+            expected.pop_front();
+            service.makeRoom();
+            for (int pushed = random.below(5); pushed > 0; --pushed) {
+                service.push(next);
+                expected.push_back(next++);
+            }
+        }
+        service.close();
+        QCOMPARE(queues.empty(), std::all_of(plain.begin(), plain.end(), [](auto &q) { return q.empty(); }));
+    }
+    QVERIFY(next > 60000); // else too little was queued to reach across the blocks
+}
+
+void TestFlooding::stepCosts_data()
+{
+    QTest::addColumn<qint64>("target");
+    for (const std::int64_t target : hwy::SupportedAndGeneratedTargets())
+        QTest::addRow("%s", hwy::TargetName(target)) << qint64{target};
+}
+
+/// Every instruction set of this machine gives what one pixel at a time gives.
+void TestFlooding::stepCosts()
+{
+    QFETCH(qint64, target);
+    hwy::SetSupportedTargetsForTest(target);
+    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
+    for (const int w : {3, 4, 5, 8, 9, 16, 17, 33, 64, 65, 66, 67, 200}) {
+        const int h = 12;
+        for (const QImage &image : {greyStepsImage(w, h, 3), randomImage(w, h, 2), blobImage(w, h, 1)}) {
+            const Plane edges = sparsePlane(w, h, 2, static_cast<std::uint32_t>(w));
+            for (const auto rule : {flooding::EdgeCost::strength, flooding::EdgeCost::highest}) {
+                const auto costs = flooding::makeStepCosts(image, edges.data(), rule);
+                const auto price = [&](int toX, int toY, int x, int y, int againstX, int againstY) {
+                    const int edge = edges[static_cast<std::size_t>(toY * w + toX)];
+                    if (edge != 0)
+                        return rule == flooding::EdgeCost::strength ? edge : 255;
+                    return reference::luminanceDifference(image.pixel(x, y), image.pixel(againstX, againstY));
+                };
+                const flooding::Strips strips(w, h);
+                for (int y = 1; y < h - 1; ++y) {
+                    for (int x = 1; x < w - 1; ++x) {
+                        const flooding::StepCosts cost =
+                            costs[strips.at(static_cast<std::size_t>(x), static_cast<std::size_t>(y))];
+                        QCOMPARE(int{cost.left}, price(x - 1, y, x, y, x - 1, y));
+                        QCOMPARE(int{cost.right}, price(x + 1, y, x, y, x + 1, y));
+                        QCOMPARE(int{cost.up}, price(x, y - 1, x, y, x, y - 1));
+                        QCOMPARE(int{cost.down}, price(x, y + 1, x, y, x + 1, y));
+                    }
+                }
+            }
+        }
+    }
+    hwy::SetSupportedTargetsForTest(0);
+    hwy::GetChosenTarget().DeInit();
+}
+
+template <typename Mark> void checkMarks(std::size_t regions)
+{
+    using namespace flooding;
+    std::vector<Mark> all{0, meeting<Mark>};
+    for (std::size_t region = 1; region <= regions; ++region) {
+        const Mark mark = markOf<Mark>(region);
+        QVERIFY(isRegion(mark));
+        QCOMPARE(regionOf(mark), region);
+        QCOMPARE(joined(Mark{0}, mark), mark);
+        QCOMPARE(joined(mark, mark), mark);
+        QVERIFY(isMeeting(joined(meeting<Mark>, mark)));
+        for (std::size_t other = 1; other < region; ++other) {
+            QVERIFY(isMeeting(joined(mark, markOf<Mark>(other))));
+            QVERIFY(isMeeting(joined(joined(mark, markOf<Mark>(other)), mark)));
+        }
+        all.insert(all.end(), region * 5, mark);
+        all.push_back(0);
+    }
+    std::vector<Mark> rebuilt(all.size(), 0);
+    forEachRun(all, [&](std::size_t begin, std::size_t end, std::size_t region) {
+        std::fill(rebuilt.begin() + static_cast<std::ptrdiff_t>(begin),
+                  rebuilt.begin() + static_cast<std::ptrdiff_t>(end), markOf<Mark>(region));
+    });
+    rebuilt[1] = meeting<Mark>;
+    QVERIFY(rebuilt == all);
+
+    MarkPlane<Mark> plane(13, 21);
+    for (std::size_t y = 0; y < 21; ++y)
+        for (std::size_t x = 0; x < 13; ++x)
+            plane.marks[plane.strips.at(x, y)] = markOf<Mark>((y * 13 + x) / 40 + 1);
+    QCOMPARE(plane.regionSizes(7), std::vector<std::size_t>({40, 40, 40, 40, 40, 40, 33}));
+    std::size_t next = 0;
+    plane.forEachPixelRun([&](std::size_t begin, std::size_t end, std::size_t region) {
+        QCOMPARE(begin, next);
+        QCOMPARE(begin / 40 + 1, region);
+        QCOMPARE((end - 1) / 40 + 1, region);
+        next = end;
+    });
+    QCOMPARE(next, std::size_t{13 * 21});
+}
+
+void TestFlooding::strips()
+{
+    for (const QSize size : {QSize(1, 1), QSize(5, 7), QSize(6, 8), QSize(9, 9), QSize(4, 33)}) {
+        const flooding::Strips strips(size.width(), size.height());
+        const auto w = static_cast<std::size_t>(size.width());
+        const auto h = static_cast<std::size_t>(size.height());
+        std::vector<bool> taken(strips.size());
+        for (std::size_t y = 0; y < h; ++y) {
+            for (std::size_t x = 0; x < w; ++x) {
+                const std::size_t i = strips.at(x, y);
+                QVERIFY(i < strips.size() && !taken[i]);
+                taken[i] = true;
+                QVERIFY(x == 0 || strips.left(i) == strips.at(x - 1, y));
+                QVERIFY(x + 1 == w || strips.right(i) == strips.at(x + 1, y));
+                QVERIFY(y == 0 || strips.above(i) == strips.at(x, y - 1));
+                QVERIFY(y + 1 == h || strips.below(i) == strips.at(x, y + 1));
+            }
+        }
+    }
+}
+
+void TestFlooding::marks()
+{
+    checkMarks<std::uint8_t>(8);
+    checkMarks<std::uint32_t>(40);
+    QVERIFY(!flooding::isRegion(std::uint8_t{0}));
+    QVERIFY(!flooding::isRegion(std::uint32_t{0}));
+}
+
+ORNEVO_TEST_MAIN(TestFlooding)
+#include "tst_flooding.moc"
