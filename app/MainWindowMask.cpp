@@ -29,11 +29,11 @@ void MainWindow::updatemask()
         return;
 
     form->statusBar->showMessage(tr("Isolating object"));
-    markers::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
     form->progressBar->show();
     outmask.clear();
     qWarning() << "outmask size before watd is" << outmask.size();
     try {
+        markers::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
         FrWatershed(&workingImage, seeds.keep, seeds.remove, outmask, edgeMap.get(), form->progressBar);
     } catch (const std::bad_alloc &) {
         outmask = {}; // short of memory, the picture has no mask; the program goes on

@@ -12,6 +12,20 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <new>
+
+namespace {
+
+/// Null when memory is short.
+std::unique_ptr<unsigned char[]> bytesFor(const QImage &picture)
+{
+    const auto pixels =
+        static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
+    return std::unique_ptr<unsigned char[]>(new (std::nothrow) unsigned char[pixels]);
+}
+
+} // namespace
+
 void MainWindow::on_actionOpen_triggered()
 {
     const QString directory =
@@ -43,14 +57,17 @@ void MainWindow::open()
     outmask.clear();
 
     const QImage picture = readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
-    if (picture.isNull()) {
+    // All the memory that the picture takes is got before anything refers to the picture.
+    const QPixmap pixmap = QPixmap::fromImage(picture);
+    std::unique_ptr<unsigned char[]> edges = bytesFor(picture);
+    if (pixmap.isNull() || edges == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;
     }
     setWindowTitle("Ornevo Pro - " + QFileInfo(currentFile).fileName());
     form->statusBar->showMessage(tr("image opened"));
 
-    imagePixmap = QPixmap::fromImage(picture);
+    imagePixmap = pixmap;
     imageScene.addItem(new PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
     form->graphicsView->setScene(&imageScene);
@@ -61,8 +78,7 @@ void MainWindow::open()
     form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
     form->progressBar->show();
     workingImage = picture;
-    edgeMap = std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(picture.width()) *
-                                                              static_cast<std::size_t>(picture.height()));
+    edgeMap = std::move(edges);
     colorsobel();
     form->progressBar->hide();
     form->statusBar->showMessage(tr("Ready"));
