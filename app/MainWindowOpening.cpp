@@ -16,9 +16,12 @@
 
 namespace {
 
-std::size_t pixelCount(const QImage &picture)
+/// Null when memory is short.
+std::unique_ptr<unsigned char[]> bytesFor(const QImage &picture)
 {
-    return static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
+    const auto pixels =
+        static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
+    return std::unique_ptr<unsigned char[]>(new (std::nothrow) unsigned char[pixels]);
 }
 
 } // namespace
@@ -58,16 +61,17 @@ void MainWindow::open()
     outmask.clear();
 
     const QImage picture = readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
-    // Made before anything of the last picture is replaced: the two must never be of different sizes.
-    std::unique_ptr<unsigned char[]> newEdgeMap(new (std::nothrow) unsigned char[pixelCount(picture)]);
-    if (picture.isNull() || newEdgeMap == nullptr) {
+    // All the memory that the picture takes is got before anything refers to the picture.
+    const QPixmap pixmap = QPixmap::fromImage(picture);
+    std::unique_ptr<unsigned char[]> edges = bytesFor(picture);
+    if (pixmap.isNull() || edges == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;
     }
     setWindowTitle("Ornevo Pro - " + QFileInfo(currentFile).fileName());
     form->statusBar->showMessage(tr("image opened"));
 
-    imagePixmap = QPixmap::fromImage(picture);
+    imagePixmap = pixmap;
     imageScene.addItem(new PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
     form->graphicsView->setScene(&imageScene);
@@ -78,7 +82,7 @@ void MainWindow::open()
     form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
     form->progressBar->show();
     workingImage = picture;
-    edgeMap = std::move(newEdgeMap);
+    edgeMap = std::move(edges);
     colorsobel();
     form->progressBar->hide();
     form->statusBar->showMessage(tr("Ready"));

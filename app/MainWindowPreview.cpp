@@ -12,6 +12,8 @@
 
 #include <QDebug>
 
+#include <new>
+
 namespace {
 
 constexpr qreal backgroundZ = 0.0;
@@ -72,7 +74,12 @@ void MainWindow::updatepreviewmask()
 
 void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
 {
-    blurFourChannels(*src, *dst, size, sigma, [this](int percent) { form->progressBar->setValue(percent); });
+    try {
+        blurFourChannels(*src, *dst, size, sigma,
+                         [this](int percent) { form->progressBar->setValue(percent); });
+    } catch (const std::bad_alloc &) {
+        *dst = src->copy(); // short of memory, the border stays hard; the program goes on
+    }
 }
 
 void MainWindow::applypreviewmask()

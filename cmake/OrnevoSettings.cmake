@@ -26,6 +26,10 @@ if(ORNEVO_SANITIZE)
         -fsanitize=${ORNEVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(ornevo_settings INTERFACE -fsanitize=${ORNEVO_SANITIZE})
 endif()
+if(ORNEVO_FUZZ)
+    target_compile_options(ornevo_settings INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(ornevo_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # String-based connections and slots bound by name need no narrowing of Qt, but casts must be visible.
 target_compile_definitions(ornevo_settings INTERFACE QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)

@@ -3,25 +3,46 @@
 
 #include "imaging/AlphaBrush.h"
 
+#include "imaging/Truncation.h"
+
 #include <QPainterPath>
 #include <QPolygon>
 #include <QTransform>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
-// With the view zoomed far out a dab can be larger than anything. QRegion makes an empty region of a polygon
-// with more rows than this, but first fills megabytes for it and never releases them.
-constexpr int mostRows = 100000;
-constexpr double mostFarAway = 1 << 30;
+// With the view zoomed far out a dab can be far larger than the picture. QRegion's time grows with the square
+// of a polygon's rows: beyond this many it takes seconds, and from 100000 on it gives up.
+constexpr double mostRows = 20000;
 
-bool canBecomeRegion(const QRectF &outline)
+// So far off the picture, the rounding of a cut edge does not show in it.
+constexpr double margin = 64;
+
+/// What is left of a polygon on the side of the line x = bound (or y = bound) that `sign` points away from.
+/// Inside, the winding numbers stay as they are.
+QPolygonF cutAt(const QPolygonF &polygon, bool alongX, double bound, double sign)
 {
-    const auto isNear = [](double coordinate) { return std::abs(coordinate) < mostFarAway; };
-    return isNear(outline.left()) && isNear(outline.right()) && isNear(outline.top()) &&
-           isNear(outline.bottom()) && qRound(outline.bottom()) - qRound(outline.top()) <= mostRows;
+    const auto excess = [=](QPointF point) { return sign * ((alongX ? point.x() : point.y()) - bound); };
+    QPolygonF result;
+    for (qsizetype i = 0; i < polygon.size(); ++i) {
+        const QPointF from = polygon[i];
+        const QPointF to = polygon[i + 1 < polygon.size() ? i + 1 : 0];
+        if (excess(from) <= 0)
+            result.append(from);
+        if ((excess(from) <= 0) != (excess(to) <= 0))
+            result.append(from + (to - from) * (excess(from) / (excess(from) - excess(to))));
+    }
+    return result;
+}
+
+QPolygonF cutAround(QPolygonF polygon, QSize size)
+{
+    polygon = cutAt(polygon, true, -margin, -1);
+    polygon = cutAt(polygon, true, size.width() + margin, 1);
+    polygon = cutAt(polygon, false, -margin, -1);
+    return cutAt(polygon, false, size.height() + margin, 1);
 }
 
 } // namespace
@@ -33,13 +54,16 @@ BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size)
     for (const QRect &square : squares)
         path.addEllipse(QRectF(double(square.x()) - offset.x(), double(square.y()) - offset.y(),
                                square.width(), square.height()));
-    const QPolygonF outline = path.toFillPolygon(QTransform());
-    if (!canBecomeRegion(outline.boundingRect()))
-        return {};
+    QPolygonF outline = path.toFillPolygon(QTransform());
+    QRectF bounds = path.boundingRect();
+    if (outline.boundingRect().height() > mostRows) {
+        outline = cutAround(outline, size);
+        bounds = outline.boundingRect();
+    }
     // Winding, so that overlapping dabs are one area and no pixel is counted twice.
     const QRegion dabs(outline.toPolygon(), Qt::WindingFill);
-    const QRectF bounds = path.boundingRect();
-    const QRect box(qRound(bounds.x()), qRound(bounds.y()), qRound(bounds.width()), qRound(bounds.height()));
+    const QRect box(roundToInt(bounds.x()), roundToInt(bounds.y()), roundToInt(bounds.width()),
+                    roundToInt(bounds.height()));
     return {dabs.intersected(QRect(QPoint(0, 0), size)), box};
 }
 

@@ -15,8 +15,8 @@ struct BrushBatch
     QRect box;      ///< the box around the dabs, rounded to whole pixels; may reach outside the picture
 };
 
-/// The dabs inscribed in `squares`, moved by -`offset` from the scene into a picture of `size`. Both are
-/// empty where the dabs reach over more than 100000 rows or lie beyond 2^30.
+/// The dabs inscribed in `squares`, moved by -`offset` from the scene into a picture of `size`. Where they
+/// reach over more than 20000 rows they are cut down to the picture's surroundings before.
 [[nodiscard]] BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size);
 
 /// Adds `change` to the alpha of the pixels of `region`, limited to 0 .. 255; the colours stay. `picture` is

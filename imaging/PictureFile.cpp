@@ -43,8 +43,8 @@ bool writePicture(const QImage &picture, const QString &path, const QByteArray &
         return false;
     QImageWriter writer(&file, format);
     writer.setQuality(100);
-    // commit() does not notice when the last bytes out of the buffer find the disk full; flush() does.
-    if (!writer.write(picture) || !file.flush()) {
+    // What waits in the file's buffer can fail as well, and commit() would not notice.
+    if (!writer.write(picture) || !file.flush() || file.error() != QFileDevice::NoError) {
         file.cancelWriting();
         return false;
     }

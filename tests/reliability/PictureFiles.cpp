@@ -48,14 +48,13 @@ QByteArray chunk(const char *type, const QByteArray &body)
     return bigEndian(static_cast<quint32>(body.size())) + named + bigEndian(crc32(named));
 }
 
-// Qt reads GIF but does not write it; this one has 3 x 2 pixels.
+} // namespace
+
 QByteArray tinyGif()
 {
     return QByteArray::fromHex("47494638396103000200800000ff00000000ff2c000000000300020000020504433004"
                                "53003b");
 }
-
-} // namespace
 
 QByteArray encoded(const QImage &picture, const char *format)
 {

@@ -15,6 +15,9 @@ namespace picturefiles {
 /// The file that `picture` makes in `format`; empty where the format can't be written here.
 [[nodiscard]] QByteArray encoded(const QImage &picture, const char *format);
 
+/// A GIF of 3 x 2 pixels: Qt reads the format but does not write it.
+[[nodiscard]] QByteArray tinyGif();
+
 /// Replaces a file by `contents`.
 void put(const QString &path, const QByteArray &contents);
 

@@ -1,0 +1,403 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/reference/TestPictures.h"
+#include "tests/reliability/PictureFiles.h"
+#include "tests/reliability/WindowUser.h"
+#include "tests/support/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <cstdlib>
+#include <vector>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+/// While it lives, a file can't grow beyond some bytes: writing fails as it does on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        m_signal = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit full = m_before;
+        full.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_signal)(int) = nullptr;
+};
+
+/// While it lives, the process gets some more memory and no more.
+class ShortMemory
+{
+public:
+    explicit ShortMemory(rlim_t moreBytes)
+    {
+        getrlimit(RLIMIT_AS, &m_before);
+        limitTo(inUse());
+        // The allocator has address space in reserve, which does not count: it is taken first.
+        for (std::size_t size = std::size_t{64} << 20; size >= std::size_t{1} << 20; size /= 2)
+            while (void *block = std::malloc(size))
+                m_reserve.push_back(block);
+        limitTo(inUse() + moreBytes);
+    }
+    ~ShortMemory()
+    {
+        setrlimit(RLIMIT_AS, &m_before);
+        for (void *block : m_reserve)
+            std::free(block);
+    }
+    ShortMemory(const ShortMemory &) = delete;
+    ShortMemory &operator=(const ShortMemory &) = delete;
+
+private:
+    static rlim_t inUse()
+    {
+        QFile file("/proc/self/statm");
+        if (!file.open(QIODevice::ReadOnly))
+            return 0;
+        return file.readAll().split(' ').constFirst().toULongLong() * 4096;
+    }
+
+    void limitTo(rlim_t bytes) const
+    {
+        rlimit shortOf = m_before;
+        shortOf.rlim_cur = bytes;
+        setrlimit(RLIMIT_AS, &shortOf);
+    }
+
+    rlimit m_before{};
+    std::vector<void *> m_reserve;
+};
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool hasSanitizer()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return true;
+#else
+    return false;
+#endif
+}
+
+} // namespace
+
+/// What the world around the program can do to it: disks that are full, folders that go, files that change.
+/// No file of the user's may be lost, nothing half written may stay under a name that was asked for, and the
+/// program goes on.
+class FaultsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_photo = file("photo.jpg");
+        picturefiles::put(m_photo, picturefiles::encoded(picturefiles::smallPicture(120, 90, 1), "jpg"));
+        m_before = contentsOf(m_photo);
+        m_user = std::make_unique<WindowUser>();
+        m_user->open(m_photo);
+        QCOMPARE(m_user->status(), "Ready");
+    }
+
+    void cleanup()
+    {
+        // Whatever happened, the next picture can be opened and worked on.
+        const QString other = file("other.png");
+        picturefiles::put(other, picturefiles::encoded(picturefiles::smallPicture(30, 20, 2), "png"));
+        m_user->open(other);
+        QCOMPARE(m_user->status(), "Ready");
+        QCOMPARE(m_user->probe().workingImage().size(), QSize(30, 20));
+        m_user->layDabs();
+        m_user->preview(true);
+        QCOMPARE(m_user->probe().previewImage().size(), QSize(30, 20));
+        m_user.reset();
+        m_folder.reset();
+        QCOMPARE(QDir(QDir::tempPath()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 m_tempBefore);
+    }
+
+    void initTestCase()
+    {
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+            if (type == QtFatalMsg)
+                fprintf(stderr, "%s\n", qPrintable(text));
+        });
+        m_tempBefore =
+            QDir(QDir::tempPath()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    void fullDiskOnSave_data()
+    {
+        QTest::addColumn<int>("percent");
+        for (const int percent : {0, 1, 10, 25, 50, 75, 90, 99})
+            QTest::addRow("room for %d %%", percent) << percent;
+    }
+
+    /// Wherever in the file the disk is full, the photo that it was to replace stays whole.
+    void fullDiskOnSave()
+    {
+        QFETCH(int, percent);
+        const QString large = file("photo.jpg");
+        picturefiles::put(large, picturefiles::encoded(testpictures::randomImage(300, 200, 5), "jpg"));
+        m_user->open(large);
+        m_before = contentsOf(large);
+        m_user->window().save(file("whole.jpg"));
+        const qint64 needed = QFileInfo(file("whole.jpg")).size();
+        QVERIFY(needed > 50000);
+        QFile::remove(file("whole.jpg"));
+        {
+            const FullDisk disk(static_cast<rlim_t>(needed * percent / 100));
+            m_user->save();
+        }
+        QCOMPARE(contentsOf(large), m_before);
+        QCOMPARE(m_user->status(), "Ready"); // the photo as it is on the disk, read again
+        QCOMPARE(names(), QStringList("photo.jpg"));
+    }
+
+    void fullDiskOnSaveAs()
+    {
+        {
+            const FullDisk disk(500);
+            m_user->saveAs(file("new.jpg"));
+        }
+        QCOMPARE(m_user->status(), "Failed to read image");
+        QCOMPARE(names(), QStringList("photo.jpg"));
+        QCOMPARE(contentsOf(m_photo), m_before);
+    }
+
+    void fullDiskOnExport_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("png") << "cut.png";
+        QTest::newRow("jpg") << "cut.jpg";
+    }
+
+    void fullDiskOnExport()
+    {
+        QFETCH(QString, name);
+        previewed();
+        {
+            const FullDisk disk(700);
+            m_user->exportTo(file(name), 100);
+        }
+        QCOMPARE(names(), QStringList("photo.jpg"));
+        m_user->exportTo(file(name), 100); // and with room on the disk
+        QVERIFY(!QImage(file(name)).isNull());
+        const QByteArray whole = contentsOf(file(name));
+        {
+            const FullDisk disk(700);
+            m_user->exportTo(file(name), 100);
+        }
+        QCOMPARE(contentsOf(file(name)), whole); // an older export stays whole
+    }
+
+    /// The snapshots of brush batches have nowhere to go: undo works all the same.
+    void fullDiskOnBrushing()
+    {
+        previewed();
+        const QImage untouched = m_user->probe().previewImage().copy();
+        {
+            const FullDisk disk(60);
+            m_user->brush(QRect(5, 5, 60, 60));
+        }
+        const QImage brushed = m_user->probe().previewImage().copy();
+        QVERIFY(brushed != untouched);
+        m_user->probe().undoStack().undo();
+        QCOMPARE(m_user->probe().previewImage(), untouched);
+        m_user->probe().undoStack().redo();
+        QCOMPARE(m_user->probe().previewImage(), brushed);
+    }
+
+    /// Not even a temporary folder.
+    void noTemporaryFolder()
+    {
+        previewed();
+        const QByteArray temporary = qgetenv("TMPDIR");
+        qputenv("TMPDIR", m_photo.toLocal8Bit() + "/no-folder");
+        const QImage untouched = m_user->probe().previewImage().copy();
+        for (int i = 0; i < 3; ++i)
+            m_user->brush(QRect(5 + 10 * i, 5, 30, 30));
+        const QImage brushed = m_user->probe().previewImage().copy();
+        QVERIFY(brushed != untouched);
+        m_user->probe().undoStack().setIndex(0);
+        QCOMPARE(m_user->probe().previewImage(), untouched);
+        m_user->probe().undoStack().setIndex(3);
+        QCOMPARE(m_user->probe().previewImage(), brushed);
+        m_user->probe().undoStack().clear();
+        qputenv("TMPDIR", temporary);
+    }
+
+    void nowhereToWrite_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("a missing folder") << file("missing/out.jpg");
+        QTest::newRow("a file for a folder") << file("photo.jpg/out.jpg");
+        QTest::newRow("a folder for a file") << file("");
+        QTest::newRow("a folder of the kernel's") << "/proc/out.jpg";
+        QTest::newRow("a name that is too long") << file(QString(300, 'x') + ".jpg");
+    }
+
+    void nowhereToWrite()
+    {
+        QFETCH(QString, path);
+        if (!path.startsWith('/'))
+            path = file(path);
+        previewed();
+        m_user->exportTo(path, 100);
+        m_user->preview(false);
+        m_user->window().save(path);
+        QCOMPARE(contentsOf(m_photo), m_before);
+        QCOMPARE(names(), QStringList("photo.jpg"));
+    }
+
+    /// Root may write anywhere, so that this tells something to other users only.
+    void readOnlyFolder()
+    {
+        if (geteuid() == 0)
+            QSKIP("root writes into folders that are read-only; nowhereToWrite() has a path that stops root");
+        previewed();
+        QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
+        m_user->exportTo(file("out.jpg"), 100);
+        m_user->preview(false);
+        m_user->save();
+        QVERIFY(
+            QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QCOMPARE(contentsOf(m_photo), m_before);
+        QCOMPARE(names(), QStringList("photo.jpg"));
+    }
+
+    /// The folder goes while the picture is being worked on.
+    void vanishedFolder()
+    {
+        previewed();
+        QVERIFY(QDir(m_folder->path()).removeRecursively());
+        m_user->exportTo(file("out.png"), 100);
+        QVERIFY(!QFileInfo::exists(file("out.png")));
+        m_user->preview(false);
+        m_user->save();
+        QCOMPARE(m_user->status(), "Failed to read image");
+        m_user->trigger("actionMask");
+        QDir().mkpath(m_folder->path());
+    }
+
+    /// What is under the name is not what was chosen a moment ago.
+    void fileThatChanges_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<bool>("opens");
+        QTest::newRow("another picture")
+            << picturefiles::encoded(picturefiles::smallPicture(17, 200, 3), "png") << true;
+        QTest::newRow("half of it") << QByteArray("\xff\xd8\xff\xe0 and then nothing more") << false;
+        QTest::newRow("nothing") << QByteArray() << false;
+    }
+
+    void fileThatChanges()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(bool, opens);
+        previewed();
+        picturefiles::put(m_photo, contents);
+        m_user->window().open(); // chosen before, read now, with the preview still on
+        QCOMPARE(m_user->status(), opens ? "Ready" : "Failed to read image");
+        m_user->brush(QRect(5, 5, 20, 20));
+        for (int i = 0; i < 4; ++i)
+            m_user->probe().undoStack().undo();
+        for (int i = 0; i < 4; ++i)
+            m_user->probe().undoStack().redo();
+        m_user->preview(false);
+        m_user->preview(true);
+        m_user->exportTo(file("out.png"), 50);
+    }
+
+    /// Every allocation of the way from the file to the export may be the one that fails.
+    void pictureLargerThanMemory_data()
+    {
+        QTest::addColumn<int>("mebibytes");
+        for (const int mebibytes : {5, 17, 27, 35, 45, 55, 65, 75, 85, 100, 125, 175})
+            QTest::addRow("%d MiB", mebibytes) << mebibytes;
+    }
+
+    void pictureLargerThanMemory()
+    {
+        QFETCH(int, mebibytes);
+        if (hasSanitizer())
+            QSKIP("the address sanitizer needs an address space without limit");
+        const QString path = file("large.bmp");
+        picturefiles::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        // Qt converts large pictures in threads and waits for ever for one that has no room for its stack; a
+        // program that has worked for a while has them.
+        const QImage warm = testpictures::randomArgbImage(1024, 1024, 1);
+        QVERIFY(!warm.convertToFormat(QImage::Format_RGBA64).isNull());
+        QVERIFY(!warm.convertToFormat(QImage::Format_ARGB32_Premultiplied).isNull());
+        {
+            const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
+            m_user->probe().currentFile() = path;
+            m_user->window().open(); // the file dialog itself needs more than there is
+            QVERIFY2(mebibytes > 20 || m_user->status() == "Failed to read image",
+                     qPrintable(m_user->status()));
+            m_user->layDabs();
+            m_user->trigger("actionMask");
+            m_user->preview(true);
+            m_user->brush(QRect(100, 100, 900, 900));
+            m_user->probe().undoStack().undo();
+            m_user->exportTo(file("out.png"), 64, 64);
+            m_user->preview(false);
+        }
+        QFile::remove(path);
+        QFile::remove(file("out.png"));
+        QCOMPARE(names(), QStringList("photo.jpg"));
+        QCOMPARE(contentsOf(m_photo), m_before);
+    }
+
+private:
+    [[nodiscard]] QString file(const QString &name) const
+    {
+        return m_folder == nullptr ? name : m_folder->filePath(name);
+    }
+
+    [[nodiscard]] QStringList names() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    void previewed()
+    {
+        m_user->layDabs();
+        m_user->preview(true);
+        QVERIFY(!m_user->probe().previewImage().isNull());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<WindowUser> m_user;
+    QString m_photo;
+    QByteArray m_before;
+    QStringList m_tempBefore;
+};
+
+ORNEVO_TEST_MAIN(FaultsTest)
+#include "tst_faults.moc"

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/reliability/PictureFiles.h"
+#include "tests/reliability/WindowUser.h"
+#include "tests/support/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int warmUp = 15;
+constexpr int rounds = 100;
+// One picture of the size that is used, kept by mistake in every round, would be twice as much.
+constexpr qint64 mostGrowth = 8; // MiB
+
+qint64 residentBytes()
+{
+    QFile file("/proc/self/statm");
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+} // namespace
+
+/// A long day's work leaves the memory where it was. Under the address sanitizer, which keeps freed memory
+/// for a while, its own leak check at the end of the program is what counts.
+class LeaksTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+            if (type == QtFatalMsg)
+                fprintf(stderr, "%s\n", qPrintable(text));
+        });
+    }
+
+    void aHundredPictures()
+    {
+        const QTemporaryDir folder;
+        const QStringList names = {folder.filePath("a.png"), folder.filePath("b.jpg")};
+        picturefiles::put(names[0], picturefiles::encoded(picturefiles::smallPicture(240, 180, 1), "png"));
+        picturefiles::put(names[1], picturefiles::encoded(picturefiles::smallPicture(180, 240, 2), "jpg"));
+        WindowUser user;
+        user.window().show();
+        qint64 before = 0;
+        for (int round = 0; round < warmUp + rounds; ++round) {
+            if (round == warmUp)
+                before = residentBytes();
+            user.open(names[round % 2]);
+            QCOMPARE(user.status(), "Ready");
+            user.layDabs();
+            user.trigger("actionMask");
+            user.trigger("actionMask");
+            user.preview(true);
+            for (int stroke = 0; stroke < 3; ++stroke)
+                user.brush(QRect(50 * stroke, 50, 40, 40));
+            user.probe().undoStack().undo();
+            user.exportTo(folder.filePath("out.png"), 200);
+            QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCOMPARE(user.probe().undoStack().count(), 3);
+            QVERIFY(user.probe().previewScene().items().size() <= 3); // both layers and the brush circle
+        }
+        const qint64 growth = (residentBytes() - before) >> 20;
+        fprintf(stderr, "%d rounds grew the program by %lld MiB\n", rounds, static_cast<long long>(growth));
+#ifndef __SANITIZE_ADDRESS__
+        QVERIFY2(growth <= mostGrowth, "memory is not given back");
+#endif
+    }
+
+    /// Windows that come and go.
+    void twentyWindows()
+    {
+        const QTemporaryDir folder;
+        const QString name = folder.filePath("a.png");
+        picturefiles::put(name, picturefiles::encoded(picturefiles::smallPicture(400, 300, 1), "png"));
+        const auto widgets = QApplication::allWidgets().size();
+        for (int i = 0; i < 20; ++i) {
+            WindowUser user;
+            user.window().show();
+            user.open(name);
+            user.layDabs();
+            user.preview(true);
+            user.brush(QRect(50, 50, 40, 40));
+            user.trigger("actionIndex");
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(QApplication::allWidgets().size(), widgets);
+    }
+};
+
+ORNEVO_TEST_MAIN(LeaksTest)
+#include "tst_leaks.moc"
