@@ -22,8 +22,14 @@ namespace edgekernels {
 
 namespace {
 
+// A float of this size has the unit as its last bit.
+constexpr float floatOffset = 1 << 23;
+constexpr int floatExponent = 0x4B000000; // its bits
+constexpr int innerBits = 16;             // of the fraction of a product of the vertical pass, up to the second pair
+constexpr int outerBits = 17;             // of the outermost pair
+
 /// Smoothed value of a column, as the plain filter forms it: centre first, then the pairs outward.
-inline double smoothInDoubles(const std::uint8_t *centre, const Weights &weights)
+inline double smoothInDoubles(const std::int16_t *centre, const Weights &weights)
 {
     double sum = weights.exact[0] * centre[0];
     for (int k = 1; k <= radius; ++k)
@@ -32,15 +38,15 @@ inline double smoothInDoubles(const std::uint8_t *centre, const Weights &weights
 }
 
 /// Both passes for one pixel in doubles, every operation in the order that defines the result.
-inline std::uint8_t blurInDoubles(const Neighbourhood &from, int column, const Weights &weights)
+inline std::int16_t blurInDoubles(const Neighbourhood &from, int column, const Weights &weights)
 {
     std::array<double, rows> smooth;
     for (std::size_t i = 0; i < smooth.size(); ++i)
-        smooth[i] = smoothInDoubles(from.bytes[i] + column, weights);
+        smooth[i] = smoothInDoubles(from.levels[i] + column, weights);
     int value = static_cast<int>(smooth[radius] * weights.exact[0]);
     for (std::size_t k = 1; k <= radius; ++k)
         value = static_cast<int>(value + (smooth[radius + k] + smooth[radius - k]) * weights.exact[k]);
-    return static_cast<std::uint8_t>(value);
+    return static_cast<std::int16_t>(value);
 }
 
 } // namespace
@@ -56,18 +62,19 @@ namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Vectors are capped at the width that the padding of the rows allows for. All tags but the first have as
+// Vectors are capped at the width that the padding of the rows allows for. The tags from the third on have as
 // many lanes as there are floats in a vector, so that a value only ever changes its width and never its
 // place.
 constexpr hn::CappedTag<std::uint8_t, 64> byteTag;
+constexpr hn::CappedTag<std::int16_t, 32> levelTag;
 constexpr hn::CappedTag<float, 16> floatTag;
 constexpr hn::Rebind<std::int32_t, decltype(floatTag)> intTag;
 constexpr hn::Rebind<std::int16_t, decltype(floatTag)> shortTag;
 constexpr hn::Rebind<std::uint8_t, decltype(floatTag)> narrowByteTag;
 
 using FloatVector = hn::VFromD<decltype(floatTag)>;
-using FloatMask = decltype(hn::Eq(FloatVector(), FloatVector()));
 using IntVector = hn::VFromD<decltype(intTag)>;
+using IntMask = decltype(hn::Eq(IntVector(), IntVector()));
 using ShortVector = hn::VFromD<decltype(shortTag)>;
 
 int laneCount()
@@ -75,59 +82,100 @@ int laneCount()
     return static_cast<int>(hn::Lanes(floatTag));
 }
 
-void SplitRow(const std::uint8_t *pixels, int count, const std::array<std::uint8_t *, 3> &colours)
+void SplitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
 {
-    const int lanes = static_cast<int>(hn::Lanes(byteTag));
+    const int lanes = static_cast<int>(hn::Lanes(levelTag));
+    const hn::Rebind<std::uint8_t, decltype(levelTag)> tag;
     int x = 0;
     for (; x + lanes <= count; x += lanes) {
-        hn::VFromD<decltype(byteTag)> blue, green, red, unused;
-        hn::LoadInterleaved4(byteTag, pixels + std::ptrdiff_t{x} * 4, blue, green, red, unused);
-        hn::StoreU(blue, byteTag, colours[0] + x);
-        hn::StoreU(green, byteTag, colours[1] + x);
-        hn::StoreU(red, byteTag, colours[2] + x);
+        hn::VFromD<decltype(tag)> blue, green, red, unused;
+        hn::LoadInterleaved4(tag, pixels + std::ptrdiff_t{x} * 4, blue, green, red, unused);
+        hn::StoreU(hn::PromoteTo(levelTag, blue), levelTag, colours[0] + x);
+        hn::StoreU(hn::PromoteTo(levelTag, green), levelTag, colours[1] + x);
+        hn::StoreU(hn::PromoteTo(levelTag, red), levelTag, colours[2] + x);
     }
     for (; x < count; ++x)
         for (std::size_t colour = 0; colour < colours.size(); ++colour)
             colours[colour][x] = pixels[std::ptrdiff_t{x} * 4 + static_cast<std::ptrdiff_t>(colour)];
 }
 
-IntVector LoadInts(const std::uint8_t *from)
+ShortVector LoadLevels(const std::int16_t *from)
 {
-    return hn::PromoteTo(intTag, hn::LoadU(narrowByteTag, from));
+    return hn::LoadU(shortTag, from);
 }
 
-void SmoothRow(const std::uint8_t *in, int count, const Weights &weights, float *out)
+FloatVector ToFloats(ShortVector values)
+{
+    return hn::ConvertTo(floatTag, hn::PromoteTo(intTag, values));
+}
+
+void SmoothRow(const std::int16_t *in, int count, const Weights &weights, float *out)
 {
     const auto w0 = hn::Set(floatTag, weights.rounded[0]);
     const auto w1 = hn::Set(floatTag, weights.rounded[1]);
     const auto w2 = hn::Set(floatTag, weights.rounded[2]);
     const auto w3 = hn::Set(floatTag, weights.rounded[3]);
     for (int x = 0; x < count - 2 * radius; x += laneCount()) {
-        const auto centre = LoadInts(in + x + 3);
-        const auto pair1 = hn::Add(LoadInts(in + x + 2), LoadInts(in + x + 4));
-        const auto pair2 = hn::Add(LoadInts(in + x + 1), LoadInts(in + x + 5));
-        const auto pair3 = hn::Add(LoadInts(in + x), LoadInts(in + x + 6));
-        auto sum = hn::Mul(hn::ConvertTo(floatTag, centre), w0);
-        sum = hn::MulAdd(hn::ConvertTo(floatTag, pair1), w1, sum);
-        sum = hn::MulAdd(hn::ConvertTo(floatTag, pair2), w2, sum);
-        sum = hn::MulAdd(hn::ConvertTo(floatTag, pair3), w3, sum);
+        const auto centre = LoadLevels(in + x + 3);
+        const auto pair1 = hn::Add(LoadLevels(in + x + 2), LoadLevels(in + x + 4));
+        const auto pair2 = hn::Add(LoadLevels(in + x + 1), LoadLevels(in + x + 5));
+        const auto pair3 = hn::Add(LoadLevels(in + x), LoadLevels(in + x + 6));
+        auto sum = hn::Mul(ToFloats(centre), w0);
+        sum = hn::MulAdd(ToFloats(pair1), w1, sum);
+        sum = hn::MulAdd(ToFloats(pair2), w2, sum);
+        sum = hn::MulAdd(ToFloats(pair3), w3, sum);
         hn::StoreU(sum, floatTag, out + x);
     }
 }
 
 /// The pixels that floats can't decide: all lanes of `near` but those over nothing but zeros.
-HWY_NOINLINE void RedoInDoubles(FloatMask near, FloatVector total, const Neighbourhood &from, int column,
-                                int end, const Weights &weights, std::uint8_t *out)
+HWY_NOINLINE void RedoInDoubles(IntMask near, FloatVector total, const Neighbourhood &from, int column,
+                                int end, const Weights &weights, std::int16_t *out)
 {
-    near = hn::AndNot(hn::Eq(total, hn::Zero(floatTag)), near);
-    if (hn::AllFalse(floatTag, near))
+    near = hn::AndNot(hn::RebindMask(intTag, hn::Eq(total, hn::Zero(floatTag))), near);
+    if (hn::AllFalse(intTag, near))
         return;
     std::uint8_t bits[8] = {};
-    hn::StoreMaskBits(floatTag, near, bits);
+    hn::StoreMaskBits(intTag, near, bits);
     for (int i = 0; i < laneCount() && column + i < end; ++i)
         if ((bits[i / 8] >> (i % 8) & 1) != 0)
             out[column + i] = blurInDoubles(from, column + i, weights);
 }
+
+// A product with 2^23 added has its floor in the upper half of the float's bits, under the exponent, and its fraction
+// in the lower half. Added and compared as halves, neither disturbs the other.
+#if HWY_TARGET == HWY_SCALAR
+
+IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
+{
+    return hn::Add(hn::Add(hn::ShiftRight<innerBits>(a), hn::ShiftRight<innerBits>(b)), hn::ShiftRight<innerBits>(c));
+}
+
+IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
+{
+    const auto fraction = hn::Set(intTag, (1 << innerBits) - 1);
+    return hn::Min(hn::Min(hn::And(a, fraction), hn::And(b, fraction)), hn::And(c, fraction));
+}
+
+#else
+
+constexpr hn::Repartition<std::uint16_t, decltype(intTag)> halvesTag;
+constexpr hn::Rebind<std::uint32_t, decltype(intTag)> unsignedTag;
+
+IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
+{
+    const auto sum = hn::Add(hn::Add(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
+    return hn::BitCast(intTag, hn::ShiftRight<innerBits>(hn::BitCast(unsignedTag, sum)));
+}
+
+IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
+{
+    const auto smallest =
+        hn::Min(hn::Min(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
+    return hn::And(hn::BitCast(intTag, smallest), hn::Set(intTag, (1 << innerBits) - 1));
+}
+
+#endif
 
 // Why floats give the bytes of the doubles. The filter cuts after every pair of taps: with the products
 // P_k = w_k · (t(y - k) + t(y + k)), all of them at least 0, the value is trunc(trunc(trunc(P_0) + P_1) +
@@ -136,53 +184,47 @@ HWY_NOINLINE void RedoInDoubles(FloatMask near, FloatVector total, const Neighbo
 // wherever no product is within 1e-12 of a whole number, and where all the terms are 0, and with them every
 // product.
 //
-// In floats (u = 2^-24 the unit of rounding), a product has gone through nine roundings: of the weight, of
-// the first product, three additions, of the pair, of the second weight, of the second product, and of the
-// addition of the slack below; fewer where the machine fuses a multiplication with an addition. All terms are
-// positive, so the sum is off by less than 9.1 u times its own size. `slack` is 10 u times the largest
-// product. The float q_k = P_k + slack ± 0.92 slack therefore lies above P_k, by less than 2 slack; if the
-// fraction of q_k is not below 2 slack, no whole number lies between P_k and q_k, none lies within 0.08 slack
-// (over 1e-6) of P_k, and the floors are the same. All others, four in ten thousand of a photograph, are
-// redone in doubles.
+// In floats (u = 2^-24 the unit of rounding), a product has gone through eight roundings: of the weight, of the
+// first product, three additions, of the pair, of the second weight and of the second product; fewer where the
+// machine fuses a multiplication with an addition. All terms are positive, so that it is off by less than 8.1 u
+// times the largest product. Adding 2^23 then rounds it to a whole number of units of 2^-16 (2^-17 for the
+// outermost pair), which may cost half a unit more. `slack` is the next whole number above that bound.
+// The number q_k made of P_k + slack therefore lies above P_k, and by less than 2 slack: if its fraction is not
+// below 2 slack, no whole number lies between P_k and q_k, none lies within 1e-6 of P_k, and the floors are the
+// same. All others, four in ten thousand of a photograph, are redone in doubles.
 //
-// The outermost pair has a bound of its own, the others share one: over a plain of one grey level no product
-// but the outermost of grey 239 comes near, which the smaller bound lets pass. So a flat area is never slow.
-void CutRow(const Neighbourhood &from, int count, const Weights &weights, std::uint8_t *out)
+// The outermost pair has a finer unit: over a plain of one grey level no product but the outermost of grey 239
+// comes near a whole number, and with that unit it passes. So a flat area is never slow.
+void CutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out)
 {
-    const auto w0 = hn::Set(floatTag, weights.rounded[0]);
-    const auto w1 = hn::Set(floatTag, weights.rounded[1]);
-    const auto w2 = hn::Set(floatTag, weights.rounded[2]);
-    const auto w3 = hn::Set(floatTag, weights.rounded[3]);
-    const auto innerSlack = hn::Set(floatTag, weights.innerSlack);
-    const auto outerSlack = hn::Set(floatTag, weights.outerSlack);
-    const auto innerBound = hn::Add(innerSlack, innerSlack);
-    const auto outerBound = hn::Add(outerSlack, outerSlack);
-    const auto pair = [&from](std::size_t k, int x) HWY_ATTR {
-        return hn::Add(hn::LoadU(floatTag, from.smooth[radius - k] + x),
-                       hn::LoadU(floatTag, from.smooth[radius + k] + x));
-    };
+    constexpr int exponentInSum = 3 * (floatExponent >> innerBits) + (floatExponent >> outerBits);
+    const auto w0 = hn::Set(floatTag, weights.scaled[0]);
+    const auto w1 = hn::Set(floatTag, weights.scaled[1]);
+    const auto w2 = hn::Set(floatTag, weights.scaled[2]);
+    const auto w3 = hn::Set(floatTag, weights.scaled[3]);
+    const auto innerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(weights.innerSlack));
+    const auto outerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(weights.outerSlack));
+    const auto innerBound = hn::Set(intTag, 2 * weights.innerSlack);
+    const auto outerBound = hn::Set(intTag, 2 * weights.outerSlack);
+    const auto [above3, above2, above1, centre, below1, below2, below3] = from.smooth;
     for (int x = 0; x < count - 2 * radius; x += laneCount()) {
-        const auto t0 = hn::LoadU(floatTag, from.smooth[radius] + x);
-        const auto t1 = pair(1, x);
-        const auto t2 = pair(2, x);
-        const auto t3 = pair(3, x);
-        const auto q0 = hn::MulAdd(t0, w0, innerSlack);
-        const auto q1 = hn::MulAdd(t1, w1, innerSlack);
-        const auto q2 = hn::MulAdd(t2, w2, innerSlack);
-        const auto q3 = hn::MulAdd(t3, w3, outerSlack);
-        const auto floor0 = hn::Floor(q0);
-        const auto floor1 = hn::Floor(q1);
-        const auto floor2 = hn::Floor(q2);
-        const auto floor3 = hn::Floor(q3);
-        const auto value = hn::Add(hn::Add(floor0, floor1), hn::Add(floor2, floor3));
-        hn::StoreU(hn::DemoteTo(narrowByteTag, hn::ConvertTo(intTag, value)), narrowByteTag,
-                   out + x + radius);
+        const auto t0 = hn::LoadU(floatTag, centre + x);
+        const auto t1 = hn::Add(hn::LoadU(floatTag, above1 + x), hn::LoadU(floatTag, below1 + x));
+        const auto t2 = hn::Add(hn::LoadU(floatTag, above2 + x), hn::LoadU(floatTag, below2 + x));
+        const auto t3 = hn::Add(hn::LoadU(floatTag, above3 + x), hn::LoadU(floatTag, below3 + x));
+        const auto q0 = hn::BitCast(intTag, hn::MulAdd(t0, w0, innerOffset));
+        const auto q1 = hn::BitCast(intTag, hn::MulAdd(t1, w1, innerOffset));
+        const auto q2 = hn::BitCast(intTag, hn::MulAdd(t2, w2, innerOffset));
+        const auto q3 = hn::BitCast(intTag, hn::MulAdd(t3, w3, outerOffset));
+        const auto floors = hn::Add(SumOfFloors(q0, q1, q2), hn::ShiftRight<outerBits>(q3));
+        const auto value = hn::Sub(floors, hn::Set(intTag, exponentInSum));
+        hn::StoreU(hn::DemoteTo(shortTag, value), shortTag, out + x + radius);
 
-        const auto fraction = hn::Min(hn::Min(hn::Sub(q0, floor0), hn::Sub(q1, floor1)), hn::Sub(q2, floor2));
-        const auto near = hn::Or(hn::Lt(fraction, innerBound), hn::Lt(hn::Sub(q3, floor3), outerBound));
-        if (HWY_UNLIKELY(!hn::AllFalse(floatTag, near)))
-            RedoInDoubles(near, hn::Add(hn::Add(t0, t1), hn::Add(t2, t3)), from, x + radius, count - radius,
-                          weights, out);
+        const auto outerFraction = hn::And(q3, hn::Set(intTag, (1 << outerBits) - 1));
+        const auto near = hn::Or(hn::Lt(SmallestFraction(q0, q1, q2), innerBound), hn::Lt(outerFraction, outerBound));
+        if (HWY_UNLIKELY(!hn::AllFalse(intTag, near)))
+            RedoInDoubles(near, hn::Add(hn::Add(t0, t1), hn::Add(t2, t3)), from, x + radius, count - radius, weights,
+                          out);
     }
 }
 
@@ -191,22 +233,17 @@ struct Gradient
     ShortVector x, y;
 };
 
-ShortVector LoadShorts(const std::uint8_t *from)
-{
-    return hn::PromoteTo(shortTag, hn::LoadU(narrowByteTag, from));
-}
-
 /// Sobel derivatives at x + 1.
 Gradient GradientAt(const RowTriple &rows, int x)
 {
-    const auto upperLeft = LoadShorts(rows.above + x);
-    const auto upper = LoadShorts(rows.above + x + 1);
-    const auto upperRight = LoadShorts(rows.above + x + 2);
-    const auto left = LoadShorts(rows.mid + x);
-    const auto right = LoadShorts(rows.mid + x + 2);
-    const auto lowerLeft = LoadShorts(rows.below + x);
-    const auto lower = LoadShorts(rows.below + x + 1);
-    const auto lowerRight = LoadShorts(rows.below + x + 2);
+    const auto upperLeft = LoadLevels(rows.above + x);
+    const auto upper = LoadLevels(rows.above + x + 1);
+    const auto upperRight = LoadLevels(rows.above + x + 2);
+    const auto left = LoadLevels(rows.mid + x);
+    const auto right = LoadLevels(rows.mid + x + 2);
+    const auto lowerLeft = LoadLevels(rows.below + x);
+    const auto lower = LoadLevels(rows.below + x + 1);
+    const auto lowerRight = LoadLevels(rows.below + x + 2);
     const auto falling = hn::Sub(upperLeft, lowerRight);
     const auto rising = hn::Sub(upperRight, lowerLeft);
     const auto across = hn::Sub(right, left);
@@ -215,20 +252,17 @@ Gradient GradientAt(const RowTriple &rows, int x)
             hn::Add(hn::Add(rising, falling), hn::Add(down, down))};
 }
 
-/// The squares stay below 2^24, where floats hold every whole number; the root of such a number, rounded to a
-/// float, is cut to the same whole number as the exact one.
-IntVector LowByteOfLength(IntVector x, IntVector y)
-{
-    const auto floatX = hn::ConvertTo(floatTag, x);
-    const auto floatY = hn::ConvertTo(floatTag, y);
-    const auto length = hn::Sqrt(hn::MulAdd(floatX, floatX, hn::Mul(floatY, floatY)));
-    return hn::And(hn::ConvertTo(intTag, length), hn::Set(intTag, 0xFF));
-}
-
+/// Low byte of the length of a gradient, cut to a whole number. The sum of the squares stays below 2^24, where floats
+/// hold every whole number. The root is at most 1442; with 2048 added, its whole part ends twelve bits above the
+/// last of the float. No root below a whole number is so near to it that the roundings could lift it over.
 IntVector MagnitudeAt(const RowTriple &rows, int x)
 {
     const Gradient gradient = GradientAt(rows, x);
-    return LowByteOfLength(hn::PromoteTo(intTag, gradient.x), hn::PromoteTo(intTag, gradient.y));
+    const auto along = ToFloats(gradient.x);
+    const auto down = ToFloats(gradient.y);
+    const auto square = hn::MulAdd(along, along, hn::Mul(down, down));
+    const auto bits = hn::BitCast(intTag, hn::Add(hn::Sqrt(square), hn::Set(floatTag, 2048.0F)));
+    return hn::And(hn::ShiftRight<12>(bits), hn::Set(intTag, 0xFF));
 }
 
 void GradientRow(const std::array<RowTriple, 3> &colours, int count, std::uint8_t *out)
@@ -250,7 +284,7 @@ void StatisticsOf(const std::uint8_t *in, int count, RowStatistics &statistics)
     auto largest = hn::Zero(intTag);
     int x = 0;
     for (; x + laneCount() <= count; x += laneCount()) {
-        const auto values = LoadInts(in + x);
+        const auto values = hn::PromoteTo(intTag, hn::LoadU(narrowByteTag, in + x));
         sums = hn::Add(sums, values);
         largest = hn::Max(largest, values);
     }
@@ -294,31 +328,41 @@ HWY_EXPORT(GradientRow);
 HWY_EXPORT(StatisticsOf);
 HWY_EXPORT(LiftAbove);
 
+namespace {
+
+/// In units of 2^-bits.
+int slackFor(double largestWeight, int bits)
+{
+    constexpr double roundings = 8.1 * std::numeric_limits<float>::epsilon() / 2;
+    const double largestProduct = 2 * 255 * largestWeight * (1 << bits);
+    return static_cast<int>(roundings * largestProduct + 0.5) + 1;
+}
+
+} // namespace
+
 Weights::Weights(double sigma)
 {
     const std::vector<double> half = gaussianHalfKernel(rows, sigma);
-    constexpr double unit = std::numeric_limits<float>::epsilon() / 2;
-    constexpr double largestPair = 2 * 255;
     for (std::size_t k = 0; k < half.size(); ++k) {
         exact[k] = half[k];
         rounded[k] = static_cast<float>(half[k]);
+        scaled[k] = rounded[k] * (1 << (k < radius ? innerBits : outerBits));
     }
-    const double largestInner = std::max({half[0], half[1], half[2]});
-    innerSlack = static_cast<float>(10 * unit * largestPair * largestInner);
-    outerSlack = static_cast<float>(10 * unit * largestPair * half[3]);
+    innerSlack = slackFor(std::max({half[0], half[1], half[2]}), innerBits);
+    outerSlack = slackFor(half[3], outerBits);
 }
 
-void splitRow(const std::uint8_t *pixels, int count, const std::array<std::uint8_t *, 3> &colours)
+void splitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
 {
     HWY_DYNAMIC_DISPATCH(SplitRow)(pixels, count, colours);
 }
 
-void smoothRow(const std::uint8_t *in, int count, const Weights &weights, float *out)
+void smoothRow(const std::int16_t *in, int count, const Weights &weights, float *out)
 {
     HWY_DYNAMIC_DISPATCH(SmoothRow)(in, count, weights, out);
 }
 
-void cutRow(const Neighbourhood &from, int count, const Weights &weights, std::uint8_t *out)
+void cutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out)
 {
     HWY_DYNAMIC_DISPATCH(CutRow)(from, count, weights, out);
 }

@@ -29,10 +29,10 @@ constexpr int reach = radius + 1;
 /// The rows of one colour that the smoothing and the derivative reach.
 struct Channel
 {
-    explicit Channel(int width) : bytes(width, rows), smooth(width, rows), blurred(width, 3) {}
-    RowRing<std::uint8_t> bytes;
+    explicit Channel(int width) : levels(width, rows), smooth(width, rows), blurred(width, 3) {}
+    RowRing<std::int16_t> levels;
     RowRing<float> smooth;
-    RowRing<std::uint8_t> blurred;
+    RowRing<std::int16_t> blurred;
 };
 
 /// Gradients of a column of the picture, row by row from the top. Only as many rows are kept as the filters
@@ -65,7 +65,7 @@ public:
         }
         std::array<RowTriple, 3> triples;
         for (std::size_t i = 0; i < triples.size(); ++i) {
-            RowRing<std::uint8_t> &blurred = m_channels[i].blurred;
+            RowRing<std::int16_t> &blurred = m_channels[i].blurred;
             triples[i] = {blurred.row(y - 1), blurred.row(y), blurred.row(y + 1)};
         }
         gradientRow(triples, m_width, m_averages.data());
@@ -76,29 +76,28 @@ private:
     void take(int y)
     {
         splitRow(m_picture.constScanLine(y) + std::ptrdiff_t{4} * m_left, m_width,
-                 {m_channels[0].bytes.row(y), m_channels[1].bytes.row(y), m_channels[2].bytes.row(y)});
+                 {m_channels[0].levels.row(y), m_channels[1].levels.row(y), m_channels[2].levels.row(y)});
         for (Channel &channel : m_channels)
-            smoothRow(channel.bytes.row(y), m_width, m_weights, channel.smooth.row(y));
+            smoothRow(channel.levels.row(y), m_width, m_weights, channel.smooth.row(y));
     }
 
     void blur(Channel &channel, int y)
     {
-        const std::uint8_t *unchanged = channel.bytes.row(y);
-        std::uint8_t *blurred = channel.blurred.row(y);
-        const auto width = static_cast<std::size_t>(m_width);
+        const std::int16_t *unchanged = channel.levels.row(y);
+        std::int16_t *blurred = channel.blurred.row(y);
         const bool inner = y >= radius && y < m_height - radius && m_width > 2 * radius;
         if (!inner) {
-            std::memcpy(blurred, unchanged, width);
+            std::copy_n(unchanged, m_width, blurred);
             return;
         }
         Neighbourhood from;
         for (int i = 0; i < rows; ++i) {
-            from.bytes[static_cast<std::size_t>(i)] = channel.bytes.row(y - radius + i);
+            from.levels[static_cast<std::size_t>(i)] = channel.levels.row(y - radius + i);
             from.smooth[static_cast<std::size_t>(i)] = channel.smooth.row(y - radius + i);
         }
         cutRow(from, m_width, m_weights, blurred);
-        std::memcpy(blurred, unchanged, radius); // the border band stays
-        std::memcpy(blurred + width - radius, unchanged + width - radius, radius);
+        std::copy_n(unchanged, radius, blurred); // the border band stays
+        std::copy_n(unchanged + m_width - radius, radius, blurred + m_width - radius);
     }
 
     const QImage &m_picture;
