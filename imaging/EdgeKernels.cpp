@@ -25,8 +25,11 @@ namespace {
 // A float of this size has the unit as its last bit.
 constexpr float floatOffset = 1 << 23;
 constexpr int floatExponent = 0x4B000000; // its bits
-constexpr int innerBits = 16;             // of the fraction of a product of the vertical pass, up to the second pair
-constexpr int outerBits = 17;             // of the outermost pair
+constexpr int innerBits = 16; // of the fraction of a product of the vertical pass, up to the second pair
+constexpr int outerBits = 17; // of the outermost pair
+
+constexpr int innerFraction = (1 << innerBits) - 1;
+constexpr int outerFraction = (1 << outerBits) - 1;
 
 /// Smoothed value of a column, as the plain filter forms it: centre first, then the pairs outward.
 inline double smoothInDoubles(const std::int16_t *centre, const Weights &weights)
@@ -99,12 +102,12 @@ void SplitRow(const std::uint8_t *pixels, int count, const std::array<std::int16
             colours[colour][x] = pixels[std::ptrdiff_t{x} * 4 + static_cast<std::ptrdiff_t>(colour)];
 }
 
-ShortVector LoadLevels(const std::int16_t *from)
+HWY_INLINE ShortVector LoadLevels(const std::int16_t *from)
 {
     return hn::LoadU(shortTag, from);
 }
 
-FloatVector ToFloats(ShortVector values)
+HWY_INLINE FloatVector ToFloats(ShortVector values)
 {
     return hn::ConvertTo(floatTag, hn::PromoteTo(intTag, values));
 }
@@ -128,11 +131,62 @@ void SmoothRow(const std::int16_t *in, int count, const Weights &weights, float 
     }
 }
 
-/// The pixels that floats can't decide: all lanes of `near` but those over nothing but zeros.
-HWY_NOINLINE void RedoInDoubles(IntMask near, FloatVector total, const Neighbourhood &from, int column,
-                                int end, const Weights &weights, std::int16_t *out)
+// A product with 2^23 added has its floor in the upper half of the float's bits, under the exponent, and its
+// fraction in the lower half. Added and compared as halves, neither disturbs the other.
+#if HWY_TARGET == HWY_SCALAR
+
+HWY_INLINE IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
 {
-    near = hn::AndNot(hn::RebindMask(intTag, hn::Eq(total, hn::Zero(floatTag))), near);
+    return hn::Add(hn::Add(hn::ShiftRight<innerBits>(a), hn::ShiftRight<innerBits>(b)),
+                   hn::ShiftRight<innerBits>(c));
+}
+
+HWY_INLINE IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
+{
+    const auto fraction = hn::Set(intTag, innerFraction);
+    return hn::Min(hn::Min(hn::And(a, fraction), hn::And(b, fraction)), hn::And(c, fraction));
+}
+
+#else
+
+constexpr hn::Repartition<std::uint16_t, decltype(intTag)> halvesTag;
+constexpr hn::Rebind<std::uint32_t, decltype(intTag)> unsignedTag;
+
+HWY_INLINE IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
+{
+    const auto sum =
+        hn::Add(hn::Add(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
+    return hn::BitCast(intTag, hn::ShiftRight<innerBits>(hn::BitCast(unsignedTag, sum)));
+}
+
+HWY_INLINE IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
+{
+    const auto smallest =
+        hn::Min(hn::Min(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
+    return hn::And(hn::BitCast(intTag, smallest), hn::Set(intTag, innerFraction));
+}
+
+#endif
+
+/// Where the product counted in `q` lies too near a whole number for floats to decide. A product of nothing
+/// but zeros, of which `nothing` is left, is exact.
+HWY_INLINE IntMask NearWhole(IntVector q, int fractionMask, int bound, int nothing)
+{
+    const auto fraction = hn::And(q, hn::Set(intTag, fractionMask));
+    return hn::AndNot(hn::Eq(q, hn::Set(intTag, nothing)), hn::Lt(fraction, hn::Set(intTag, bound)));
+}
+
+/// Redoes the pixels from `column` on that floats can't decide.
+HWY_NOINLINE void RedoInDoubles(IntVector q0, IntVector q1, IntVector q2, IntVector q3,
+                                const Neighbourhood &from, int column, int end, const Weights &weights,
+                                std::int16_t *out)
+{
+    const auto nearInner = [&weights](IntVector q) HWY_ATTR {
+        return NearWhole(q, innerFraction, 2 * weights.innerSlack, floatExponent + weights.innerSlack);
+    };
+    const auto near =
+        hn::Or(hn::Or(hn::Or(nearInner(q0), nearInner(q1)), nearInner(q2)),
+               NearWhole(q3, outerFraction, 2 * weights.outerSlack, floatExponent + weights.outerSlack));
     if (hn::AllFalse(intTag, near))
         return;
     std::uint8_t bits[8] = {};
@@ -142,41 +196,6 @@ HWY_NOINLINE void RedoInDoubles(IntMask near, FloatVector total, const Neighbour
             out[column + i] = blurInDoubles(from, column + i, weights);
 }
 
-// A product with 2^23 added has its floor in the upper half of the float's bits, under the exponent, and its fraction
-// in the lower half. Added and compared as halves, neither disturbs the other.
-#if HWY_TARGET == HWY_SCALAR
-
-IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
-{
-    return hn::Add(hn::Add(hn::ShiftRight<innerBits>(a), hn::ShiftRight<innerBits>(b)), hn::ShiftRight<innerBits>(c));
-}
-
-IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
-{
-    const auto fraction = hn::Set(intTag, (1 << innerBits) - 1);
-    return hn::Min(hn::Min(hn::And(a, fraction), hn::And(b, fraction)), hn::And(c, fraction));
-}
-
-#else
-
-constexpr hn::Repartition<std::uint16_t, decltype(intTag)> halvesTag;
-constexpr hn::Rebind<std::uint32_t, decltype(intTag)> unsignedTag;
-
-IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
-{
-    const auto sum = hn::Add(hn::Add(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
-    return hn::BitCast(intTag, hn::ShiftRight<innerBits>(hn::BitCast(unsignedTag, sum)));
-}
-
-IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
-{
-    const auto smallest =
-        hn::Min(hn::Min(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
-    return hn::And(hn::BitCast(intTag, smallest), hn::Set(intTag, (1 << innerBits) - 1));
-}
-
-#endif
-
 // Why floats give the bytes of the doubles. The filter cuts after every pair of taps: with the products
 // P_k = w_k · (t(y - k) + t(y + k)), all of them at least 0, the value is trunc(trunc(trunc(P_0) + P_1) +
 // ...), which is the sum of the floors of the four products, as each value before a cut is a whole number
@@ -184,17 +203,17 @@ IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
 // wherever no product is within 1e-12 of a whole number, and where all the terms are 0, and with them every
 // product.
 //
-// In floats (u = 2^-24 the unit of rounding), a product has gone through eight roundings: of the weight, of the
-// first product, three additions, of the pair, of the second weight and of the second product; fewer where the
-// machine fuses a multiplication with an addition. All terms are positive, so that it is off by less than 8.1 u
-// times the largest product. Adding 2^23 then rounds it to a whole number of units of 2^-16 (2^-17 for the
-// outermost pair), which may cost half a unit more. `slack` is the next whole number above that bound.
-// The number q_k made of P_k + slack therefore lies above P_k, and by less than 2 slack: if its fraction is not
-// below 2 slack, no whole number lies between P_k and q_k, none lies within 1e-6 of P_k, and the floors are the
-// same. All others, four in ten thousand of a photograph, are redone in doubles.
+// In floats (u = 2^-24 the unit of rounding), a product has gone through eight roundings: of the weight, of
+// the first product, three additions, of the pair, of the second weight and of the second product; fewer
+// where the machine fuses a multiplication with an addition. All terms are positive, so that it is off by
+// less than 8.1 u times the largest product. Adding 2^23 then rounds it to a whole number of units of 2^-16
+// (2^-17 for the outermost pair), which may cost half a unit more. `slack` is the next whole number above
+// that bound. The number q_k made of P_k + slack therefore lies above P_k, and by less than 2 slack: if its
+// fraction is not below 2 slack, no whole number lies between P_k and q_k, none lies within 1e-6 of P_k, and
+// the floors are the same. All others, four in ten thousand of a photograph, are redone in doubles.
 //
-// The outermost pair has a finer unit: over a plain of one grey level no product but the outermost of grey 239
-// comes near a whole number, and with that unit it passes. So a flat area is never slow.
+// The outermost pair has a finer unit: over a plain of one grey level no product but the outermost of grey
+// 239 comes near a whole number, and with that unit it passes. So a flat area is never slow.
 void CutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out)
 {
     constexpr int exponentInSum = 3 * (floatExponent >> innerBits) + (floatExponent >> outerBits);
@@ -220,46 +239,39 @@ void CutRow(const Neighbourhood &from, int count, const Weights &weights, std::i
         const auto value = hn::Sub(floors, hn::Set(intTag, exponentInSum));
         hn::StoreU(hn::DemoteTo(shortTag, value), shortTag, out + x + radius);
 
-        const auto outerFraction = hn::And(q3, hn::Set(intTag, (1 << outerBits) - 1));
-        const auto near = hn::Or(hn::Lt(SmallestFraction(q0, q1, q2), innerBound), hn::Lt(outerFraction, outerBound));
+        const auto near = hn::Or(hn::Lt(SmallestFraction(q0, q1, q2), innerBound),
+                                 hn::Lt(hn::And(q3, hn::Set(intTag, outerFraction)), outerBound));
         if (HWY_UNLIKELY(!hn::AllFalse(intTag, near)))
-            RedoInDoubles(near, hn::Add(hn::Add(t0, t1), hn::Add(t2, t3)), from, x + radius, count - radius, weights,
-                          out);
+            RedoInDoubles(q0, q1, q2, q3, from, x + radius, count - radius, weights, out);
     }
 }
 
-struct Gradient
+/// Sobel derivative along x at x + 1.
+HWY_INLINE ShortVector GradientAlong(const RowTriple &rows, int x)
 {
-    ShortVector x, y;
-};
-
-/// Sobel derivatives at x + 1.
-Gradient GradientAt(const RowTriple &rows, int x)
-{
-    const auto upperLeft = LoadLevels(rows.above + x);
-    const auto upper = LoadLevels(rows.above + x + 1);
-    const auto upperRight = LoadLevels(rows.above + x + 2);
-    const auto left = LoadLevels(rows.mid + x);
-    const auto right = LoadLevels(rows.mid + x + 2);
-    const auto lowerLeft = LoadLevels(rows.below + x);
-    const auto lower = LoadLevels(rows.below + x + 1);
-    const auto lowerRight = LoadLevels(rows.below + x + 2);
-    const auto falling = hn::Sub(upperLeft, lowerRight);
-    const auto rising = hn::Sub(upperRight, lowerLeft);
-    const auto across = hn::Sub(right, left);
-    const auto down = hn::Sub(upper, lower);
-    return {hn::Add(hn::Sub(rising, falling), hn::Add(across, across)),
-            hn::Add(hn::Add(rising, falling), hn::Add(down, down))};
+    const auto upper = hn::Sub(LoadLevels(rows.above + x + 2), LoadLevels(rows.above + x));
+    const auto mid = hn::Sub(LoadLevels(rows.mid + x + 2), LoadLevels(rows.mid + x));
+    const auto lower = hn::Sub(LoadLevels(rows.below + x + 2), LoadLevels(rows.below + x));
+    return hn::Add(hn::Add(upper, lower), hn::Add(mid, mid));
 }
 
-/// Low byte of the length of a gradient, cut to a whole number. The sum of the squares stays below 2^24, where floats
-/// hold every whole number. The root is at most 1442; with 2048 added, its whole part ends twelve bits above the
-/// last of the float. No root below a whole number is so near to it that the roundings could lift it over.
-IntVector MagnitudeAt(const RowTriple &rows, int x)
+/// Sobel derivative along y at x + 1.
+HWY_INLINE ShortVector GradientDown(const RowTriple &rows, int x)
 {
-    const Gradient gradient = GradientAt(rows, x);
-    const auto along = ToFloats(gradient.x);
-    const auto down = ToFloats(gradient.y);
+    const auto left = hn::Sub(LoadLevels(rows.above + x), LoadLevels(rows.below + x));
+    const auto mid = hn::Sub(LoadLevels(rows.above + x + 1), LoadLevels(rows.below + x + 1));
+    const auto right = hn::Sub(LoadLevels(rows.above + x + 2), LoadLevels(rows.below + x + 2));
+    return hn::Add(hn::Add(left, right), hn::Add(mid, mid));
+}
+
+/// Low byte of the length of a gradient, cut to a whole number. The sum of the squares stays below 2^24,
+/// where floats hold every whole number. The root is at most 1442; with 2048 added, its whole part ends
+/// twelve bits above the last of the float. No root below a whole number is so near to it that the roundings
+/// could lift it over.
+HWY_INLINE IntVector MagnitudeAt(const RowTriple &rows, int x)
+{
+    const auto along = ToFloats(GradientAlong(rows, x));
+    const auto down = ToFloats(GradientDown(rows, x));
     const auto square = hn::MulAdd(along, along, hn::Mul(down, down));
     const auto bits = hn::BitCast(intTag, hn::Add(hn::Sqrt(square), hn::Set(floatTag, 2048.0F)));
     return hn::And(hn::ShiftRight<12>(bits), hn::Set(intTag, 0xFF));

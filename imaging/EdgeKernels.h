@@ -13,9 +13,10 @@
 /// time. They give the bytes of the plain filters (smoothRow(), cutAtEachTap(), sobelMagnitudeRow()) on every
 /// machine.
 ///
-/// Colours are kept in 16 bits: derivatives and sums of pairs need that much, and widening them again in every loop
-/// costs more than the memory. A row handed to them has `rowPadding` readable and writable elements after its last one: loops run on over
-/// the end of the row in whole vectors, and what they leave there is of no meaning.
+/// Colours are kept in 16 bits: derivatives and sums of pairs need that much, and widening them again in
+/// every loop costs more than the memory. A row handed to them has `rowPadding` readable and writable
+/// elements after its last one: loops run on over the end of the row in whole vectors, and what they leave
+/// there is of no meaning.
 namespace edgekernels {
 
 constexpr int radius = 3;

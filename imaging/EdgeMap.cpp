@@ -21,11 +21,6 @@ namespace {
 
 constexpr double sigma = 1.4;
 
-/// The picture is worked off in columns of this width, so that the rows in work stay in the innermost caches.
-constexpr int stripWidth = 1024;
-/// How far from a pixel its edge value looks: the smoothing's reach and one more for the derivative.
-constexpr int reach = radius + 1;
-
 /// The rows of one colour that the smoothing and the derivative reach.
 struct Channel
 {
@@ -35,15 +30,15 @@ struct Channel
     RowRing<std::int16_t> blurred;
 };
 
-/// Gradients of a column of the picture, row by row from the top. Only as many rows are kept as the filters
-/// reach, so that no plane of the picture's size is ever made.
+/// Gradients of the picture, row by row from the top. Only as many rows are kept as the filters reach, so
+/// that no plane of the picture's size is ever made. (Narrower strips, whose rows would fit into the
+/// innermost cache, were slower than whole rows.)
 class EdgeStrip
 {
 public:
-    EdgeStrip(const QImage &picture, int left, int right)
+    explicit EdgeStrip(const QImage &picture)
         : m_picture(picture),
-          m_left(left),
-          m_width(right - left),
+          m_width(picture.width()),
           m_height(picture.height()),
           m_weights(sigma),
           m_channels{Channel(m_width + rowPadding), Channel(m_width + rowPadding),
@@ -75,7 +70,7 @@ public:
 private:
     void take(int y)
     {
-        splitRow(m_picture.constScanLine(y) + std::ptrdiff_t{4} * m_left, m_width,
+        splitRow(m_picture.constScanLine(y), m_width,
                  {m_channels[0].levels.row(y), m_channels[1].levels.row(y), m_channels[2].levels.row(y)});
         for (Channel &channel : m_channels)
             smoothRow(channel.levels.row(y), m_width, m_weights, channel.smooth.row(y));
@@ -101,7 +96,6 @@ private:
     }
 
     const QImage &m_picture;
-    int m_left;
     int m_width;
     int m_height;
     Weights m_weights;
@@ -111,38 +105,19 @@ private:
     int m_nextBlurred = 0;
 };
 
-/// Fills the columns `left` .. `right` - 1. The strip sees a little more to both sides, and what its own
-/// border band spoils there is not used.
-RowStatistics fillStrip(const QImage &picture, int left, int right, std::uint8_t *edges)
+RowStatistics averageGradients(const QImage &picture, std::uint8_t *edges)
 {
     const int width = picture.width();
-    const int seenLeft = std::max(left - reach, 0);
-    const int seenRight = std::min(right + reach, width);
-    const auto count = static_cast<std::size_t>(right - left);
     RowStatistics all;
-    EdgeStrip strip(picture, seenLeft, seenRight);
+    EdgeStrip strip(picture);
     for (int y = 0; y < picture.height(); ++y) {
-        std::uint8_t *out = edges + static_cast<std::ptrdiff_t>(y) * width + left;
+        std::uint8_t *out = edges + static_cast<std::ptrdiff_t>(y) * width;
         if (y == 0 || y == picture.height() - 1) {
-            std::memset(out, 0, count);
+            std::memset(out, 0, static_cast<std::size_t>(width));
             continue;
         }
-        std::memcpy(out, strip.row(y) + left - seenLeft, count);
-        all.add(statisticsOf(out, right - left));
-    }
-    return all;
-}
-
-/// Averaged gradients of the whole picture.
-RowStatistics fillGradients(const QImage &picture, std::uint8_t *edges)
-{
-    RowStatistics all;
-    for (int left = 0; left < picture.width();) {
-        // What would be left over as a sliver goes with the last strip.
-        const bool last = picture.width() - left <= stripWidth + reach;
-        const int right = last ? picture.width() : left + stripWidth;
-        all.add(fillStrip(picture, left, right, edges));
-        left = right;
+        std::memcpy(out, strip.row(y), static_cast<std::size_t>(width));
+        all.add(statisticsOf(out, width));
     }
     return all;
 }
@@ -155,7 +130,7 @@ void computeEdgeMap(const QImage &picture, std::uint8_t *edges)
         static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
     if (pixels == 0)
         return;
-    const RowStatistics all = fillGradients(picture, edges);
+    const RowStatistics all = averageGradients(picture, edges);
     const auto mean = static_cast<std::uint8_t>(all.sum / pixels);
     liftAbove(edges, pixels, mean, static_cast<std::uint8_t>(255 - all.largest));
 }
