@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
+#include "imaging/BlurKernels.h"
 #include "imaging/EdgeMap.h"
+#include "imaging/FourChannelBlur.h"
 #include "imaging/GaussianWeights.h"
 #include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/GaussianBlurReference.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/TestMain.h"
 
@@ -31,6 +34,13 @@ private slots:
     void edgeMapOfWidePictures();
     void edgeMapOfDeepBlack();
     void floatRootsOfSquares();
+
+    void blur_data();
+    void blur();
+    void blurOfAwkwardSizes();
+    void blurOfEveryGrey();
+    void blurWithOddKernels();
+    void wholeFactorsOfUsualKernels();
 };
 
 namespace {
@@ -62,6 +72,24 @@ void compareEdgeMap(const QImage &picture)
                                      .arg(target).arg(i).arg(picture.width()).arg(picture.height())
                                      .arg(edges[i]).arg(wanted)));
         }
+    });
+}
+
+void compareBlur(const QImage &picture, int size, double sigma)
+{
+    QImage expected = randomArgbImage(picture.width(), picture.height(), 77).convertToFormat(picture.format());
+    const QImage before = expected.copy();
+    reference::fourChannelBlur(picture, expected, size, sigma);
+    onEveryTarget([&](const char *target) {
+        QImage blurred = before.copy();
+        blurFourChannels(picture, blurred, size, sigma, {});
+        for (int y = 0; y < blurred.height(); ++y)
+            for (int i = 0; i < 4 * blurred.width(); ++i)
+                if (blurred.constScanLine(y)[i] != expected.constScanLine(y)[i])
+                    QFAIL(qPrintable(QStringLiteral("%1, size %2, sigma %3: byte %4 of row %5 of %6 x %7 is %8, not %9")
+                                         .arg(target).arg(size).arg(sigma).arg(i).arg(y).arg(blurred.width())
+                                         .arg(blurred.height()).arg(blurred.constScanLine(y)[i])
+                                         .arg(expected.constScanLine(y)[i])));
     });
 }
 
@@ -147,6 +175,80 @@ void TestSimdKernels::floatRootsOfSquares()
     for (int n = 0; n <= 2 * 1020 * 1020; ++n)
         if (static_cast<int>(std::sqrt(static_cast<float>(n))) != static_cast<int>(std::sqrt(static_cast<double>(n))))
             QFAIL(qPrintable(QString::number(n)));
+}
+
+void TestSimdKernels::blur_data()
+{
+    QTest::addColumn<QImage>("picture");
+    QTest::newRow("mask") << blobMaskImage(400, 300, 1);
+    QTest::newRow("mask in RGB32") << blobMaskImage(333, 200, 2).convertToFormat(QImage::Format_RGB32);
+    QTest::newRow("random") << randomArgbImage(200, 90, 3);
+    QTest::newRow("photo-like") << blobImage(320, 200, 4);
+    QTest::newRow("large tiles") << plateauImage(520, 260, 100, 5, 5);
+    QTest::newRow("tiles of a block") << plateauImage(520, 160, 16, 3, 6);
+    QTest::newRow("step off the blocks") << stepImage(200, 60, 101, qRgb(0, 0, 0), qRgb(255, 255, 255));
+    QTest::newRow("flat") << constantImage(150, 70, qRgb(255, 255, 255));
+    QTest::newRow("padded") << paddedImage(blobMaskImage(210, 90, 7), 3, 8);
+}
+
+void TestSimdKernels::blur()
+{
+    QFETCH(QImage, picture);
+    for (const int size : {-1, 0, 1, 2, 3, 5, 8, 9, 15, 32, 33, 34, 41}) {
+        compareBlur(picture, size, std::max(size, 1) / 5.0);
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+void TestSimdKernels::blurOfAwkwardSizes()
+{
+    QList<QSize> sizes = awkwardSizes();
+    for (int width = 1; width < 100; ++width)
+        sizes.append(QSize(width, 7 + width % 4));
+    for (const QSize &size : sizes) {
+        if (size.isEmpty())
+            continue;
+        compareBlur(randomArgbImage(size.width(), size.height(), 12), 5, 1.0);
+        compareBlur(constantImage(size.width(), size.height(), 0xFF101112U), 5, 1.0);
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+// One level in a frame of another, wide enough for whole blocks to be flat.
+void TestSimdKernels::blurOfEveryGrey()
+{
+    for (int grey = 0; grey < 256; ++grey) {
+        QImage picture = constantImage(180, 40, qRgb(255 - grey, grey, 17));
+        for (int y = 15; y < 25; ++y)
+            for (int x = 85; x < 97; ++x)
+                picture.setPixel(x, y, qRgb(grey, grey, grey));
+        compareBlur(picture, 5, 1.0);
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+// Kernels that no setting of the program makes, among them those that change nothing.
+void TestSimdKernels::blurWithOddKernels()
+{
+    const QImage mask = blobMaskImage(150, 70, 13);
+    const QImage random = randomArgbImage(90, 40, 14);
+    for (const double sigma : {0.0, -1.0, 1e-3, 0.1, 0.33, 0.5, 0.7, 1.3, 2.9, 50.0, 1e6, 1e200, std::nan("")})
+        for (const int size : {1, 3, 4, 7, 13}) {
+            compareBlur(mask, size, sigma);
+            compareBlur(random, size, sigma);
+            if (QTest::currentTestFailed())
+                return;
+        }
+}
+
+// The vertical pass is fast where its weights have whole factors: the usual kernels must.
+void TestSimdKernels::wholeFactorsOfUsualKernels()
+{
+    for (const int size : {3, 5, 7, 9, 11})
+        QVERIFY2(blurkernels::wholeFactors(gaussianHalfKernel(size, size / 5.0)), qPrintable(QString::number(size)));
 }
 
 ORNEVO_TEST_MAIN(TestSimdKernels)
