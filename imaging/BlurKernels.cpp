@@ -19,6 +19,7 @@ namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
+constexpr int blockPixels = 16;
 constexpr hn::CappedTag<std::uint32_t, blockPixels> pixelTag;
 constexpr hn::CappedTag<double, 8> doubleTag;
 constexpr hn::Rebind<std::int32_t, decltype(doubleTag)> intTag;
@@ -30,17 +31,38 @@ constexpr hn::Rebind<std::uint8_t, decltype(wordTag)> bytesTag;
 using IntVector = hn::VFromD<decltype(intTag)>;
 using WordVector = hn::VFromD<decltype(wordTag)>;
 
-void FindFlatBlocks(const std::uint32_t *pixels, std::span<Block> blocks)
+HWY_INLINE bool IsFlat(const std::uint32_t *pixels, std::uint32_t pixel)
 {
-    const std::size_t lanes = hn::Lanes(pixelTag);
-    for (Block &block : blocks) {
-        block.word = *pixels;
-        const auto wanted = hn::Set(pixelTag, block.word);
-        auto differences = hn::Zero(pixelTag);
-        for (std::size_t i = 0; i < blockPixels; i += lanes)
-            differences = hn::Or(differences, hn::Xor(wanted, hn::LoadU(pixelTag, pixels + i)));
-        block.flat = hn::AllTrue(pixelTag, hn::Eq(differences, hn::Zero(pixelTag)));
-        pixels += blockPixels;
+    const auto wanted = hn::Set(pixelTag, pixel);
+    auto differences = hn::Zero(pixelTag);
+    for (int i = 0; i < blockPixels; i += static_cast<int>(hn::Lanes(pixelTag)))
+        differences = hn::Or(differences, hn::Xor(wanted, hn::LoadU(pixelTag, pixels + i)));
+    return hn::AllTrue(pixelTag, hn::Eq(differences, hn::Zero(pixelTag)));
+}
+
+// Goes in blocks, one of which every run that is long enough must hold.
+void FindFlatRuns(const std::uint32_t *pixels, int width, int minimum, std::vector<FlatRun> &runs)
+{
+    runs.clear();
+    int end = 0; // of the run before
+    int x = 0;
+    while (x + blockPixels <= width) {
+        const std::uint32_t pixel = pixels[x];
+        if (!IsFlat(pixels + x, pixel)) {
+            x += blockPixels;
+            continue;
+        }
+        int from = x;
+        while (from > end && pixels[from - 1] == pixel)
+            --from;
+        x += blockPixels;
+        while (x + blockPixels <= width && IsFlat(pixels + x, pixel))
+            x += blockPixels;
+        while (x < width && pixels[x] == pixel)
+            ++x;
+        if (x - from >= minimum)
+            runs.push_back({from, x, pixel});
+        end = x;
     }
 }
 
@@ -123,7 +145,7 @@ HWY_AFTER_NAMESPACE();
 
 namespace blurkernels {
 
-HWY_EXPORT(FindFlatBlocks);
+HWY_EXPORT(FindFlatRuns);
 HWY_EXPORT(SmoothBytes);
 HWY_EXPORT(CombineBytes);
 
@@ -182,9 +204,9 @@ std::optional<std::vector<Factor>> wholeFactors(std::span<const double> half)
     return factors;
 }
 
-void findFlatBlocks(const std::uint32_t *pixels, std::span<Block> blocks)
+void findFlatRuns(const std::uint32_t *pixels, int width, int minimum, std::vector<FlatRun> &runs)
 {
-    HWY_DYNAMIC_DISPATCH(FindFlatBlocks)(pixels, blocks);
+    HWY_DYNAMIC_DISPATCH(FindFlatRuns)(pixels, width, minimum, runs);
 }
 
 void smoothBytes(const std::uint8_t *in, int from, int to, std::span<const double> half, std::uint8_t *out)

@@ -13,17 +13,16 @@
 /// needs padding, and none reads or writes past the ranges it is given.
 namespace blurkernels {
 
-constexpr int blockPixels = 16;
-
-/// A number of pixels that may all be the same.
-struct Block
+/// Pixels `from` .. `to` - 1 of a row, all of them `pixel`.
+struct FlatRun
 {
-    std::uint32_t word = 0; ///< the pixel
-    bool flat = false;      ///< whether all of them are that pixel
+    int from = 0;
+    int to = 0;
+    std::uint32_t pixel = 0;
 };
 
-/// Looks through `blocks.size()` blocks of blockPixels pixels.
-void findFlatBlocks(const std::uint32_t *pixels, std::span<Block> blocks);
+/// Lists, in order, the flat runs of at least `minimum` pixels, 32 or more, each as long as it can be.
+void findFlatRuns(const std::uint32_t *pixels, int width, int minimum, std::vector<FlatRun> &runs);
 
 /// Horizontal pass over the bytes `from` .. `to` - 1 of a row, whose neighbours are four bytes away each:
 /// summed in doubles, centre first, then the pairs outward, and cut once.

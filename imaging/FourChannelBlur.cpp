@@ -17,8 +17,7 @@
 #include <vector>
 
 using namespace rowfilters;
-using blurkernels::Block;
-using blurkernels::blockPixels;
+using blurkernels::FlatRun;
 
 namespace {
 
@@ -79,9 +78,30 @@ void combineInDoubles(const std::vector<const std::uint8_t *> &rows, int from, i
     }
 }
 
-/// Blurs row by row. A mask is flat nearly everywhere: the row is looked at in blocks, and a block that is
-/// one pixel with all around it, as far as the kernel reaches, takes the place of the sums with one known
-/// pixel.
+/// What two rows have in common: the parts of at least `minimum` pixels that are the same pixel in both.
+void intersect(const std::vector<FlatRun> &a, const std::vector<FlatRun> &b, int minimum,
+               std::vector<FlatRun> &common)
+{
+    common.clear();
+    for (std::size_t i = 0, j = 0; i < a.size() && j < b.size();) {
+        const FlatRun both{std::max(a[i].from, b[j].from), std::min(a[i].to, b[j].to), a[i].pixel};
+        if (a[i].pixel == b[j].pixel && both.to - both.from >= minimum)
+            common.push_back(both);
+        if (a[i].to < b[j].to)
+            ++i;
+        else
+            ++j;
+    }
+}
+
+void fillPixels(std::uint8_t *row, int from, int to, std::uint32_t pixel)
+{
+    std::fill(reinterpret_cast<std::uint32_t *>(row) + from, reinterpret_cast<std::uint32_t *>(row) + to,
+              pixel);
+}
+
+/// Blurs row by row. A mask is flat nearly everywhere: where a pixel is the same as all others that the
+/// kernel reaches, one known pixel takes the place of the sums.
 class BlurStrip
 {
 public:
@@ -92,9 +112,7 @@ public:
           m_flat(half),
           m_factors(blurkernels::wholeFactors(half)),
           m_smooth(width * channels, 2 * m_radius + 1),
-          m_filled(static_cast<int>(blockCount()), 2 * m_radius + 1),
-          m_blocks(static_cast<std::size_t>(width / blockPixels)),
-          m_runs(blockCount()),
+          m_flatParts(static_cast<std::size_t>(2 * m_radius + 1)),
           m_rows(static_cast<std::size_t>(2 * m_radius + 1))
     {
     }
@@ -102,126 +120,73 @@ public:
     /// Takes in row `y` of the picture.
     void take(const std::uint8_t *pixels, int y)
     {
-        blurkernels::findFlatBlocks(reinterpret_cast<const std::uint32_t *>(pixels), m_blocks);
-        std::uint8_t *smooth = m_smooth.row(y);
-        Filled *filled = m_filled.row(y);
-        std::size_t rough = 0; // first of the blocks not yet smoothed
-        for (std::size_t i = 0; i < blockCount(); ++i) {
-            if (!isFlatAround(i)) {
-                m_runs[i].rows = 0;
-                filled[i].known = false;
-                continue;
-            }
-            smoothBlocks(pixels, rough, i, smooth);
-            rough = i + 1;
-            extendRun(m_runs[i], m_blocks[i].word);
-            fillSmooth(filled[i], m_blocks[i].word, smooth + i * blockBytes);
+        std::vector<FlatRun> &parts = flatParts(y);
+        blurkernels::findFlatRuns(reinterpret_cast<const std::uint32_t *>(pixels), m_width,
+                                  minimumRun + 2 * m_radius, parts);
+        for (FlatRun &part : parts) { // within it the kernel meets nothing else
+            part.from += m_radius;
+            part.to -= m_radius;
         }
-        smoothBlocks(pixels, rough, blockCount(), smooth);
+        std::uint8_t *smooth = m_smooth.row(y);
+        forEachGap(parts, [&](int from, int to) {
+            blurkernels::smoothBytes(pixels, from * channels, to * channels, m_half, smooth);
+        });
     }
 
     /// Makes row `y` of the result, once the rows down to y + radius were taken in.
     void combine(int y, std::uint8_t *out)
     {
-        for (int k = -m_radius; k <= m_radius; ++k)
-            m_rows[static_cast<std::size_t>(k + m_radius)] = m_smooth.row(y + k);
-        std::size_t rough = 0;
-        for (std::size_t i = 0; i < blockCount(); ++i) {
-            if (m_runs[i].rows < 2 * m_radius + 1)
-                continue;
-            combineBlocks(rough, i, out);
-            rough = i + 1;
-            std::uint32_t pixels[blockPixels];
-            std::fill_n(pixels, blockPixels, m_runs[i].blurred);
-            std::memcpy(out + i * blockBytes, pixels, blockBytes);
+        m_common = flatParts(y - m_radius);
+        for (int i = y - m_radius + 1; i <= y + m_radius && !m_common.empty(); ++i) {
+            intersect(m_common, flatParts(i), minimumRun, m_narrowed);
+            m_common.swap(m_narrowed);
         }
-        combineBlocks(rough, blockCount(), out);
+        for (const FlatRun &part : m_common)
+            fillPixels(out, part.from, part.to, m_flat.blurred(part.pixel));
+        forEachGap(m_common, [&](int from, int to) { combineGap(y, from, to, out); });
     }
 
 private:
-    static constexpr std::size_t blockBytes = channels * blockPixels;
+    /// Shorter flat parts are not worth the trouble.
+    static constexpr int minimumRun = 32;
 
-    /// A block of rows that are all the same pixel, and so is what lies beside them.
-    struct Run
+    std::vector<FlatRun> &flatParts(int y)
     {
-        std::uint32_t word = 0;
-        std::uint32_t blurred = 0;
-        int rows = 0;
-    };
-    /// What a block of a smoothed row holds, if it is known to be all one pixel.
-    struct Filled
-    {
-        std::uint32_t word = 0;
-        bool known = false;
-    };
-
-    /// With the part of one at the right border.
-    std::size_t blockCount() const
-    {
-        return static_cast<std::size_t>((m_width + blockPixels - 1) / blockPixels);
+        return m_flatParts[static_cast<std::size_t>(y) % m_flatParts.size()];
     }
 
-    /// The blocks at the borders never are: part of them stays as it was.
-    bool isFlatAround(std::size_t i) const
+    /// Calls `work(from, to)` for what lies between the parts, without the border band.
+    template <typename Work> void forEachGap(const std::vector<FlatRun> &parts, Work work) const
     {
-        if (i == 0 || i + 1 >= m_blocks.size() || m_radius > blockPixels)
-            return false;
-        const Block &left = m_blocks[i - 1];
-        const Block &right = m_blocks[i + 1];
-        const Block &here = m_blocks[i];
-        return left.flat && here.flat && right.flat && left.word == here.word && right.word == here.word;
-    }
-
-    void extendRun(Run &run, std::uint32_t word)
-    {
-        if (run.rows > 0 && run.word == word) {
-            run.rows = std::min(run.rows + 1, 2 * m_radius + 1);
-            return;
+        int from = m_radius;
+        for (const FlatRun &part : parts) {
+            if (from < part.from)
+                work(from, part.from);
+            from = part.to;
         }
-        run = {word, m_flat.blurred(word), 1};
+        if (from < m_width - m_radius)
+            work(from, m_width - m_radius);
     }
 
-    // In the middle of a flat area the row that made room held the same.
-    void fillSmooth(Filled &filled, std::uint32_t word, std::uint8_t *to)
+    void combineGap(int y, int from, int to, std::uint8_t *out)
     {
-        if (filled.known && filled.word == word)
-            return;
-        filled = {word, true};
-        const std::uint32_t smooth = m_flat.smooth(word);
-        for (std::size_t i = 0; i < blockBytes; i += sizeof smooth)
-            std::memcpy(to + i, &smooth, sizeof smooth);
-    }
-
-    struct Bytes
-    {
-        int from;
-        int to;
-    };
-    /// The blocks `from` .. `to` - 1 without the border band.
-    Bytes innerBytes(std::size_t from, std::size_t to) const
-    {
-        const int left = std::max(static_cast<int>(from) * blockPixels, m_radius);
-        const int right = std::min(static_cast<int>(to) * blockPixels, m_width - m_radius);
-        return {left * channels, right * channels};
-    }
-
-    void smoothBlocks(const std::uint8_t *pixels, std::size_t from, std::size_t to,
-                      std::uint8_t *smooth) const
-    {
-        const Bytes bytes = innerBytes(from, to);
-        if (from < to && bytes.from < bytes.to)
-            blurkernels::smoothBytes(pixels, bytes.from, bytes.to, m_half, smooth);
-    }
-
-    void combineBlocks(std::size_t from, std::size_t to, std::uint8_t *out) const
-    {
-        const Bytes bytes = innerBytes(from, to);
-        if (from >= to || bytes.from >= bytes.to)
-            return;
+        for (int k = -m_radius; k <= m_radius; ++k) {
+            fillFlatParts(y + k, from, to);
+            m_rows[static_cast<std::size_t>(k + m_radius)] = m_smooth.row(y + k);
+        }
         if (m_factors)
-            blurkernels::combineBytes(m_rows, bytes.from, bytes.to, *m_factors, out);
+            blurkernels::combineBytes(m_rows, from * channels, to * channels, *m_factors, out);
         else
-            combineInDoubles(m_rows, bytes.from, bytes.to, m_half, out);
+            combineInDoubles(m_rows, from * channels, to * channels, m_half, out);
+    }
+
+    /// Smoothed rows have their flat parts left out; now they are needed.
+    void fillFlatParts(int y, int from, int to)
+    {
+        for (const FlatRun &part : flatParts(y))
+            if (part.from < to && part.to > from)
+                fillPixels(m_smooth.row(y), std::max(part.from, from), std::min(part.to, to),
+                           m_flat.smooth(part.pixel));
     }
 
     int m_width;
@@ -230,9 +195,9 @@ private:
     FlatPixels m_flat;
     std::optional<std::vector<blurkernels::Factor>> m_factors;
     RowRing<std::uint8_t> m_smooth;
-    RowRing<Filled> m_filled;
-    std::vector<Block> m_blocks;
-    std::vector<Run> m_runs;
+    std::vector<std::vector<FlatRun>> m_flatParts; ///< flat as far as the kernel reaches along the row
+    std::vector<FlatRun> m_common;
+    std::vector<FlatRun> m_narrowed;
     std::vector<const std::uint8_t *> m_rows;
 };
 
