@@ -3,7 +3,7 @@
 
 #include "imaging/EdgeMap.h"
 
-#include "imaging/GaussianWeights.h"
+#include "imaging/EdgeKernels.h"
 #include "imaging/RowFilters.h"
 
 #include <QImage>
@@ -12,72 +12,27 @@
 #include <array>
 #include <cstddef>
 #include <cstring>
+#include <vector>
 
-using namespace rowfilters;
+using namespace edgekernels;
+using rowfilters::RowRing;
 
 namespace {
 
-constexpr int taps = 7;
-constexpr int radius = taps / 2;
 constexpr double sigma = 1.4;
 
-/// One colour plane on its way to Sobel magnitudes. Rows go in from the top; only as many are kept as the
-/// smoothing and the derivative reach, so that no plane of the picture's size is ever made.
-class ChannelGradient
+/// The rows of one colour that the smoothing and the derivative reach.
+struct Channel
 {
-public:
-    ChannelGradient(int width, int height, int byteInPixel)
-        : m_width(width),
-          m_height(height),
-          m_byte(byteInPixel),
-          m_half(gaussianHalfKernel(taps, sigma)),
-          m_plane(width, taps),
-          m_smooth(width, taps),
-          m_blurred(width, 3)
-    {
-    }
-
-    /// Takes in row `y` of the picture.
-    void take(const std::uint8_t *pixels, int y)
-    {
-        std::uint8_t *plane = m_plane.row(y);
-        for (int x = 0; x < m_width; ++x)
-            plane[x] = pixels[4 * x + m_byte];
-        if (m_width > 2 * radius)
-            smoothRow(plane, m_width, m_half, m_smooth.row(y));
-    }
-
-    /// Makes the blurred row `y`, once the rows down to y + radius, as far as they exist, were taken in.
-    void blur(int y)
-    {
-        std::uint8_t *blurred = m_blurred.row(y);
-        std::memcpy(blurred, m_plane.row(y), static_cast<std::size_t>(m_width)); // the border band stays
-        if (y >= radius && y < m_height - radius)
-            cutAtEachTap(m_smooth, y, m_half, radius, m_width - radius, blurred);
-    }
-
-    /// Magnitudes of row `y`, once the blurred rows y - 1 to y + 1 were made.
-    void magnitudes(int y, std::uint8_t *out)
-    {
-        sobelMagnitudeRow(m_blurred.row(y - 1), m_blurred.row(y), m_blurred.row(y + 1), m_width, out);
-    }
-
-private:
-    int m_width;
-    int m_height;
-    int m_byte;
-    std::vector<double> m_half;
-    RowRing<std::uint8_t> m_plane;
-    RowRing<double> m_smooth;
-    RowRing<std::uint8_t> m_blurred;
+    explicit Channel(int width) : levels(width, rows), smooth(width, rows), blurred(width, 3) {}
+    RowRing<std::int16_t> levels;
+    RowRing<float> smooth;
+    RowRing<std::int16_t> blurred;
 };
 
-struct EdgeStatistics
-{
-    int largest = 0;
-    std::uint64_t sum = 0;
-};
-
+/// Gradients of the picture, row by row from the top. Only as many rows are kept as the filters reach, so
+/// that no plane of the picture's size is ever made. (Narrower strips, whose rows would fit into the
+/// innermost cache, were slower than whole rows.)
 class EdgeStrip
 {
 public:
@@ -85,70 +40,86 @@ public:
         : m_picture(picture),
           m_width(picture.width()),
           m_height(picture.height()),
-          m_channels{ChannelGradient(m_width, m_height, 0), ChannelGradient(m_width, m_height, 1),
-                     ChannelGradient(m_width, m_height, 2)},
-          m_magnitudes(3 * static_cast<std::size_t>(m_width))
+          m_weights(sigma),
+          m_channels{Channel(m_width + rowPadding), Channel(m_width + rowPadding),
+                     Channel(m_width + rowPadding)},
+          m_averages(static_cast<std::size_t>(m_width + rowPadding))
     {
     }
 
-    /// Averaged magnitudes of row `y`; rows are asked for from the top, each once.
-    void row(int y, std::uint8_t *out)
+    /// Averaged gradient magnitudes of row `y`, neither the first nor the last; each row is asked for once,
+    /// in order.
+    const std::uint8_t *row(int y)
     {
-        const bool frame = y == 0 || y == m_height - 1;
-        if (frame) {
-            std::memset(out, 0, static_cast<std::size_t>(m_width));
-            return;
+        for (; m_nextBlurred <= y + 1; ++m_nextBlurred) {
+            const int needed = std::min(m_nextBlurred + radius, m_height - 1);
+            for (; m_nextTaken <= needed; ++m_nextTaken)
+                take(m_nextTaken);
+            for (Channel &channel : m_channels)
+                blur(channel, m_nextBlurred);
         }
-        makeBlurredUpTo(y + 1);
-        std::uint8_t *magnitudes = m_magnitudes.data();
-        for (ChannelGradient &channel : m_channels) {
-            channel.magnitudes(y, magnitudes);
-            magnitudes += m_width;
+        std::array<RowTriple, 3> triples;
+        for (std::size_t i = 0; i < triples.size(); ++i) {
+            RowRing<std::int16_t> &blurred = m_channels[i].blurred;
+            triples[i] = {blurred.row(y - 1), blurred.row(y), blurred.row(y + 1)};
         }
-        const std::uint8_t *blue = m_magnitudes.data();
-        for (int x = 0; x < m_width; ++x)
-            out[x] = static_cast<std::uint8_t>((blue[x] + blue[x + m_width] + blue[x + 2 * m_width]) / 3);
+        gradientRow(triples, m_width, m_averages.data());
+        return m_averages.data();
     }
 
 private:
-    void makeBlurredUpTo(int last)
+    void take(int y)
     {
-        for (; m_nextBlurred <= last; ++m_nextBlurred) {
-            const int needed = std::min(m_nextBlurred + radius, m_height - 1);
-            for (; m_nextTaken <= needed; ++m_nextTaken)
-                for (ChannelGradient &channel : m_channels)
-                    channel.take(m_picture.constScanLine(m_nextTaken), m_nextTaken);
-            for (ChannelGradient &channel : m_channels)
-                channel.blur(m_nextBlurred);
+        splitRow(m_picture.constScanLine(y), m_width,
+                 {m_channels[0].levels.row(y), m_channels[1].levels.row(y), m_channels[2].levels.row(y)});
+        for (Channel &channel : m_channels)
+            smoothRow(channel.levels.row(y), m_width, m_weights, channel.smooth.row(y));
+    }
+
+    void blur(Channel &channel, int y)
+    {
+        const std::int16_t *unchanged = channel.levels.row(y);
+        std::int16_t *blurred = channel.blurred.row(y);
+        const bool inner = y >= radius && y < m_height - radius && m_width > 2 * radius;
+        if (!inner) {
+            std::copy_n(unchanged, m_width, blurred);
+            return;
         }
+        Neighbourhood from;
+        for (int i = 0; i < rows; ++i) {
+            from.levels[static_cast<std::size_t>(i)] = channel.levels.row(y - radius + i);
+            from.smooth[static_cast<std::size_t>(i)] = channel.smooth.row(y - radius + i);
+        }
+        cutRow(from, m_width, m_weights, blurred);
+        std::copy_n(unchanged, radius, blurred); // the border band stays
+        std::copy_n(unchanged + m_width - radius, radius, blurred + m_width - radius);
     }
 
     const QImage &m_picture;
     int m_width;
     int m_height;
-    std::array<ChannelGradient, 3> m_channels;
-    std::vector<std::uint8_t> m_magnitudes;
+    Weights m_weights;
+    std::array<Channel, 3> m_channels;
+    std::vector<std::uint8_t> m_averages;
     int m_nextTaken = 0;
     int m_nextBlurred = 0;
 };
 
-EdgeStatistics averageGradients(const QImage &picture, std::uint8_t *edges)
+RowStatistics averageGradients(const QImage &picture, std::uint8_t *edges)
 {
-    EdgeStatistics statistics;
+    const int width = picture.width();
+    RowStatistics all;
     EdgeStrip strip(picture);
     for (int y = 0; y < picture.height(); ++y) {
-        std::uint8_t *row = edges + static_cast<std::ptrdiff_t>(y) * picture.width();
-        strip.row(y, row);
-        std::uint32_t rowSum = 0;
-        int rowLargest = 0;
-        for (int x = 0; x < picture.width(); ++x) {
-            rowSum += row[x];
-            rowLargest = std::max<int>(rowLargest, row[x]);
+        std::uint8_t *out = edges + static_cast<std::ptrdiff_t>(y) * width;
+        if (y == 0 || y == picture.height() - 1) {
+            std::memset(out, 0, static_cast<std::size_t>(width));
+            continue;
         }
-        statistics.sum += rowSum;
-        statistics.largest = std::max(statistics.largest, rowLargest);
+        std::memcpy(out, strip.row(y), static_cast<std::size_t>(width));
+        all.add(statisticsOf(out, width));
     }
-    return statistics;
+    return all;
 }
 
 } // namespace
@@ -159,9 +130,7 @@ void computeEdgeMap(const QImage &picture, std::uint8_t *edges)
         static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
     if (pixels == 0)
         return;
-    const EdgeStatistics statistics = averageGradients(picture, edges);
-    const auto mean = static_cast<int>(statistics.sum / pixels);
-    const int lift = 255 - statistics.largest;
-    for (std::size_t i = 0; i < pixels; ++i)
-        edges[i] = edges[i] < mean ? std::uint8_t{0} : static_cast<std::uint8_t>(edges[i] + lift);
+    const RowStatistics all = averageGradients(picture, edges);
+    const auto mean = static_cast<std::uint8_t>(all.sum / pixels);
+    liftAbove(edges, pixels, mean, static_cast<std::uint8_t>(255 - all.largest));
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -17,20 +18,27 @@ namespace rowfilters {
 using HalfKernel = std::span<const double>;
 
 /// A few consecutive rows of a picture, addressed by their row number; an old row makes room for a new one.
+/// Each row begins on a cache line. There is room for a power of two of them: a division for every row asked
+/// for would show.
 template <typename T> class RowRing
 {
 public:
     RowRing(int width, int rows)
-        : m_width(static_cast<std::size_t>(width)),
-          m_rows(rows),
-          m_data(m_width * static_cast<std::size_t>(rows))
+        : m_stride((static_cast<std::size_t>(width) + line - 1) / line * line),
+          m_mask(std::bit_ceil(static_cast<std::size_t>(rows)) - 1),
+          m_data(m_stride * (m_mask + 1) + line)
     {
+        const std::size_t misplaced = reinterpret_cast<std::uintptr_t>(m_data.data()) / sizeof(T) % line;
+        m_first = (line - misplaced) % line;
     }
-    T *row(int y) { return m_data.data() + static_cast<std::size_t>(y % m_rows) * m_width; }
+    T *row(int y) { return m_data.data() + m_first + (static_cast<std::size_t>(y) & m_mask) * m_stride; }
 
 private:
-    std::size_t m_width;
-    int m_rows;
+    static constexpr std::size_t line = 64 / sizeof(T);
+
+    std::size_t m_stride;
+    std::size_t m_first = 0;
+    std::size_t m_mask;
     std::vector<T> m_data;
 };
 

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+// Everything between the flooding and the preview on the screen, together and step by step.
+
+#include "benchmarks/BenchmarkPictures.h"
+#include "imaging/BackgroundLayer.h"
+#include "imaging/CutOut.h"
+#include "imaging/FourChannelBlur.h"
+#include "imaging/IndexPicture.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+#include <QPixmap>
+
+#include <cmath>
+#include <map>
+
+namespace {
+
+constexpr QRgb black = 0xFF000000U;
+constexpr QRgb white = 0xFFFFFFFFU;
+
+/// What the steps are done on: a photo and the indices of a large object with a rough outline, row by row.
+struct Subject
+{
+    explicit Subject(int megapixels)
+        : photo(QPixmap::fromImage(benchmarkpictures::photoMosaic(megapixels))),
+          board(16, 16, QImage::Format_RGB32)
+    {
+        board.fill(Qt::lightGray);
+        const double scale = std::min(photo.width(), photo.height());
+        for (int y = 0; y < photo.height(); ++y)
+            for (int x = 0; x < photo.width(); ++x) {
+                const double dx = (x - photo.width() / 2) / scale;
+                const double dy = (y - photo.height() / 2) / scale;
+                const double angle = std::atan2(dy, dx);
+                const double outline = 0.33 + 0.05 * std::sin(7 * angle) + 0.01 * std::sin(61 * angle);
+                if (dx * dx + dy * dy < outline * outline)
+                    indices.append(y * photo.width() + x);
+            }
+    }
+
+    QPixmap photo;
+    QImage board;
+    QList<int> indices;
+};
+
+const Subject &subjectOf(const benchmark::State &state)
+{
+    static std::map<std::int64_t, Subject> subjects;
+    return subjects.try_emplace(state.range(0), static_cast<int>(state.range(0))).first->second;
+}
+
+void perPixel(benchmark::State &state, const Subject &subject)
+{
+    const double pixels = static_cast<double>(subject.photo.width()) * subject.photo.height();
+    state.counters["a pixel"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate |
+                                                               benchmark::Counter::kInvert);
+}
+
+void wholePreview(benchmark::State &state)
+{
+    const Subject &subject = subjectOf(state);
+    const auto colour = static_cast<QRgb>(state.range(1));
+    for (auto _ : state) {
+        const QImage sharp = paintIndices(subject.photo.size(), subject.indices, black, white);
+        QImage mask = sharp.copy();
+        blurFourChannels(sharp, mask, 5, 1.0, {});
+        const QImage object = cutOut(subject.photo.toImage(), mask);
+        const QPixmap objectLayer = QPixmap::fromImage(object, Qt::NoOpaqueDetection);
+        const QPixmap background = backgroundLayer(subject.photo.size(), colour, subject.board, {});
+        benchmark::DoNotOptimize(objectLayer.width() + background.width());
+    }
+    perPixel(state, subject);
+}
+
+template <typename Step> void oneStep(benchmark::State &state, Step step)
+{
+    const Subject &subject = subjectOf(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(step(subject).width());
+    perPixel(state, subject);
+}
+
+void indicesToMask(benchmark::State &state)
+{
+    oneStep(state, [](const Subject &s) { return paintIndices(s.photo.size(), s.indices, black, white); });
+}
+
+void copyOfMask(benchmark::State &state)
+{
+    const Subject &subject = subjectOf(state);
+    const QImage mask = paintIndices(subject.photo.size(), subject.indices, black, white);
+    oneStep(state, [&](const Subject &) { return mask.copy(); });
+}
+
+void maskToCutOut(benchmark::State &state)
+{
+    const Subject &subject = subjectOf(state);
+    const QImage mask = paintIndices(subject.photo.size(), subject.indices, black, white);
+    oneStep(state, [&](const Subject &s) { return cutOut(s.photo.toImage(), mask); });
+}
+
+void cutOutToPixmap(benchmark::State &state)
+{
+    const Subject &subject = subjectOf(state);
+    const QImage mask = paintIndices(subject.photo.size(), subject.indices, black, white);
+    const QImage object = cutOut(subject.photo.toImage(), mask);
+    oneStep(state, [&](const Subject &) { return QPixmap::fromImage(object, Qt::NoOpaqueDetection); });
+}
+
+void background(benchmark::State &state)
+{
+    oneStep(state, [&](const Subject &s) {
+        return backgroundLayer(s.photo.size(), static_cast<QRgb>(state.range(1)), s.board, {});
+    });
+}
+
+constexpr std::int64_t transparent = 0;
+constexpr std::int64_t halfBlue = 0x800000FF;
+
+BENCHMARK(wholePreview)->ArgsProduct({{4, 64}, {transparent, white}})->Unit(benchmark::kMillisecond);
+BENCHMARK(indicesToMask)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(copyOfMask)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(maskToCutOut)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(cutOutToPixmap)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(background)->ArgsProduct({{4}, {transparent, halfBlue, white}})->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+/// \file
+/// The inner loops of the four-channel blur, compiled for every instruction set and chosen at run time. None
+/// needs padding, and none reads or writes past the ranges it is given.
+namespace blurkernels {
+
+/// Pixels `from` .. `to` - 1 of a row, all of them `pixel`.
+struct FlatRun
+{
+    int from = 0;
+    int to = 0;
+    std::uint32_t pixel = 0;
+};
+
+/// Lists, in order, the flat runs of at least `minimum` pixels, 32 or more, each as long as it can be.
+void findFlatRuns(const std::uint32_t *pixels, int width, int minimum, std::vector<FlatRun> &runs);
+
+/// Horizontal pass over the bytes `from` .. `to` - 1 of a row, whose neighbours are four bytes away each:
+/// summed in doubles, centre first, then the pairs outward, and cut once.
+void smoothBytes(const std::uint8_t *in, int from, int to, std::span<const double> half, std::uint8_t *out);
+
+/// A weight as a whole number: (sum · 2^7 · factor >> 16) >> shift is trunc(sum · weight).
+struct Factor
+{
+    std::uint16_t factor = 0;
+    int shift = 0;
+};
+
+/// The vertical pass in whole numbers, for kernels that allow it. The filter cuts after the centre and after
+/// every pair; as each product is at least 0 and each value so far a whole number, that is the sum of the
+/// products, each cut for itself. A product depends on one sum of two bytes only, so that its factor can be
+/// tried on all of them. Nothing comes back where no factor does for some weight, or where a product lies so
+/// near below a whole number that the addition in doubles could round it up.
+std::optional<std::vector<Factor>> wholeFactors(std::span<const double> half);
+
+/// Vertical pass over the bytes `from` .. `to` - 1. `rows` holds an odd number of rows from the top, one more
+/// than twice the pairs.
+void combineBytes(std::span<const std::uint8_t *const> rows, int from, int to,
+                  std::span<const Factor> factors, std::uint8_t *out);
+
+} // namespace blurkernels

@@ -1,0 +1,401 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "imaging/EdgeKernels.cpp" // read once for every instruction set
+#include <hwy/foreach_target.h>
+// The line above comes first.
+#include <hwy/highway.h>
+
+#include "imaging/EdgeKernels.h"
+#include "imaging/GaussianWeights.h"
+
+#include <algorithm>
+#include <limits>
+#include <vector>
+
+// What does not depend on the instruction set; guarded, since this file is read many times.
+#ifndef ORNEVO_EDGEKERNELS_ONCE
+#define ORNEVO_EDGEKERNELS_ONCE
+
+namespace edgekernels {
+
+namespace {
+
+// A float of this size has the unit as its last bit.
+constexpr float floatOffset = 1 << 23;
+constexpr int floatExponent = 0x4B000000; // its bits
+constexpr int innerBits = 16; // of the fraction of a product of the vertical pass, up to the second pair
+constexpr int outerBits = 17; // of the outermost pair
+
+constexpr int innerFraction = (1 << innerBits) - 1;
+constexpr int outerFraction = (1 << outerBits) - 1;
+
+/// Smoothed value of a column, as the plain filter forms it: centre first, then the pairs outward.
+inline double smoothInDoubles(const std::int16_t *centre, const Weights &weights)
+{
+    double sum = weights.exact[0] * centre[0];
+    for (int k = 1; k <= radius; ++k)
+        sum += weights.exact[static_cast<std::size_t>(k)] * (centre[k] + centre[-k]);
+    return sum;
+}
+
+/// Both passes for one pixel in doubles, every operation in the order that defines the result.
+inline std::int16_t blurInDoubles(const Neighbourhood &from, int column, const Weights &weights)
+{
+    std::array<double, rows> smooth;
+    for (std::size_t i = 0; i < smooth.size(); ++i)
+        smooth[i] = smoothInDoubles(from.levels[i] + column, weights);
+    int value = static_cast<int>(smooth[radius] * weights.exact[0]);
+    for (std::size_t k = 1; k <= radius; ++k)
+        value = static_cast<int>(value + (smooth[radius + k] + smooth[radius - k]) * weights.exact[k]);
+    return static_cast<std::int16_t>(value);
+}
+
+} // namespace
+
+} // namespace edgekernels
+
+#endif // ORNEVO_EDGEKERNELS_ONCE
+
+HWY_BEFORE_NAMESPACE();
+namespace edgekernels {
+namespace HWY_NAMESPACE {
+namespace {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Vectors are capped at the width that the padding of the rows allows for. The tags from the third on have as
+// many lanes as there are floats in a vector, so that a value only ever changes its width and never its
+// place.
+constexpr hn::CappedTag<std::uint8_t, 64> byteTag;
+constexpr hn::CappedTag<std::int16_t, 32> levelTag;
+constexpr hn::CappedTag<float, 16> floatTag;
+constexpr hn::Rebind<std::int32_t, decltype(floatTag)> intTag;
+constexpr hn::Rebind<std::int16_t, decltype(floatTag)> shortTag;
+constexpr hn::Rebind<std::uint8_t, decltype(floatTag)> narrowByteTag;
+
+using FloatVector = hn::VFromD<decltype(floatTag)>;
+using IntVector = hn::VFromD<decltype(intTag)>;
+using IntMask = decltype(hn::Eq(IntVector(), IntVector()));
+using ShortVector = hn::VFromD<decltype(shortTag)>;
+
+int laneCount()
+{
+    return static_cast<int>(hn::Lanes(floatTag));
+}
+
+void SplitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
+{
+    const int lanes = static_cast<int>(hn::Lanes(levelTag));
+    const hn::Rebind<std::uint8_t, decltype(levelTag)> tag;
+    int x = 0;
+    for (; x + lanes <= count; x += lanes) {
+        hn::VFromD<decltype(tag)> blue, green, red, unused;
+        hn::LoadInterleaved4(tag, pixels + std::ptrdiff_t{x} * 4, blue, green, red, unused);
+        hn::StoreU(hn::PromoteTo(levelTag, blue), levelTag, colours[0] + x);
+        hn::StoreU(hn::PromoteTo(levelTag, green), levelTag, colours[1] + x);
+        hn::StoreU(hn::PromoteTo(levelTag, red), levelTag, colours[2] + x);
+    }
+    for (; x < count; ++x)
+        for (std::size_t colour = 0; colour < colours.size(); ++colour)
+            colours[colour][x] = pixels[std::ptrdiff_t{x} * 4 + static_cast<std::ptrdiff_t>(colour)];
+}
+
+HWY_INLINE ShortVector LoadLevels(const std::int16_t *from)
+{
+    return hn::LoadU(shortTag, from);
+}
+
+HWY_INLINE FloatVector ToFloats(ShortVector values)
+{
+    return hn::ConvertTo(floatTag, hn::PromoteTo(intTag, values));
+}
+
+void SmoothRow(const std::int16_t *in, int count, const Weights &weights, float *out)
+{
+    const auto w0 = hn::Set(floatTag, weights.rounded[0]);
+    const auto w1 = hn::Set(floatTag, weights.rounded[1]);
+    const auto w2 = hn::Set(floatTag, weights.rounded[2]);
+    const auto w3 = hn::Set(floatTag, weights.rounded[3]);
+    for (int x = 0; x < count - 2 * radius; x += laneCount()) {
+        const auto centre = LoadLevels(in + x + 3);
+        const auto pair1 = hn::Add(LoadLevels(in + x + 2), LoadLevels(in + x + 4));
+        const auto pair2 = hn::Add(LoadLevels(in + x + 1), LoadLevels(in + x + 5));
+        const auto pair3 = hn::Add(LoadLevels(in + x), LoadLevels(in + x + 6));
+        auto sum = hn::Mul(ToFloats(centre), w0);
+        sum = hn::MulAdd(ToFloats(pair1), w1, sum);
+        sum = hn::MulAdd(ToFloats(pair2), w2, sum);
+        sum = hn::MulAdd(ToFloats(pair3), w3, sum);
+        hn::StoreU(sum, floatTag, out + x);
+    }
+}
+
+// A product with 2^23 added has its floor in the upper half of the float's bits, under the exponent, and its
+// fraction in the lower half. Added and compared as halves, neither disturbs the other.
+#if HWY_TARGET == HWY_SCALAR
+
+HWY_INLINE IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
+{
+    return hn::Add(hn::Add(hn::ShiftRight<innerBits>(a), hn::ShiftRight<innerBits>(b)),
+                   hn::ShiftRight<innerBits>(c));
+}
+
+HWY_INLINE IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
+{
+    const auto fraction = hn::Set(intTag, innerFraction);
+    return hn::Min(hn::Min(hn::And(a, fraction), hn::And(b, fraction)), hn::And(c, fraction));
+}
+
+#else
+
+constexpr hn::Repartition<std::uint16_t, decltype(intTag)> halvesTag;
+constexpr hn::Rebind<std::uint32_t, decltype(intTag)> unsignedTag;
+
+HWY_INLINE IntVector SumOfFloors(IntVector a, IntVector b, IntVector c)
+{
+    const auto sum =
+        hn::Add(hn::Add(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
+    return hn::BitCast(intTag, hn::ShiftRight<innerBits>(hn::BitCast(unsignedTag, sum)));
+}
+
+HWY_INLINE IntVector SmallestFraction(IntVector a, IntVector b, IntVector c)
+{
+    const auto smallest =
+        hn::Min(hn::Min(hn::BitCast(halvesTag, a), hn::BitCast(halvesTag, b)), hn::BitCast(halvesTag, c));
+    return hn::And(hn::BitCast(intTag, smallest), hn::Set(intTag, innerFraction));
+}
+
+#endif
+
+/// Where the product counted in `q` lies too near a whole number for floats to decide. A product of nothing
+/// but zeros, of which `nothing` is left, is exact.
+HWY_INLINE IntMask NearWhole(IntVector q, int fractionMask, int bound, int nothing)
+{
+    const auto fraction = hn::And(q, hn::Set(intTag, fractionMask));
+    return hn::AndNot(hn::Eq(q, hn::Set(intTag, nothing)), hn::Lt(fraction, hn::Set(intTag, bound)));
+}
+
+/// Redoes the pixels from `column` on that floats can't decide.
+HWY_NOINLINE void RedoInDoubles(IntVector q0, IntVector q1, IntVector q2, IntVector q3,
+                                const Neighbourhood &from, int column, int end, const Weights &weights,
+                                std::int16_t *out)
+{
+    const auto nearInner = [&weights](IntVector q) HWY_ATTR {
+        return NearWhole(q, innerFraction, 2 * weights.innerSlack, floatExponent + weights.innerSlack);
+    };
+    const auto near =
+        hn::Or(hn::Or(hn::Or(nearInner(q0), nearInner(q1)), nearInner(q2)),
+               NearWhole(q3, outerFraction, 2 * weights.outerSlack, floatExponent + weights.outerSlack));
+    if (hn::AllFalse(intTag, near))
+        return;
+    std::uint8_t bits[8] = {};
+    hn::StoreMaskBits(intTag, near, bits);
+    for (int i = 0; i < laneCount() && column + i < end; ++i)
+        if ((bits[i / 8] >> (i % 8) & 1) != 0)
+            out[column + i] = blurInDoubles(from, column + i, weights);
+}
+
+// Why floats give the bytes of the doubles. The filter cuts after every pair of taps: with the products
+// P_k = w_k · (t(y - k) + t(y + k)), all of them at least 0, the value is trunc(trunc(trunc(P_0) + P_1) +
+// ...), which is the sum of the floors of the four products, as each value before a cut is a whole number
+// plus P_k. In doubles, P_k and that addition are off by less than 1e-12; so the sum of the floors is right
+// wherever no product is within 1e-12 of a whole number, and where all the terms are 0, and with them every
+// product.
+//
+// In floats (u = 2^-24 the unit of rounding), a product has gone through eight roundings: of the weight, of
+// the first product, three additions, of the pair, of the second weight and of the second product; fewer
+// where the machine fuses a multiplication with an addition. All terms are positive, so that it is off by
+// less than 8.1 u times the largest product. Adding 2^23 then rounds it to a whole number of units of 2^-16
+// (2^-17 for the outermost pair), which may cost half a unit more. `slack` is the next whole number above
+// that bound. The number q_k made of P_k + slack therefore lies above P_k, and by less than 2 slack: if its
+// fraction is not below 2 slack, no whole number lies between P_k and q_k, none lies within 1e-6 of P_k, and
+// the floors are the same. All others, four in ten thousand of a photograph, are redone in doubles.
+//
+// The outermost pair has a finer unit: over a plain of one grey level no product but the outermost of grey
+// 239 comes near a whole number, and with that unit it passes. So a flat area is never slow.
+void CutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out)
+{
+    constexpr int exponentInSum = 3 * (floatExponent >> innerBits) + (floatExponent >> outerBits);
+    const auto w0 = hn::Set(floatTag, weights.scaled[0]);
+    const auto w1 = hn::Set(floatTag, weights.scaled[1]);
+    const auto w2 = hn::Set(floatTag, weights.scaled[2]);
+    const auto w3 = hn::Set(floatTag, weights.scaled[3]);
+    const auto innerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(weights.innerSlack));
+    const auto outerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(weights.outerSlack));
+    const auto innerBound = hn::Set(intTag, 2 * weights.innerSlack);
+    const auto outerBound = hn::Set(intTag, 2 * weights.outerSlack);
+    const auto [above3, above2, above1, centre, below1, below2, below3] = from.smooth;
+    for (int x = 0; x < count - 2 * radius; x += laneCount()) {
+        const auto t0 = hn::LoadU(floatTag, centre + x);
+        const auto t1 = hn::Add(hn::LoadU(floatTag, above1 + x), hn::LoadU(floatTag, below1 + x));
+        const auto t2 = hn::Add(hn::LoadU(floatTag, above2 + x), hn::LoadU(floatTag, below2 + x));
+        const auto t3 = hn::Add(hn::LoadU(floatTag, above3 + x), hn::LoadU(floatTag, below3 + x));
+        const auto q0 = hn::BitCast(intTag, hn::MulAdd(t0, w0, innerOffset));
+        const auto q1 = hn::BitCast(intTag, hn::MulAdd(t1, w1, innerOffset));
+        const auto q2 = hn::BitCast(intTag, hn::MulAdd(t2, w2, innerOffset));
+        const auto q3 = hn::BitCast(intTag, hn::MulAdd(t3, w3, outerOffset));
+        const auto floors = hn::Add(SumOfFloors(q0, q1, q2), hn::ShiftRight<outerBits>(q3));
+        const auto value = hn::Sub(floors, hn::Set(intTag, exponentInSum));
+        hn::StoreU(hn::DemoteTo(shortTag, value), shortTag, out + x + radius);
+
+        const auto near = hn::Or(hn::Lt(SmallestFraction(q0, q1, q2), innerBound),
+                                 hn::Lt(hn::And(q3, hn::Set(intTag, outerFraction)), outerBound));
+        if (HWY_UNLIKELY(!hn::AllFalse(intTag, near)))
+            RedoInDoubles(q0, q1, q2, q3, from, x + radius, count - radius, weights, out);
+    }
+}
+
+/// Sobel derivative along x at x + 1.
+HWY_INLINE ShortVector GradientAlong(const RowTriple &rows, int x)
+{
+    const auto upper = hn::Sub(LoadLevels(rows.above + x + 2), LoadLevels(rows.above + x));
+    const auto mid = hn::Sub(LoadLevels(rows.mid + x + 2), LoadLevels(rows.mid + x));
+    const auto lower = hn::Sub(LoadLevels(rows.below + x + 2), LoadLevels(rows.below + x));
+    return hn::Add(hn::Add(upper, lower), hn::Add(mid, mid));
+}
+
+/// Sobel derivative along y at x + 1.
+HWY_INLINE ShortVector GradientDown(const RowTriple &rows, int x)
+{
+    const auto left = hn::Sub(LoadLevels(rows.above + x), LoadLevels(rows.below + x));
+    const auto mid = hn::Sub(LoadLevels(rows.above + x + 1), LoadLevels(rows.below + x + 1));
+    const auto right = hn::Sub(LoadLevels(rows.above + x + 2), LoadLevels(rows.below + x + 2));
+    return hn::Add(hn::Add(left, right), hn::Add(mid, mid));
+}
+
+/// Low byte of the length of a gradient, cut to a whole number. The sum of the squares stays below 2^24,
+/// where floats hold every whole number. The root is at most 1442; with 2048 added, its whole part ends
+/// twelve bits above the last of the float. No root below a whole number is so near to it that the roundings
+/// could lift it over.
+HWY_INLINE IntVector MagnitudeAt(const RowTriple &rows, int x)
+{
+    const auto along = ToFloats(GradientAlong(rows, x));
+    const auto down = ToFloats(GradientDown(rows, x));
+    const auto square = hn::MulAdd(along, along, hn::Mul(down, down));
+    const auto bits = hn::BitCast(intTag, hn::Add(hn::Sqrt(square), hn::Set(floatTag, 2048.0F)));
+    return hn::And(hn::ShiftRight<12>(bits), hn::Set(intTag, 0xFF));
+}
+
+void GradientRow(const std::array<RowTriple, 3> &colours, int count, std::uint8_t *out)
+{
+    const auto third = hn::Set(intTag, 21846); // of 65536, rounded up: exact for sums up to 32767
+    for (int x = 0; x < count - 2; x += laneCount()) {
+        const auto sum = hn::Add(hn::Add(MagnitudeAt(colours[0], x), MagnitudeAt(colours[1], x)),
+                                 MagnitudeAt(colours[2], x));
+        const auto average = hn::ShiftRight<16>(hn::Mul(sum, third));
+        hn::StoreU(hn::DemoteTo(narrowByteTag, average), narrowByteTag, out + x + 1);
+    }
+    out[0] = 0;
+    out[count - 1] = 0;
+}
+
+void StatisticsOf(const std::uint8_t *in, int count, RowStatistics &statistics)
+{
+    auto sums = hn::Zero(intTag);
+    auto largest = hn::Zero(intTag);
+    int x = 0;
+    for (; x + laneCount() <= count; x += laneCount()) {
+        const auto values = hn::PromoteTo(intTag, hn::LoadU(narrowByteTag, in + x));
+        sums = hn::Add(sums, values);
+        largest = hn::Max(largest, values);
+    }
+    statistics.sum = static_cast<std::uint64_t>(hn::GetLane(hn::SumOfLanes(intTag, sums)));
+    statistics.largest = static_cast<std::uint8_t>(hn::GetLane(hn::MaxOfLanes(intTag, largest)));
+    for (; x < count; ++x) {
+        statistics.sum += in[x];
+        statistics.largest = std::max(statistics.largest, in[x]);
+    }
+}
+
+void LiftAbove(std::uint8_t *bytes, std::size_t count, std::uint8_t mean, std::uint8_t lift)
+{
+    const std::size_t lanes = hn::Lanes(byteTag);
+    const auto means = hn::Set(byteTag, mean);
+    const auto lifts = hn::Set(byteTag, lift);
+    std::size_t i = 0;
+    for (; i + lanes <= count; i += lanes) {
+        const auto values = hn::LoadU(byteTag, bytes + i);
+        // The larger of value and mean is the value where it is not below the mean.
+        const auto keep = hn::Eq(hn::Max(values, means), values);
+        hn::StoreU(hn::IfThenElseZero(keep, hn::Add(values, lifts)), byteTag, bytes + i);
+    }
+    for (; i < count; ++i)
+        bytes[i] = bytes[i] < mean ? std::uint8_t{0} : static_cast<std::uint8_t>(bytes[i] + lift);
+}
+
+} // namespace
+} // namespace HWY_NAMESPACE
+} // namespace edgekernels
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+
+namespace edgekernels {
+
+HWY_EXPORT(SplitRow);
+HWY_EXPORT(SmoothRow);
+HWY_EXPORT(CutRow);
+HWY_EXPORT(GradientRow);
+HWY_EXPORT(StatisticsOf);
+HWY_EXPORT(LiftAbove);
+
+namespace {
+
+/// In units of 2^-bits.
+int slackFor(double largestWeight, int bits)
+{
+    constexpr double roundings = 8.1 * std::numeric_limits<float>::epsilon() / 2;
+    const double largestProduct = 2 * 255 * largestWeight * (1 << bits);
+    return static_cast<int>(roundings * largestProduct + 0.5) + 1;
+}
+
+} // namespace
+
+Weights::Weights(double sigma)
+{
+    const std::vector<double> half = gaussianHalfKernel(rows, sigma);
+    for (std::size_t k = 0; k < half.size(); ++k) {
+        exact[k] = half[k];
+        rounded[k] = static_cast<float>(half[k]);
+        scaled[k] = rounded[k] * (1 << (k < radius ? innerBits : outerBits));
+    }
+    innerSlack = slackFor(std::max({half[0], half[1], half[2]}), innerBits);
+    outerSlack = slackFor(half[3], outerBits);
+}
+
+void splitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
+{
+    HWY_DYNAMIC_DISPATCH(SplitRow)(pixels, count, colours);
+}
+
+void smoothRow(const std::int16_t *in, int count, const Weights &weights, float *out)
+{
+    HWY_DYNAMIC_DISPATCH(SmoothRow)(in, count, weights, out);
+}
+
+void cutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out)
+{
+    HWY_DYNAMIC_DISPATCH(CutRow)(from, count, weights, out);
+}
+
+void gradientRow(const std::array<RowTriple, 3> &colours, int count, std::uint8_t *out)
+{
+    HWY_DYNAMIC_DISPATCH(GradientRow)(colours, count, out);
+}
+
+RowStatistics statisticsOf(const std::uint8_t *in, int count)
+{
+    RowStatistics statistics;
+    HWY_DYNAMIC_DISPATCH(StatisticsOf)(in, count, statistics);
+    return statistics;
+}
+
+void liftAbove(std::uint8_t *bytes, std::size_t count, std::uint8_t mean, std::uint8_t lift)
+{
+    HWY_DYNAMIC_DISPATCH(LiftAbove)(bytes, count, mean, lift);
+}
+
+} // namespace edgekernels
+
+#endif // HWY_ONCE
