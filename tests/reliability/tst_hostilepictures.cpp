@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <limits>
+
 #include <sys/resource.h>
 
 namespace {
@@ -188,6 +190,63 @@ private slots:
         QVERIFY(QFileInfo::exists(out));
         user.preview(false);
         QVERIFY2(clock.elapsed() < longestOpening, "it takes too long");
+    }
+
+    void brushLargerThanAnything_data()
+    {
+        QTest::addColumn<int>("half");
+        for (const int half : {15000, 45000, 500000, 1 << 29})
+            QTest::addRow("%d pixels", half) << half;
+    }
+
+    /// With the view zoomed far out, a dab covers all of the picture and much more.
+    void brushLargerThanAnything()
+    {
+        QFETCH(int, half);
+        const QString path = m_folder->filePath("photo.png");
+        picturefiles::put(path, picturefiles::encoded(picturefiles::smallPicture(60, 40, 1), "png"));
+        WindowUser user;
+        user.open(path);
+        user.layDabs();
+        user.preview(true);
+        user.probe().brushIntensityKeep() = 255;
+        const QImage untouched = user.probe().previewImage().copy();
+        QElapsedTimer clock;
+        clock.start();
+        user.brush(QRect(-half, -half, 2 * half - 1, 2 * half - 1));
+        QVERIFY2(clock.elapsed() < 5000, "it takes too long");
+        const QImage brushed = user.probe().previewImage();
+        for (const QPoint corner : {QPoint(0, 0), QPoint(59, 0), QPoint(0, 39), QPoint(59, 39)})
+            QCOMPARE(qAlpha(brushed.pixel(corner)), 255);
+        QVERIFY(brushed != untouched);
+        user.probe().undoStack().undo();
+        QCOMPARE(user.probe().previewImage(), untouched);
+    }
+
+    /// As far in and as far out as it goes, and with the hand on what is shown there.
+    void zoomWithoutEnd()
+    {
+        const QString path = m_folder->filePath("photo.png");
+        picturefiles::put(path, picturefiles::encoded(picturefiles::smallPicture(60, 40, 1), "png"));
+        WindowUser user;
+        user.window().show();
+        user.open(path);
+        user.layDabs();
+        user.preview(true);
+        for (const char *zoom : {"actionZoom_In", "actionZoom_Out"}) {
+            for (int i = 0; i < 600; ++i) {
+                user.trigger(zoom);
+                if (i % 20 == 0)
+                    QCoreApplication::processEvents();
+            }
+            const int far = std::numeric_limits<int>::max();
+            for (int i = 0; i < 5; ++i)
+                QMetaObject::invokeMethod(&user.window(), "on_HandToolPressed",
+                                          Q_ARG(QPoint, QPoint(-far, -far)), Q_ARG(QPoint, QPoint(far, far)));
+            user.brush(QRect(5, 5, 20, 20));
+        }
+        user.open(path);
+        QCOMPARE(user.status(), "Ready");
     }
 
     /// Four hundred million pixels of one bit take no more than they have to, or are declined.
