@@ -26,7 +26,8 @@ constexpr QRgb white = 0xFFFFFFFFU;
 struct Subject
 {
     explicit Subject(int megapixels)
-        : photo(QPixmap::fromImage(benchmarkpictures::photoMosaic(megapixels))), board(16, 16, QImage::Format_RGB32)
+        : photo(QPixmap::fromImage(benchmarkpictures::photoMosaic(megapixels))),
+          board(16, 16, QImage::Format_RGB32)
     {
         board.fill(Qt::lightGray);
         const double scale = std::min(photo.width(), photo.height());
@@ -55,8 +56,8 @@ const Subject &subjectOf(const benchmark::State &state)
 void perPixel(benchmark::State &state, const Subject &subject)
 {
     const double pixels = static_cast<double>(subject.photo.width()) * subject.photo.height();
-    state.counters["a pixel"] = benchmark::Counter(
-        pixels, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    state.counters["a pixel"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate |
+                                                               benchmark::Counter::kInvert);
 }
 
 void wholePreview(benchmark::State &state)
