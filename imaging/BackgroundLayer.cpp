@@ -17,6 +17,11 @@ QPixmap colourOverBoard(QSize size, QRgb colour, const QImage &board)
         layer.fill(QColor(colour));
         return layer;
     }
+    if (qAlpha(colour) == 0 && !board.hasAlphaChannel()) // nothing of the colour would show
+        return QPixmap::fromImage(board.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                                      .convertToFormat(QImage::Format_RGB32));
+    // The colour goes over the stretched board and not over the small one: how blending rounds depends on the
+    // place in the row.
     QImage layer = board.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
                        .convertToFormat(QImage::Format_ARGB32);
     if (layer.isNull())
