@@ -360,7 +360,7 @@ Weights::Weights(double sigma)
         rounded[k] = static_cast<float>(half[k]);
         scaled[k] = rounded[k] * (1 << (k < radius ? innerBits : outerBits));
     }
-    innerSlack = slackFor(std::max({half[0], half[1], half[2]}), innerBits);
+    innerSlack = slackFor(std::max({half[0] / 2, half[1], half[2]}), innerBits); // the centre counts once
     outerSlack = slackFor(half[3], outerBits);
 }
 
