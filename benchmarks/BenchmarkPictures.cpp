@@ -22,8 +22,13 @@ constexpr int tileSide = 512;
 QStringList photoFiles()
 {
     QStringList files;
-    for (const char *folder :
-         {"/usr/share/backgrounds/mate", "/usr/lib/python3/dist-packages/skimage/data"}) {
+    // Where scripts/fetch-photos unpacks them, or else where the packages install them.
+    const QString unpacked = qEnvironmentVariable("ORNEVO_PHOTOS");
+    const QStringList folders =
+        unpacked.isEmpty()
+            ? QStringList{"/usr/share/backgrounds/mate", "/usr/lib/python3/dist-packages/skimage/data"}
+            : QStringList{unpacked};
+    for (const QString &folder : folders) {
         QDirIterator entries(folder, {"*.jpg", "astronaut.png", "coffee.png"}, QDir::Files,
                              QDirIterator::Subdirectories);
         while (entries.hasNext())

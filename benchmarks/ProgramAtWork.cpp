@@ -9,11 +9,13 @@
 #include <QAction>
 #include <QGraphicsRectItem>
 
+#include <cmath>
 #include <stdexcept>
 
 namespace {
 
 constexpr int dabSide = 20;
+constexpr int strokeCount = 8;
 constexpr int jpegQuality = 92;
 
 } // namespace
@@ -44,14 +46,18 @@ void ProgramAtWork::open()
 
 void ProgramAtWork::layMarks()
 {
-    const auto regions = benchmarkpictures::strokes(size(), 2);
-    const auto corner = [this](int index) { return QPointF(index % size().width(), index / size().width()); };
-    // A square of one pixel a seed: the same seeds as the flooding alone is measured with.
-    for (const int index : regions[0])
-        m_state.imageScene().addRect(QRectF(corner(index), QSizeF(1, 1)));
-    for (const int index : regions[1])
-        m_state.imageScene().addEllipse(QRectF(corner(index), QSizeF(1, 1)),
-                                        QPen(QColor(markers::removeColour)));
+    // Wavy strokes across the picture in turn, a dab every few pixels, as a moving pointer lays them.
+    const QColor removeColour(markers::removeColour);
+    for (int stroke = 0; stroke < strokeCount; ++stroke) {
+        const double middle = size().height() * (stroke + 0.5) / strokeCount;
+        for (double x = dabSide; x < size().width() - 2.0 * dabSide; x += 1.5 * dabSide) {
+            const QRectF dab(x, middle + 3 * dabSide * std::sin(x / 400), dabSide, dabSide);
+            if (stroke % 2 == 0)
+                m_state.imageScene().addRect(dab)->setZValue(markers::dabZ);
+            else
+                m_state.imageScene().addEllipse(dab, QPen(removeColour))->setZValue(markers::dabZ);
+        }
+    }
 }
 
 void ProgramAtWork::run(const char *slot)

@@ -5,8 +5,8 @@
 // decoding, the Mask step beside the flooding, and the brush, whose cost must follow the dabs and not the
 // picture.
 
-#include "benchmarks/BenchmarkPictures.h"
 #include "benchmarks/ProgramAtWork.h"
+#include "canvas/MarkerDabs.h"
 #include "imaging/PictureFile.h"
 #include "segmentation/FrWatershed.h"
 
@@ -59,11 +59,13 @@ void flooding(benchmark::State &state)
 {
     ProgramAtWork program(int(state.range(0)));
     program.open();
-    auto regions = benchmarkpictures::strokes(program.state().workingImage().size(), 2);
+    program.layMarks();
+    markers::Seeds seeds =
+        markers::seedsOf(program.state().imageScene().items(), program.state().workingImage().size());
     for (auto _ : state) {
         QList<int> mask;
-        FrWatershed(&program.state().workingImage(), regions[0], regions[1], mask, program.state().edgeMap(),
-                    nullptr);
+        FrWatershed(&program.state().workingImage(), seeds.keep, seeds.remove, mask,
+                    program.state().edgeMap(), nullptr);
     }
     countPixels(state, program);
 }

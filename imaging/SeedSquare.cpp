@@ -18,7 +18,6 @@ void appendSeedSquare(const QRectF &rect, QSize size, QList<int> &seeds)
     const std::int64_t rows = std::min<std::int64_t>(side, size.height() - top);
     if (columns <= 0 || rows <= 0)
         return;
-    seeds.reserve(seeds.size() + static_cast<qsizetype>(columns * rows));
     for (std::int64_t column = 0; column < columns; ++column) {
         for (std::int64_t row = 0; row < rows; ++row) {
             const std::int64_t index = (top + row) * size.width() + left + column;

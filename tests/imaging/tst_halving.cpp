@@ -18,9 +18,9 @@ QRgb plainAverage(const QImage &picture, int x, int y)
     QRgb result = 0;
     for (int shift = 0; shift < 32; shift += 8) {
         unsigned sum = 2;
-        for (const auto &[px, py] :
-             {QPair(2 * x, 2 * y), QPair(right, 2 * y), QPair(2 * x, below), QPair(right, below)})
-            sum += reinterpret_cast<const QRgb *>(picture.constScanLine(py))[px] >> shift & 0xFF;
+        for (const QPoint at :
+             {QPoint(2 * x, 2 * y), QPoint(right, 2 * y), QPoint(2 * x, below), QPoint(right, below)})
+            sum += reinterpret_cast<const QRgb *>(picture.constScanLine(at.y()))[at.x()] >> shift & 0xFF;
         result |= (sum / 4) << shift;
     }
     return result;
