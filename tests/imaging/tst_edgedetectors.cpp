@@ -173,7 +173,7 @@ void TestEdgeDetectors::magnitudeWithoutMemoryLeavesItsOutput()
     unsigned char pixel = 0;
     View src{&pixel, std::numeric_limits<int>::max(), std::numeric_limits<int>::max(), 1, 1};
     View dst{&pixel, 3, 4, 5, 6};
-    QVERIFY_EXCEPTION_THROWN(FrSobelEdgeDetector(&src, &dst), std::bad_alloc);
+    QVERIFY_THROWS_EXCEPTION(std::bad_alloc, FrSobelEdgeDetector(&src, &dst));
     QVERIFY(dst.data == &pixel && dst.width == 3 && dst.height == 4 && dst.channels == 5 && dst.depth == 6);
 }
 
