@@ -35,7 +35,11 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     connectCanvas();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // The stack speaks once more when it goes, and what would listen has gone before it.
+    undoStack.disconnect(this);
+}
 
 void MainWindow::hideProgress()
 {
