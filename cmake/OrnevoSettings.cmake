@@ -25,6 +25,9 @@ if(ORNEVO_SANITIZE)
     target_compile_options(ornevo_settings INTERFACE
         -fsanitize=${ORNEVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(ornevo_settings INTERFACE -fsanitize=${ORNEVO_SANITIZE})
+    if(ORNEVO_SANITIZE MATCHES address) # the compilers have no word for it in common
+        target_compile_definitions(ornevo_settings INTERFACE ORNEVO_ADDRESS_SANITIZER)
+    endif()
 endif()
 if(ORNEVO_FUZZ)
     target_compile_options(ornevo_settings INTERFACE -fsanitize=fuzzer-no-link)

@@ -69,7 +69,11 @@ bool isCompleteBmp(const QByteArray &header, qint64 fileSize)
         return true;
     const qint64 bitsPerPixel = qFromLittleEndian<quint16>(header.constData() + 28);
     const qint64 bytesPerRow = (field(18) * bitsPerPixel + 31) / 32 * 4;
-    return quint32(field(10)) + bytesPerRow * std::llabs(field(22)) <= fileSize;
+    if (bytesPerRow <= 0)
+        return true; // no picture at all; the decoder tells
+    const qint64 rowsThatFit =
+        (fileSize - quint32(field(10))) / bytesPerRow; // divided: a product could overflow
+    return std::llabs(field(22)) <= rowsThatFit;
 }
 
 } // namespace

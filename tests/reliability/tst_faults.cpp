@@ -17,7 +17,7 @@
 
 #include <sys/resource.h>
 #include <unistd.h>
-#ifdef __SANITIZE_ADDRESS__
+#ifdef ORNEVO_ADDRESS_SANITIZER
 #include <sanitizer/lsan_interface.h>
 #endif
 
@@ -29,7 +29,7 @@ class FullDisk
 public:
     explicit FullDisk(rlim_t bytes)
     {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef ORNEVO_ADDRESS_SANITIZER
         __lsan_disable(); // Qt's PNG writer loses its list of rows when it can't write
 #endif
         m_signal = std::signal(SIGXFSZ, SIG_IGN);
@@ -42,7 +42,7 @@ public:
     {
         setrlimit(RLIMIT_FSIZE, &m_before);
         std::signal(SIGXFSZ, m_signal);
-#ifdef __SANITIZE_ADDRESS__
+#ifdef ORNEVO_ADDRESS_SANITIZER
         __lsan_enable();
 #endif
     }
@@ -105,7 +105,7 @@ QByteArray contentsOf(const QString &path)
 
 bool hasSanitizer()
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef ORNEVO_ADDRESS_SANITIZER
     return true;
 #else
     return false;

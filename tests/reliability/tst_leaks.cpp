@@ -72,7 +72,7 @@ private slots:
         }
         const qint64 growth = (residentBytes() - before) >> 20;
         fprintf(stderr, "%d rounds grew the program by %lld MiB\n", rounds, static_cast<long long>(growth));
-#ifndef __SANITIZE_ADDRESS__
+#ifndef ORNEVO_ADDRESS_SANITIZER
         QVERIFY2(growth <= mostGrowth, "memory is not given back");
 #endif
     }
