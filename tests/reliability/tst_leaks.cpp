@@ -16,7 +16,7 @@ namespace {
 constexpr int warmUp = 15;
 constexpr int rounds = 100;
 // One picture of the size that is used, kept by mistake in every round, would be twice as much.
-constexpr qint64 mostGrowth = 8; // MiB
+[[maybe_unused]] constexpr qint64 mostGrowth = 8; // MiB
 
 qint64 residentBytes()
 {
