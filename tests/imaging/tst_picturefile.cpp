@@ -4,6 +4,7 @@
 #include "imaging/PictureFile.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/Differences.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestMain.h"
 
 #include <QBuffer>
@@ -12,8 +13,6 @@
 #include <QImageReader>
 #include <QImageWriter>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -183,30 +182,6 @@ bool putHollowBmp(const QString &path, int width, int height)
     QFile file(path);
     return put(path, header) && file.open(QIODevice::ReadWrite) && file.resize(bytes + 54);
 }
-
-/// While it lives, no file can grow beyond `bytes`: the disk is full.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit narrow{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &narrow);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
-};
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "tests/reference/TestPictures.h"
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/WindowUser.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestMain.h"
 
 #include <QDir>
@@ -11,48 +12,13 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <cstdlib>
 #include <vector>
 
 #include <sys/resource.h>
 #include <unistd.h>
-#ifdef ORNEVO_ADDRESS_SANITIZER
-#include <sanitizer/lsan_interface.h>
-#endif
 
 namespace {
-
-/// While it lives, a file can't grow beyond some bytes: writing fails as it does on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-#ifdef ORNEVO_ADDRESS_SANITIZER
-        __lsan_disable(); // Qt's PNG writer loses its list of rows when it can't write
-#endif
-        m_signal = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit full = m_before;
-        full.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_signal);
-#ifdef ORNEVO_ADDRESS_SANITIZER
-        __lsan_enable();
-#endif
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_signal)(int) = nullptr;
-};
 
 /// While it lives, the process gets some more memory and no more.
 class ShortMemory

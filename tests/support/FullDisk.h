@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <csignal>
+
+#include <sys/resource.h>
+#ifdef ORNEVO_ADDRESS_SANITIZER
+#include <sanitizer/lsan_interface.h>
+#endif
+
+/// While it lives, a file can't grow beyond some bytes: writing fails as it does on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+#ifdef ORNEVO_ADDRESS_SANITIZER
+        __lsan_disable(); // Qt's PNG writer loses its list of rows when it can't write
+#endif
+        m_signal = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit full = m_before;
+        full.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signal);
+#ifdef ORNEVO_ADDRESS_SANITIZER
+        __lsan_enable();
+#endif
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_signal)(int) = nullptr;
+};
