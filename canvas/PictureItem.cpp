@@ -8,6 +8,14 @@
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t mostLevels = 16; // down to a pixel
+
+} // namespace
+
 PictureItem::PictureItem(const QPixmap &pixmap) : QGraphicsPixmapItem(pixmap) {}
 
 void PictureItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*option*/, QWidget * /*widget*/)
@@ -27,17 +35,18 @@ const QImage *PictureItem::reducedFor(qreal scale)
         m_reduced.clear();
         m_reducedFrom = pixmap().cacheKey();
     }
-    const QImage *found = nullptr;
-    for (std::size_t level = 0; scale <= 0.5; ++level, scale *= 2) {
-        if (level == m_reduced.size())
-            m_reduced.push_back(halved(level == 0 ? pixmap().toImage() : m_reduced.back()));
-        if (m_reduced[level].isNull())
-            break;
-        found = &m_reduced[level];
-        if (found->width() == 1 && found->height() == 1)
-            break;
+    std::size_t levels = 0; // halvings that leave at least as many pixels as the screen shows
+    while (scale <= 0.5 && levels < mostLevels) {
+        scale *= 2;
+        ++levels;
     }
-    return found;
+    while (m_reduced.size() < levels) {
+        QImage half = halved(m_reduced.empty() ? pixmap().toImage() : m_reduced.back());
+        if (half.isNull())
+            break;
+        m_reduced.push_back(std::move(half));
+    }
+    return levels == 0 || m_reduced.empty() ? nullptr : &m_reduced[std::min(levels, m_reduced.size()) - 1];
 }
 
 void PictureItem::renewReduced(const QRect &area)

@@ -79,7 +79,7 @@ void SmoothBytes(const std::uint8_t *in, int from, int to, std::span<const doubl
     for (; i + lanes <= to; i += lanes) {
         auto sum = hn::Mul(hn::Set(doubleTag, half[0]), hn::PromoteTo(doubleTag, LoadInts(in + i)));
         for (int k = 1; k <= radius; ++k) {
-            const auto pair = hn::Add(LoadInts(in + i + 4 * k), LoadInts(in + i - 4 * k));
+            const auto pair = hn::Add(LoadInts(in + (i + 4 * k)), LoadInts(in + (i - 4 * k)));
             const auto weight = hn::Set(doubleTag, half[static_cast<std::size_t>(k)]);
             // Two roundings: a fused multiplication would give other bytes.
             sum = hn::Add(sum, hn::Mul(weight, hn::PromoteTo(doubleTag, pair)));

@@ -11,6 +11,7 @@
 #include "imaging/GaussianWeights.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <vector>
 
@@ -347,7 +348,7 @@ int slackFor(double largestWeight, int bits)
 {
     constexpr double roundings = 8.1 * std::numeric_limits<float>::epsilon() / 2;
     const double largestProduct = 2 * 255 * largestWeight * (1 << bits);
-    return static_cast<int>(roundings * largestProduct + 0.5) + 1;
+    return static_cast<int>(std::lround(roundings * largestProduct)) + 1;
 }
 
 } // namespace

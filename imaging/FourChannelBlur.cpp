@@ -170,9 +170,10 @@ private:
 
     void combineGap(int y, int from, int to, std::uint8_t *out)
     {
+        std::size_t place = 0;
         for (int k = -m_radius; k <= m_radius; ++k) {
             fillFlatParts(y + k, from, to);
-            m_rows[static_cast<std::size_t>(k + m_radius)] = m_smooth.row(y + k);
+            m_rows[place++] = m_smooth.row(y + k);
         }
         if (m_factors)
             blurkernels::combineBytes(m_rows, from * channels, to * channels, *m_factors, out);

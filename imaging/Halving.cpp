@@ -4,7 +4,7 @@
 #include "imaging/Halving.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <cstddef>
 
 namespace {
 
@@ -27,7 +27,7 @@ QRgb averageOfFour(QRgb a, QRgb b, QRgb c, QRgb d)
 void halveRow(const QRgb *upper, const QRgb *lower, int width, int from, int to, QRgb *out)
 {
     const int whole = std::min(to, width / 2);
-    for (int x = from; x < whole; ++x)
+    for (std::ptrdiff_t x = from; x < whole; ++x)
         out[x] = averageOfFour(upper[2 * x], upper[2 * x + 1], lower[2 * x], lower[2 * x + 1]);
     if (to > whole && to > from) { // the last column of an odd width has no partner
         const QRgb above = upper[width - 1];

@@ -212,7 +212,8 @@ void Story::chooseColours()
                 for (QLineEdit *edit : colours.findChildren<QLineEdit *>())
                     if (edit->objectName() != "qt_spinbox_lineedit") // those are inside of the spin boxes
                         html = edit;
-                expect(html != nullptr, "the colour chooser has no field for a name");
+                if (html == nullptr)
+                    throw TourError("the colour chooser has no field for a name");
                 html->clear();
                 QTest::keyClicks(html, "#3f7fbf");
                 Driver::accept(colours);
