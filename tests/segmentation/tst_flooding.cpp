@@ -10,9 +10,9 @@
 #include "segmentation/StepCosts.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/reference/WatershedReference.h"
+#include "tests/support/Photographs.h"
 #include "tests/support/TestMain.h"
 
-#include <QDirIterator>
 #include <QProgressBar>
 
 #include <hwy/targets.h>
@@ -68,13 +68,10 @@ bool agree(const QImage &image, const Plane &edges, int seedsPerRegion, std::uin
 /// A photograph of this machine, cut to a size that the plain version floods in a moment.
 QImage photo()
 {
-    for (const char *folder : {"/usr/share/backgrounds", "/usr/lib/python3/dist-packages/skimage/data"}) {
-        QDirIterator files(folder, {"*.jpg"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QImage image(files.next());
-            if (image.width() >= 700 && image.height() >= 500)
-                return image.convertToFormat(QImage::Format_RGB32).copy(90, 60, 600, 400);
-        }
+    for (const QString &file : testsupport::availablePhotographs()) {
+        const QImage image(file);
+        if (image.width() >= 700 && image.height() >= 500)
+            return image.convertToFormat(QImage::Format_RGB32).copy(90, 60, 600, 400);
     }
     return {};
 }
