@@ -4,6 +4,7 @@
 #pragma once
 
 #include "canvas/ItemPointer.h"
+#include "imaging/LargeMemory.h"
 
 #include <QBitmap>
 #include <QGraphicsScene>
@@ -125,7 +126,7 @@ private:
     QString currentFile;
     bool isOriginalFile = false;
     QImage workingImage;
-    std::unique_ptr<unsigned char[]> edgeMap;
+    LargeArray<unsigned char> edgeMap;
     ItemPointer<QGraphicsPixmapItem> maskItem;
     QList<int> outmask;
     QPoint previewOffset;

@@ -6,22 +6,20 @@
 #include "canvas/PictureItem.h"
 #include "canvas/SettingsKeys.h"
 #include "imaging/EdgeMap.h"
+#include "imaging/LargeMemory.h"
 #include "imaging/PictureFile.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include <new>
-
 namespace {
 
 /// Null when memory is short.
-std::unique_ptr<unsigned char[]> bytesFor(const QImage &picture)
+LargeArray<unsigned char> bytesFor(const QImage &picture)
 {
-    const auto pixels =
-        static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
-    return std::unique_ptr<unsigned char[]>(new (std::nothrow) unsigned char[pixels]);
+    return makeLargeArray<unsigned char>(static_cast<std::size_t>(picture.width()) *
+                                         static_cast<std::size_t>(picture.height()));
 }
 
 } // namespace
@@ -63,7 +61,7 @@ void MainWindow::open()
     const QImage picture = readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
     // All the memory that the picture takes is got before anything refers to the picture.
     const QPixmap pixmap = QPixmap::fromImage(picture);
-    std::unique_ptr<unsigned char[]> edges = bytesFor(picture);
+    LargeArray<unsigned char> edges = bytesFor(picture);
     if (pixmap.isNull() || edges == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;

@@ -66,8 +66,9 @@ void MainWindow::updatepreviewmask()
     constexpr QRgb black = qRgb(0, 0, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
     qWarning() << "outmask size is" << outmask.size();
+    maskImage = QImage(); // what memory it had can serve the next one
     QImage sharp = paintIndices(workingImage.size(), outmask, black, white);
-    maskImage = sharp.copy();
+    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : sharp;
     if (smoothEdges)
         blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
 }
@@ -84,10 +85,10 @@ void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
 
 void MainWindow::applypreviewmask()
 {
+    previewScene.clear(); // first, so that its pictures and the new ones are never there together
     QPixmap background;
     QPixmap object;
     applypreviewmasktopixmap(&background, &object);
-    previewScene.clear();
     backgroundItem = new PictureItem(background);
     previewItem = new PictureItem(object);
     entriesOlderThanPreviewItem = undoStack.count();
@@ -111,7 +112,7 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         form->statusBar->showMessage(tr("feather done"));
     }
     // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
-    *object = QPixmap::fromImage(previewImage, Qt::NoOpaqueDetection);
+    *object = QPixmap::fromImage(premultiplied(previewImage), Qt::NoOpaqueDetection);
     *background = backgroundLayer(workingImage.size(), backgroundColor, QImage(":/icons/chessbackground.png"),
                                   backgroundImage);
 }

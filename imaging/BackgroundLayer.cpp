@@ -3,37 +3,72 @@
 
 #include "imaging/BackgroundLayer.h"
 
-#include <QColor>
+#include "imaging/LargeMemory.h"
+
 #include <QPainter>
 
+#include <cstddef>
+#include <cstring>
+#include <utility>
+
 namespace {
+
+/// The colour over the stretched board, as a pixmap shows it: without alpha where nothing of it is
+/// transparent.
+QImage colourOverStretched(const QImage &board, QSize size, QRgb colour)
+{
+    QImage rows = board.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                      .convertToFormat(QImage::Format_ARGB32);
+    // One row of the colour, drawn again and again: the blending is that of a whole picture of it.
+    QImage row(size.width(), 1, QImage::Format_ARGB32);
+    row.fill(colour);
+    QPainter painter(&rows);
+    for (int y = 0; y < rows.height(); ++y)
+        painter.drawImage(0, y, row);
+    painter.end();
+    const QImage shown = QPixmap::fromImage(std::move(rows)).toImage();
+    return shown.convertToFormat(shown.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                         : QImage::Format_RGB32);
+}
+
+/// Of each of `length` rows, which one of `count` rows it shows when these are stretched.
+QImage stretchedRowNumbers(int count, int length)
+{
+    QImage numbers(1, count, QImage::Format_RGB32);
+    for (int y = 0; y < count; ++y)
+        numbers.setPixel(0, y, static_cast<QRgb>(y));
+    return numbers.scaled(1, length, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+}
+
+/// Stretches rows of four-byte pixels downwards without smoothing.
+QImage stretchedDown(const QImage &rows, int height)
+{
+    QImage picture = makeLargePicture(QSize(rows.width(), height), rows.format());
+    const QImage numbers = stretchedRowNumbers(rows.height(), height);
+    if (picture.isNull() || numbers.isNull())
+        return {};
+    const std::size_t bytes = std::size_t{4} * static_cast<std::size_t>(rows.width());
+    for (int y = 0; y < height; ++y)
+        std::memcpy(picture.scanLine(y),
+                    rows.constScanLine(static_cast<int>(numbers.pixel(0, y) & 0xFFFFFFU)), bytes);
+    return picture;
+}
 
 QPixmap colourOverBoard(QSize size, QRgb colour, const QImage &board)
 {
     if (board.isNull() || size.isEmpty())
         return {};
     if (qAlpha(colour) == 255) { // nothing of the board would show
-        QPixmap layer(size);
-        layer.fill(QColor(colour));
-        return layer;
+        QImage layer = makeLargePicture(size, QImage::Format_RGB32);
+        layer.fill(colour);
+        return QPixmap::fromImage(std::move(layer));
     }
-    if (qAlpha(colour) == 0 && !board.hasAlphaChannel()) // nothing of the colour would show
-        return QPixmap::fromImage(board.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
-                                      .convertToFormat(QImage::Format_RGB32));
-    // The colour goes over the stretched board and not over the small one: how blending rounds depends on the
-    // place in the row.
-    QImage layer = board.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
-                       .convertToFormat(QImage::Format_ARGB32);
-    if (layer.isNull())
-        return {};
-    // One row of the colour, drawn again and again: the blending is that of a whole picture of it.
-    QImage row(size.width(), 1, QImage::Format_ARGB32);
-    row.fill(colour);
-    QPainter painter(&layer);
-    for (int y = 0; y < size.height(); ++y)
-        painter.drawImage(0, y, row);
-    painter.end();
-    return QPixmap::fromImage(std::move(layer));
+    // Stretching repeats whole rows, so that the work on each can be done once. (QImage::scaled() finds other
+    // rows for pixels of less than four bytes.)
+    if (board.depth() == 32 && board.height() < size.height())
+        return QPixmap::fromImage(stretchedDown(
+            colourOverStretched(board, QSize(size.width(), board.height()), colour), size.height()));
+    return QPixmap::fromImage(colourOverStretched(board, size, colour));
 }
 
 } // namespace

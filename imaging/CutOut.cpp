@@ -3,6 +3,8 @@
 
 #include "imaging/CutOut.h"
 
+#include "imaging/LargeMemory.h"
+
 #include <QColorSpace>
 
 #include <algorithm>
@@ -17,10 +19,10 @@ void cutRow(const QRgb *photo, const QRgb *mask, int count, QRgb *out)
         out[x] = (photo[x] & 0x00FFFFFFU) | (~mask[x] << 24);
 }
 
-/// A picture like `photo`, its pixels not yet written.
-QImage emptyArgbLike(const QImage &photo)
+/// A picture like `photo` but for its format, its pixels not yet written.
+QImage emptyLike(const QImage &photo, QImage::Format format)
 {
-    QImage picture(photo.size(), QImage::Format_ARGB32);
+    QImage picture = makeLargePicture(photo.size(), format);
     picture.setDevicePixelRatio(photo.devicePixelRatio());
     picture.setDotsPerMeterX(photo.dotsPerMeterX());
     picture.setDotsPerMeterY(photo.dotsPerMeterY());
@@ -34,7 +36,8 @@ QImage cutOut(const QImage &photo, const QImage &mask)
 {
     // An opaque photo is converted and cut in one go.
     const bool opaque = photo.format() == QImage::Format_RGB32 && mask.depth() == 32;
-    QImage result = opaque ? emptyArgbLike(photo) : photo.convertToFormat(QImage::Format_ARGB32);
+    QImage result =
+        opaque ? emptyLike(photo, QImage::Format_ARGB32) : photo.convertToFormat(QImage::Format_ARGB32);
     if (result.isNull() || mask.depth() != 32)
         return result;
     const QImage &source = opaque ? photo : std::as_const(result);
@@ -48,6 +51,30 @@ QImage cutOut(const QImage &photo, const QImage &mask)
         if (opaque)
             std::transform(colours + covered, colours + result.width(), pixels + covered,
                            [](QRgb colour) { return colour | 0xFF000000U; });
+    }
+    return result;
+}
+
+QImage premultiplied(const QImage &picture)
+{
+    // By strips that stay in the cache between their conversion and their copying, so that the pixels of the
+    // picture come from memory and go there once.
+    constexpr int stripPixels = 1 << 15;
+    const auto format = QImage::Format_ARGB32_Premultiplied;
+    if (picture.format() != QImage::Format_ARGB32)
+        return picture.convertToFormat(format);
+    QImage result = emptyLike(picture, format);
+    if (result.isNull())
+        return {};
+    const int rows = std::max(1, stripPixels / picture.width());
+    for (int top = 0; top < picture.height(); top += rows) {
+        const int height = std::min(rows, picture.height() - top);
+        const QImage strip = QImage(picture.constScanLine(top), picture.width(), height,
+                                    picture.bytesPerLine(), picture.format())
+                                 .convertToFormat(format);
+        if (strip.isNull())
+            return {};
+        std::copy_n(strip.constBits(), strip.sizeInBytes(), result.scanLine(top));
     }
     return result;
 }

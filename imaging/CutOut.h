@@ -11,3 +11,7 @@
 ///
 /// `mask` has four bytes a pixel. Null when `photo` is null or memory is short.
 [[nodiscard]] QImage cutOut(const QImage &photo, const QImage &mask);
+
+/// `picture`, in Format_ARGB32, in the format that is fast to draw, Format_ARGB32_Premultiplied. Null when it
+/// is null or memory is short.
+[[nodiscard]] QImage premultiplied(const QImage &picture);

@@ -5,9 +5,8 @@
 
 #include "imaging/BlurKernels.h"
 #include "imaging/GaussianWeights.h"
+#include "imaging/LargeMemory.h"
 #include "imaging/RowFilters.h"
-
-#include <QImage>
 
 #include <algorithm>
 #include <array>
@@ -218,6 +217,12 @@ private:
     int m_height;
 };
 
+/// An even size counts as the next odd one.
+int radiusOf(int size)
+{
+    return std::max(size, 0) / 2;
+}
+
 bool canBlur(const QImage &src, const QImage &dst)
 {
     return &src != &dst && !src.isNull() && src.size() == dst.size() && src.depth() == 32 &&
@@ -233,7 +238,7 @@ void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma,
         return;
     const int width = src.width();
     const int height = src.height();
-    const int radius = std::max(size, 0) / 2; // an even size counts as the next odd one
+    const int radius = radiusOf(size);
     const Progress report(progress, height);
     if (width <= 2LL * radius || height <= 2LL * radius) {
         report.rowDone(height - 1, 0);
@@ -252,4 +257,22 @@ void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma,
         strip.combine(ready, dst.scanLine(ready));
         report.rowDone(ready, Progress::passShare);
     }
+}
+
+QImage roomForBlur(const QImage &src, int size)
+{
+    QImage room = makeLargePicture(src.size(), src.format());
+    if (room.isNull())
+        return room;
+    const int width = src.width();
+    const int band = std::min(radiusOf(size), width);
+    for (int y = 0; y < src.height(); ++y) {
+        const auto *from = reinterpret_cast<const QRgb *>(src.constScanLine(y));
+        auto *to = reinterpret_cast<QRgb *>(room.scanLine(y));
+        const bool between = y >= band && y < src.height() - band && width > 2 * band;
+        std::copy_n(from, between ? band : width, to);
+        if (between)
+            std::copy_n(from + width - band, band, to + width - band);
+    }
+    return room;
 }

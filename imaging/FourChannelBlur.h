@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <functional>
+#include <QImage>
 
-class QImage;
+#include <functional>
 
 /// Called with a percentage that never falls; may be empty.
 using ProgressCallback = std::function<void(int)>;
@@ -20,3 +20,8 @@ using ProgressCallback = std::function<void(int)>;
 /// `progress` rises to just below 90.
 void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma,
                       const ProgressCallback &progress);
+
+/// A picture to be handed to blurFourChannels() as `dst`, with the same `size`: where that leaves it alone it
+/// is a copy of `src`, which has four bytes a pixel, and elsewhere its pixels are not yet written. Null when
+/// memory is short.
+[[nodiscard]] QImage roomForBlur(const QImage &src, int size);

@@ -3,12 +3,14 @@
 
 #include "imaging/IndexPicture.h"
 
+#include "imaging/LargeMemory.h"
+
 #include <algorithm>
 #include <cstddef>
 
 QImage paintIndices(QSize size, const QList<int> &indices, QRgb ink, QRgb paper)
 {
-    QImage picture(size, QImage::Format_RGB32);
+    QImage picture = makeLargePicture(size, QImage::Format_RGB32);
     if (picture.isNull())
         return picture;
     // Rows of four-byte pixels have no padding, so that an index is a position in the picture's memory.

@@ -3,6 +3,7 @@
 
 #include "imaging/PictureFile.h"
 
+#include "imaging/LargeMemory.h"
 #include "imaging/PictureCompleteness.h"
 
 #include <QFile>
@@ -13,6 +14,21 @@
 namespace {
 
 constexpr int allocationLimitInMiB = 1024;
+constexpr qint64 largestPixelCount = (qint64{allocationLimitInMiB} << 20) / 4;
+
+/// A picture that the decoder finds fit for its pixels and therefore takes, or a null one. Only for decoders
+/// that write every pixel of what they are given.
+QImage roomFor(const QImageReader &reader)
+{
+    const QByteArray file = reader.format();
+    const QImage::Format pixels = reader.imageFormat();
+    const QSize size = reader.size();
+    const bool known = (file == "jpeg" || file == "png") &&
+                       (pixels == QImage::Format_RGB32 || pixels == QImage::Format_ARGB32);
+    if (!known || size.isEmpty() || qint64{size.width()} * size.height() > largestPixelCount)
+        return {}; // the decoder gets its own
+    return makeLargePicture(size, pixels);
+}
 
 } // namespace
 
@@ -26,7 +42,7 @@ QImage readPicture(const QString &path)
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    QImage picture;
+    QImage picture = roomFor(reader);
     if (!reader.read(&picture))
         return {};
     picture.setDevicePixelRatio(1.0); // Qt takes "@2x" in a file's name for a hint; here a pixel is a pixel

@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -217,7 +216,7 @@ private:
     MarkPlane<Mark> m_plane;
     std::size_t m_pixels;
     std::vector<std::uint8_t> m_nearSeeds; ///< for each stretch, whether it holds a neighbour of a seed
-    std::unique_ptr<StepCosts[]> m_costs;
+    LargeArray<StepCosts> m_costs;
     LevelQueues m_queues;
     std::uint64_t m_pops = 0;
     int m_popsToReport = popsBetweenReports;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "imaging/LargeMemory.h"
 #include "segmentation/Strips.h"
 
 #include <array>
@@ -74,8 +75,9 @@ constexpr std::uint32_t joined(std::uint32_t a, std::uint32_t b)
 
 /// Calls visit(begin, end, region) for the runs of one region among the marks, in increasing order. Flooded
 /// regions are broad: eight bytes of marks are compared at a time.
-template <typename Mark, typename Visit> void forEachRun(const std::vector<Mark> &marks, Visit visit)
+template <typename Marks, typename Visit> void forEachRun(const Marks &marks, Visit visit)
 {
+    using Mark = typename Marks::value_type;
     constexpr std::size_t step = 8 / sizeof(Mark);
     for (std::size_t begin = 0; begin < marks.size();) {
         const Mark mark = marks[begin];
@@ -98,7 +100,7 @@ template <typename Mark> struct MarkPlane
     std::size_t width;
     std::size_t height;
     Strips strips;
-    std::vector<Mark> marks; ///< laid out in strips
+    std::vector<Mark, LargeAllocator<Mark>> marks; ///< laid out in strips
 
     MarkPlane(int w, int h)
         : width(static_cast<std::size_t>(w)),
@@ -127,9 +129,10 @@ template <typename Mark> struct MarkPlane
             const Mark *const from = marks.data() + strips.at(0, y);
             for (std::size_t x = 0; x < width; ++x)
                 row[x] = from[x * Strips::rows];
-            forEachRun(row, [&](std::size_t begin, std::size_t end, std::size_t region) {
-                visit(y * width + begin, y * width + end, region);
-            });
+            forEachRun(row,
+                       [&](std::size_t begin, std::size_t end, std::size_t region) {
+                           visit(y * width + begin, y * width + end, region);
+                       });
         }
     }
 };

@@ -137,12 +137,14 @@ void interleave(const std::vector<StepCosts> &rows, std::size_t width, StepCosts
 
 } // namespace
 
-std::unique_ptr<StepCosts[]> makeStepCosts(const QImage &image, const std::uint8_t *edges, EdgeCost rule)
+LargeArray<StepCosts> makeStepCosts(const QImage &image, const std::uint8_t *edges, EdgeCost rule)
 {
     const auto width = static_cast<std::size_t>(image.width());
     const auto last = static_cast<std::size_t>(image.height()) - 1;
     const Strips strips(image.width(), image.height());
-    auto costs = std::make_unique_for_overwrite<StepCosts[]>(strips.size());
+    LargeArray<StepCosts> costs = makeLargeArray<StepCosts>(strips.size());
+    if (costs == nullptr)
+        throw std::bad_alloc();
     std::vector<StepCosts> rows(strips.length());
     std::vector<std::uint8_t> toRight(width);
     std::vector<std::uint8_t> toAbove(width);

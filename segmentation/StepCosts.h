@@ -3,10 +3,10 @@
 
 #pragma once
 
+#include "imaging/LargeMemory.h"
 #include "segmentation/Strips.h"
 
 #include <cstdint>
-#include <memory>
 
 class QImage;
 
@@ -40,7 +40,7 @@ inline std::uint8_t pixelCost(std::uint8_t edge, std::uint8_t difference, EdgeCo
 }
 
 /// The costs of all steps from the pixels within the one-pixel frame, laid out in strips. What stands in the
-/// other places means nothing.
-std::unique_ptr<StepCosts[]> makeStepCosts(const QImage &image, const std::uint8_t *edges, EdgeCost rule);
+/// other places means nothing. Throws std::bad_alloc.
+LargeArray<StepCosts> makeStepCosts(const QImage &image, const std::uint8_t *edges, EdgeCost rule);
 
 } // namespace flooding
