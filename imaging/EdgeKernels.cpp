@@ -6,6 +6,7 @@
 #include <hwy/foreach_target.h>
 // The line above comes first.
 #include <hwy/highway.h>
+#include <hwy/cache_control.h>
 
 #include "imaging/EdgeKernels.h"
 #include "imaging/GaussianWeights.h"
@@ -42,11 +43,11 @@ inline double smoothInDoubles(const std::int16_t *centre, const Weights &weights
 }
 
 /// Both passes for one pixel in doubles, every operation in the order that defines the result.
-inline std::int16_t blurInDoubles(const Neighbourhood &from, int column, const Weights &weights)
+inline std::int16_t blurInDoubles(const std::int16_t *const *levels, int column, const Weights &weights)
 {
     std::array<double, rows> smooth;
     for (std::size_t i = 0; i < smooth.size(); ++i)
-        smooth[i] = smoothInDoubles(from.levels[i] + column, weights);
+        smooth[i] = smoothInDoubles(levels[i] + column, weights);
     int value = static_cast<int>(smooth[radius] * weights.exact[0]);
     for (std::size_t k = 1; k <= radius; ++k)
         value = static_cast<int>(value + (smooth[radius + k] + smooth[radius - k]) * weights.exact[k]);
@@ -88,15 +89,17 @@ int laneCount()
 
 void SplitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
 {
-    const int lanes = static_cast<int>(hn::Lanes(levelTag));
-    const hn::Rebind<std::uint8_t, decltype(levelTag)> tag;
+    const auto byte = hn::Set(intTag, 0xFF);
     int x = 0;
-    for (; x + lanes <= count; x += lanes) {
-        hn::VFromD<decltype(tag)> blue, green, red, unused;
-        hn::LoadInterleaved4(tag, pixels + std::ptrdiff_t{x} * 4, blue, green, red, unused);
-        hn::StoreU(hn::PromoteTo(levelTag, blue), levelTag, colours[0] + x);
-        hn::StoreU(hn::PromoteTo(levelTag, green), levelTag, colours[1] + x);
-        hn::StoreU(hn::PromoteTo(levelTag, red), levelTag, colours[2] + x);
+    for (; x + laneCount() <= count; x += laneCount()) {
+        hwy::Prefetch(pixels + std::ptrdiff_t{count} * 8 + std::ptrdiff_t{x} * 4);
+        const auto whole = hn::LoadU(intTag, reinterpret_cast<const std::int32_t *>(pixels) + x);
+        const auto blue = hn::And(whole, byte);
+        const auto green = hn::And(hn::ShiftRight<8>(whole), byte);
+        const auto red = hn::And(hn::ShiftRight<16>(whole), byte);
+        hn::StoreU(hn::DemoteTo(shortTag, blue), shortTag, colours[0] + x);
+        hn::StoreU(hn::DemoteTo(shortTag, green), shortTag, colours[1] + x);
+        hn::StoreU(hn::DemoteTo(shortTag, red), shortTag, colours[2] + x);
     }
     for (; x < count; ++x)
         for (std::size_t colour = 0; colour < colours.size(); ++colour)
@@ -177,10 +180,10 @@ HWY_INLINE IntMask NearWhole(IntVector q, int fractionMask, int bound, int nothi
     return hn::AndNot(hn::Eq(q, hn::Set(intTag, nothing)), hn::Lt(fraction, hn::Set(intTag, bound)));
 }
 
-/// Redoes the pixels from `column` on that floats can't decide.
+/// Redoes the pixels from `column` on that floats can't decide, from the `levels` of `rows` rows.
 HWY_NOINLINE void RedoInDoubles(IntVector q0, IntVector q1, IntVector q2, IntVector q3,
-                                const Neighbourhood &from, int column, int end, const Weights &weights,
-                                std::int16_t *out)
+                                const std::int16_t *const *levels, int column, int end,
+                                const Weights &weights, std::int16_t *out)
 {
     const auto nearInner = [&weights](IntVector q) HWY_ATTR {
         return NearWhole(q, innerFraction, 2 * weights.innerSlack, floatExponent + weights.innerSlack);
@@ -194,7 +197,7 @@ HWY_NOINLINE void RedoInDoubles(IntVector q0, IntVector q1, IntVector q2, IntVec
     hn::StoreMaskBits(intTag, near, bits);
     for (int i = 0; i < laneCount() && column + i < end; ++i)
         if ((bits[i / 8] >> (i % 8) & 1) != 0)
-            out[column + i] = blurInDoubles(from, column + i, weights);
+            out[column + i] = blurInDoubles(levels, column + i, weights);
 }
 
 // Why floats give the bytes of the doubles. The filter cuts after every pair of taps: with the products
@@ -215,35 +218,59 @@ HWY_NOINLINE void RedoInDoubles(IntVector q0, IntVector q1, IntVector q2, IntVec
 //
 // The outermost pair has a finer unit: over a plain of one grey level no product but the outermost of grey
 // 239 comes near a whole number, and with that unit it passes. So a flat area is never slow.
-void CutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out)
+class RowCutter
 {
-    constexpr int exponentInSum = 3 * (floatExponent >> innerBits) + (floatExponent >> outerBits);
-    const auto w0 = hn::Set(floatTag, weights.scaled[0]);
-    const auto w1 = hn::Set(floatTag, weights.scaled[1]);
-    const auto w2 = hn::Set(floatTag, weights.scaled[2]);
-    const auto w3 = hn::Set(floatTag, weights.scaled[3]);
-    const auto innerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(weights.innerSlack));
-    const auto outerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(weights.outerSlack));
-    const auto innerBound = hn::Set(intTag, 2 * weights.innerSlack);
-    const auto outerBound = hn::Set(intTag, 2 * weights.outerSlack);
-    const auto [above3, above2, above1, centre, below1, below2, below3] = from.smooth;
-    for (int x = 0; x < count - 2 * radius; x += laneCount()) {
-        const auto t0 = hn::LoadU(floatTag, centre + x);
-        const auto t1 = hn::Add(hn::LoadU(floatTag, above1 + x), hn::LoadU(floatTag, below1 + x));
-        const auto t2 = hn::Add(hn::LoadU(floatTag, above2 + x), hn::LoadU(floatTag, below2 + x));
-        const auto t3 = hn::Add(hn::LoadU(floatTag, above3 + x), hn::LoadU(floatTag, below3 + x));
-        const auto q0 = hn::BitCast(intTag, hn::MulAdd(t0, w0, innerOffset));
-        const auto q1 = hn::BitCast(intTag, hn::MulAdd(t1, w1, innerOffset));
-        const auto q2 = hn::BitCast(intTag, hn::MulAdd(t2, w2, innerOffset));
-        const auto q3 = hn::BitCast(intTag, hn::MulAdd(t3, w3, outerOffset));
+public:
+    RowCutter(const Weights &weights, int end) : m_weights(weights), m_end(end) {}
+
+    /// Cuts the pixels from `column` on, whose terms are `t0` .. `t3`.
+    HWY_INLINE void Cut(FloatVector t0, FloatVector t1, FloatVector t2, FloatVector t3,
+                        const std::int16_t *const *levels, int column, std::int16_t *out) const
+    {
+        constexpr int exponentInSum = 3 * (floatExponent >> innerBits) + (floatExponent >> outerBits);
+        const auto innerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(m_weights.innerSlack));
+        const auto outerOffset = hn::Set(floatTag, floatOffset + static_cast<float>(m_weights.outerSlack));
+        const auto q0 =
+            hn::BitCast(intTag, hn::MulAdd(t0, hn::Set(floatTag, m_weights.scaled[0]), innerOffset));
+        const auto q1 =
+            hn::BitCast(intTag, hn::MulAdd(t1, hn::Set(floatTag, m_weights.scaled[1]), innerOffset));
+        const auto q2 =
+            hn::BitCast(intTag, hn::MulAdd(t2, hn::Set(floatTag, m_weights.scaled[2]), innerOffset));
+        const auto q3 =
+            hn::BitCast(intTag, hn::MulAdd(t3, hn::Set(floatTag, m_weights.scaled[3]), outerOffset));
         const auto floors = hn::Add(SumOfFloors(q0, q1, q2), hn::ShiftRight<outerBits>(q3));
         const auto value = hn::Sub(floors, hn::Set(intTag, exponentInSum));
-        hn::StoreU(hn::DemoteTo(shortTag, value), shortTag, out + x + radius);
+        hn::StoreU(hn::DemoteTo(shortTag, value), shortTag, out + column);
 
-        const auto near = hn::Or(hn::Lt(SmallestFraction(q0, q1, q2), innerBound),
-                                 hn::Lt(hn::And(q3, hn::Set(intTag, outerFraction)), outerBound));
+        const auto near = hn::Or(
+            hn::Lt(SmallestFraction(q0, q1, q2), hn::Set(intTag, 2 * m_weights.innerSlack)),
+            hn::Lt(hn::And(q3, hn::Set(intTag, outerFraction)), hn::Set(intTag, 2 * m_weights.outerSlack)));
         if (HWY_UNLIKELY(!hn::AllFalse(intTag, near)))
-            RedoInDoubles(q0, q1, q2, q3, from, x + radius, count - radius, weights, out);
+            RedoInDoubles(q0, q1, q2, q3, levels, column, m_end, m_weights, out);
+    }
+
+private:
+    const Weights &m_weights;
+    int m_end;
+};
+
+void CutRows(const Neighbourhood &from, int count, const Weights &weights,
+             const std::array<std::int16_t *, 2> &out)
+{
+    const Weights local = weights; // what is written through `out` can't change it
+    const RowCutter cutter(local, count - radius);
+    const auto [r0, r1, r2, r3, r4, r5, r6, r7] = from.smooth;
+    for (int x = 0; x < count - 2 * radius; x += laneCount()) {
+        const auto s1 = hn::LoadU(floatTag, r1 + x);
+        const auto s2 = hn::LoadU(floatTag, r2 + x);
+        const auto s3 = hn::LoadU(floatTag, r3 + x);
+        const auto s4 = hn::LoadU(floatTag, r4 + x);
+        const auto s5 = hn::LoadU(floatTag, r5 + x);
+        const auto s6 = hn::LoadU(floatTag, r6 + x);
+        cutter.Cut(s3, hn::Add(s2, s4), hn::Add(s1, s5), hn::Add(hn::LoadU(floatTag, r0 + x), s6),
+                   from.levels.data(), x + radius, out[0]);
+        cutter.Cut(s4, hn::Add(s3, s5), hn::Add(s2, s6), hn::Add(s1, hn::LoadU(floatTag, r7 + x)),
+                   from.levels.data() + 1, x + radius, out[1]);
     }
 }
 
@@ -336,7 +363,7 @@ namespace edgekernels {
 
 HWY_EXPORT(SplitRow);
 HWY_EXPORT(SmoothRow);
-HWY_EXPORT(CutRow);
+HWY_EXPORT(CutRows);
 HWY_EXPORT(GradientRow);
 HWY_EXPORT(StatisticsOf);
 HWY_EXPORT(LiftAbove);
@@ -375,9 +402,10 @@ void smoothRow(const std::int16_t *in, int count, const Weights &weights, float 
     HWY_DYNAMIC_DISPATCH(SmoothRow)(in, count, weights, out);
 }
 
-void cutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out)
+void cutRows(const Neighbourhood &from, int count, const Weights &weights,
+             const std::array<std::int16_t *, 2> &out)
 {
-    HWY_DYNAMIC_DISPATCH(CutRow)(from, count, weights, out);
+    HWY_DYNAMIC_DISPATCH(CutRows)(from, count, weights, out);
 }
 
 void gradientRow(const std::array<RowTriple, 3> &colours, int count, std::uint8_t *out)

@@ -37,11 +37,11 @@ public:
     int outerSlack = 0; ///< for the outermost pair
 };
 
-/// The rows y - radius .. y + radius of one colour.
+/// The rows y - radius .. y + 1 + radius of one colour: what the rows y and y + 1 are made of.
 struct Neighbourhood
 {
-    std::array<const std::int16_t *, rows> levels{};
-    std::array<const float *, rows> smooth{}; ///< from smoothRow()
+    std::array<const std::int16_t *, rows + 1> levels{};
+    std::array<const float *, rows + 1> smooth{}; ///< from smoothRow()
 };
 
 /// Three consecutive rows of one blurred colour.
@@ -71,9 +71,10 @@ void splitRow(const std::uint8_t *pixels, int count, const std::array<std::int16
 /// places.
 void smoothRow(const std::int16_t *in, int count, const Weights &weights, float *out);
 
-/// Vertical pass for the columns radius .. count - radius - 1 of `out`, cut to a byte after every pair of
-/// taps.
-void cutRow(const Neighbourhood &from, int count, const Weights &weights, std::int16_t *out);
+/// Vertical pass for the columns radius .. count - radius - 1 of the rows y and y + 1, cut to a byte after
+/// every pair of taps. Two rows at a time, since they share most of what has to be loaded for them.
+void cutRows(const Neighbourhood &from, int count, const Weights &weights,
+             const std::array<std::int16_t *, 2> &out);
 
 /// Gradient magnitudes of the three colours, each modulo 256, averaged. The first and last column become 0.
 void gradientRow(const std::array<RowTriple, 3> &colours, int count, std::uint8_t *out);

@@ -24,7 +24,7 @@ constexpr double sigma = 1.4;
 /// The rows of one colour that the smoothing and the derivative reach.
 struct Channel
 {
-    explicit Channel(int width) : levels(width, rows), smooth(width, rows), blurred(width, 3) {}
+    explicit Channel(int width) : levels(width, rows + 1), smooth(width, rows + 1), blurred(width, 4) {}
     RowRing<std::int16_t> levels;
     RowRing<float> smooth;
     RowRing<std::int16_t> blurred;
@@ -43,28 +43,22 @@ public:
           m_weights(sigma),
           m_channels{Channel(m_width + rowPadding), Channel(m_width + rowPadding),
                      Channel(m_width + rowPadding)},
-          m_averages(static_cast<std::size_t>(m_width + rowPadding))
+          m_unused(static_cast<std::size_t>(m_width + rowPadding))
     {
     }
 
-    /// Averaged gradient magnitudes of row `y`, neither the first nor the last; each row is asked for once,
-    /// in order.
-    const std::uint8_t *row(int y)
+    /// Writes the averaged gradient magnitudes of row `y`, neither the first nor the last; each row is asked
+    /// for once, in order. `out` has room for the padding.
+    void row(int y, std::uint8_t *out)
     {
-        for (; m_nextBlurred <= y + 1; ++m_nextBlurred) {
-            const int needed = std::min(m_nextBlurred + radius, m_height - 1);
-            for (; m_nextTaken <= needed; ++m_nextTaken)
-                take(m_nextTaken);
-            for (Channel &channel : m_channels)
-                blur(channel, m_nextBlurred);
-        }
+        while (m_nextBlurred <= y + 1)
+            blurNext();
         std::array<RowTriple, 3> triples;
         for (std::size_t i = 0; i < triples.size(); ++i) {
             RowRing<std::int16_t> &blurred = m_channels[i].blurred;
             triples[i] = {blurred.row(y - 1), blurred.row(y), blurred.row(y + 1)};
         }
-        gradientRow(triples, m_width, m_averages.data());
-        return m_averages.data();
+        gradientRow(triples, m_width, out);
     }
 
 private:
@@ -76,23 +70,44 @@ private:
             smoothRow(channel.levels.row(y), m_width, m_weights, channel.smooth.row(y));
     }
 
-    void blur(Channel &channel, int y)
+    [[nodiscard]] bool isInner(int y) const
     {
-        const std::int16_t *unchanged = channel.levels.row(y);
-        std::int16_t *blurred = channel.blurred.row(y);
-        const bool inner = y >= radius && y < m_height - radius && m_width > 2 * radius;
-        if (!inner) {
-            std::copy_n(unchanged, m_width, blurred);
-            return;
+        return y >= radius && y < m_height - radius && m_width > 2 * radius;
+    }
+
+    /// Blurs two rows, or a single one at the border.
+    void blurNext()
+    {
+        const int y = m_nextBlurred;
+        const bool both = isInner(y) && isInner(y + 1);
+        const int last = both ? y + 1 : y;
+        for (; m_nextTaken <= std::min(last + radius, m_height - 1); ++m_nextTaken)
+            take(m_nextTaken);
+        for (Channel &channel : m_channels) {
+            if (isInner(y))
+                blurInner(channel, y, both ? channel.blurred.row(y + 1) : m_unused.data());
+            else
+                std::copy_n(channel.levels.row(y), m_width, channel.blurred.row(y));
         }
+        m_nextBlurred = last + 1;
+    }
+
+    void blurInner(Channel &channel, int y, std::int16_t *next)
+    {
         Neighbourhood from;
-        for (int i = 0; i < rows; ++i) {
-            from.levels[static_cast<std::size_t>(i)] = channel.levels.row(y - radius + i);
-            from.smooth[static_cast<std::size_t>(i)] = channel.smooth.row(y - radius + i);
+        for (int i = 0; i <= rows; ++i) {
+            const int row =
+                std::min(y - radius + i, m_nextTaken - 1); // a single row has no use for the last one
+            from.levels[static_cast<std::size_t>(i)] = channel.levels.row(row);
+            from.smooth[static_cast<std::size_t>(i)] = channel.smooth.row(row);
         }
-        cutRow(from, m_width, m_weights, blurred);
-        std::copy_n(unchanged, radius, blurred); // the border band stays
-        std::copy_n(unchanged + m_width - radius, radius, blurred + m_width - radius);
+        const std::array<std::int16_t *, 2> blurred{channel.blurred.row(y), next};
+        cutRows(from, m_width, m_weights, blurred);
+        for (std::size_t i = 0; i < blurred.size(); ++i) { // the border band stays
+            const std::int16_t *unchanged = from.levels[i + radius];
+            std::copy_n(unchanged, radius, blurred[i]);
+            std::copy_n(unchanged + m_width - radius, radius, blurred[i] + m_width - radius);
+        }
     }
 
     const QImage &m_picture;
@@ -100,7 +115,7 @@ private:
     int m_height;
     Weights m_weights;
     std::array<Channel, 3> m_channels;
-    std::vector<std::uint8_t> m_averages;
+    std::vector<std::int16_t> m_unused; ///< where the second row goes of a single one
     int m_nextTaken = 0;
     int m_nextBlurred = 0;
 };
@@ -110,13 +125,21 @@ RowStatistics averageGradients(const QImage &picture, std::uint8_t *edges)
     const int width = picture.width();
     RowStatistics all;
     EdgeStrip strip(picture);
+    std::vector<std::uint8_t> padded(static_cast<std::size_t>(width) + rowPadding);
+    const auto last = edges + static_cast<std::ptrdiff_t>(picture.height() - 1) * width;
     for (int y = 0; y < picture.height(); ++y) {
         std::uint8_t *out = edges + static_cast<std::ptrdiff_t>(y) * width;
         if (y == 0 || y == picture.height() - 1) {
             std::memset(out, 0, static_cast<std::size_t>(width));
             continue;
         }
-        std::memcpy(out, strip.row(y), static_cast<std::size_t>(width));
+        // The padding of a row falls on rows that are yet to come, if there are any.
+        if (last - (out + width) >= rowPadding) {
+            strip.row(y, out);
+        } else {
+            strip.row(y, padded.data());
+            std::memcpy(out, padded.data(), static_cast<std::size_t>(width));
+        }
         all.add(statisticsOf(out, width));
     }
     return all;

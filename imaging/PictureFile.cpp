@@ -6,6 +6,7 @@
 #include "imaging/LargeMemory.h"
 #include "imaging/PictureCompleteness.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr int allocationLimitInMiB = 1024;
+constexpr qint64 largestJpeg = qint64{256} << 20; // more bytes than any picture within the limits takes
 constexpr qint64 largestPixelCount = (qint64{allocationLimitInMiB} << 20) / 4;
 
 /// A picture that the decoder finds fit for its pixels and therefore takes, or a null one. Only for decoders
@@ -35,11 +37,21 @@ QImage roomFor(const QImageReader &reader)
 QImage readPicture(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !isCompletePicture(file))
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray beginning = file.peek(64);
+    QBuffer memory; // gone through twice, a JPEG is read once
+    if (beginsLikeJpeg(beginning)) {
+        if (file.size() > largestJpeg)
+            return {};
+        memory.setData(file.readAll());
+        memory.open(QIODevice::ReadOnly);
+    }
+    if (memory.isOpen() ? !isCompleteJpeg(memory.data()) : !isCompleteBmp(beginning, file.size()))
         return {};
     // Qt's own limit refuses what today's cameras make.
     QImageReader::setAllocationLimit(allocationLimitInMiB);
-    QImageReader reader(path);
+    QImageReader reader(memory.isOpen() ? static_cast<QIODevice *>(&memory) : &file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     QImage picture = roomFor(reader);
