@@ -49,7 +49,8 @@ void CBrushCommand::undo()
 
 void CBrushCommand::showFirstTime()
 {
-    if (m_item != nullptr)
+    // An item that shows it already would be repainted from end to end.
+    if (m_item != nullptr && m_item->pixmap().cacheKey() != m_afterPixmap->cacheKey())
         m_item->setPixmap(*m_afterPixmap);
     m_afterPixmap = nullptr; // it is the caller's, and soon gone
 }

@@ -5,14 +5,80 @@
 
 #include "imaging/Halving.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace {
 
 constexpr std::size_t mostLevels = 16; // down to a pixel
+
+/// While it lives, what is changed in a scene is not repainted.
+///
+/// An item that gets another pixmap has all of itself repainted, however little of it looks different. A
+/// scene collects what has to be repainted until it gets round to its posted events; having it do so at once
+/// tells apart what was due before, which goes to the screen, and what the new pixmap asks for, which does
+/// not.
+class RepaintsHeldBack
+{
+public:
+    explicit RepaintsHeldBack(QGraphicsScene *scene) : m_scene(scene)
+    {
+        if (m_scene == nullptr)
+            return;
+        collect();
+        for (const QGraphicsView *view : m_scene->views())
+            if (repaintsInParts(*view) && view->viewport()->updatesEnabled()) {
+                m_viewports.push_back(view->viewport());
+                // QWidget::setUpdatesEnabled() would repaint everything when it is switched on again.
+                view->viewport()->setAttribute(Qt::WA_UpdatesDisabled, true);
+            }
+    }
+    ~RepaintsHeldBack()
+    {
+        if (m_scene == nullptr)
+            return;
+        collect();
+        for (QWidget *viewport : m_viewports)
+            viewport->setAttribute(Qt::WA_UpdatesDisabled, false);
+    }
+    RepaintsHeldBack(const RepaintsHeldBack &) = delete;
+    RepaintsHeldBack &operator=(const RepaintsHeldBack &) = delete;
+
+private:
+    /// The others repaint everything or nothing, and remember that they are about to.
+    static bool repaintsInParts(const QGraphicsView &view)
+    {
+        return view.viewportUpdateMode() != QGraphicsView::FullViewportUpdate &&
+               view.viewportUpdateMode() != QGraphicsView::NoViewportUpdate;
+    }
+
+    void collect() { QCoreApplication::sendPostedEvents(m_scene, QEvent::MetaCall); }
+
+    QGraphicsScene *m_scene;
+    std::vector<QWidget *> m_viewports;
+};
+
+/// How many of its pixels around a change the item can look different: where it is reduced, what makes a few
+/// pixels of the screen.
+int reachOfChange(const QGraphicsItem &item)
+{
+    constexpr qreal screenPixels = 3.0;
+    qreal reach = 1.0;
+    for (const QGraphicsView *view : item.scene()->views()) {
+        const QTransform toScreen = item.deviceTransform(view->viewportTransform());
+        const qreal scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(toScreen);
+        reach = std::max(reach, screenPixels / std::max(scale, 1e-6));
+    }
+    return static_cast<int>(std::ceil(std::min(reach, 1e6)));
+}
 
 } // namespace
 
@@ -73,13 +139,20 @@ void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &a
         return;
     auto *picture = dynamic_cast<PictureItem *>(&item);
     const bool reducedIsCurrent = picture != nullptr && picture->m_reducedFrom == pixmap.cacheKey();
-    item.setPixmap(QPixmap()); // painting on a shared pixmap would copy all of it
-    QPainter painter(&pixmap);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(changed.topLeft(),
-                      image.copy(changed).convertToFormat(QImage::Format_ARGB32_Premultiplied));
-    painter.end();
-    item.setPixmap(pixmap);
-    if (reducedIsCurrent)
-        picture->renewReduced(changed);
+    {
+        const RepaintsHeldBack held(item.scene());
+        item.setPixmap(QPixmap()); // painting on a shared pixmap would copy all of it
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.drawImage(changed.topLeft(),
+                          image.copy(changed).convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        painter.end();
+        item.setPixmap(pixmap);
+        if (reducedIsCurrent)
+            picture->renewReduced(changed);
+    }
+    if (item.scene() != nullptr) {
+        const int reach = reachOfChange(item);
+        item.update(QRectF(changed.adjusted(-reach, -reach, reach, reach)));
+    }
 }

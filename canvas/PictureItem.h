@@ -31,5 +31,6 @@ private:
 };
 
 /// Brings the pixels of `area` in the pixmap of `item` up to date with `image`, a picture in Format_ARGB32 of
-/// the same size. Only these are converted; a pixmap of another size or without alpha is replaced as a whole.
+/// the same size. Only these are converted and repainted; a pixmap of another size or without alpha is
+/// replaced as a whole.
 void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area);
