@@ -26,7 +26,8 @@ class Ui_MainWindow;
 /// The program's one window. It owns the state that the canvas, the mask pipeline and the output share; the
 /// loops over pixels are elsewhere. Its bodies are split by concern over MainWindow*.cpp.
 ///
-/// The names of the slots bind them to the actions of the form, misspellings included.
+/// The names of the slots bind them to the actions of the form, misspellings included: setupUi() connects
+/// on_<object>_<signal>() by name, and no connect() is to be found.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -35,21 +36,28 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /// Reads the picture named by `currentFile` and makes it the one that is worked on.
+    /// Reads the picture named by `currentFile` and makes it the one that is worked on. On failure the status
+    /// bar says so and both scenes are left empty; `workingImage`, `imagePixmap` and `edgeMap` stay those of
+    /// the photo before.
     void open();
-    /// Writes the topmost picture of the editing scene as JPEG.
+    /// Writes the topmost picture of the editing scene (the overlay, if there is one) as JPEG, whatever the
+    /// name ends in. A failure is not told.
     void save(const QString &path);
 
     /// Fills `edgeMap` from `workingImage`.
     void colorsobel();
     /// Smooths the four-byte pixels of `src` into `dst`, with progress; see blurFourChannels().
     void blur(QImage *src, QImage *dst, int size, double sigma);
-    /// Recomputes `outmask` from the marker dabs on the editing scene.
+    /// Recomputes `outmask` from the marker dabs on the editing scene and takes the overlay off it.
     void updatemask();
     /// Rebuilds the mask and the preview scene from `outmask`.
     void updatepreview();
+    /// Makes `maskImage` from `outmask`.
     void updatepreviewmask();
+    /// Builds the preview scene anew, with what applypreviewmasktopixmap() makes.
     void applypreviewmask();
+    /// Makes both pictures of the preview, after cutting `previewImage` anew if it is null. Leaves them alone
+    /// when it is and there is no photo to cut from.
     void applypreviewmasktopixmap(QPixmap *background, QPixmap *object);
     /// Reads the tool settings from the store.
     void updatetoolssettings();
@@ -119,38 +127,39 @@ private:
 
     std::unique_ptr<Ui_MainWindow> form;
     QSettings settings;
-    QGraphicsScene imageScene;
-    QGraphicsScene previewScene;
-    QBitmap emptyMask;
-    QImage maskImage;
-    QString currentFile;
-    bool isOriginalFile = false;
-    QImage workingImage;
-    LargeArray<unsigned char> edgeMap;
-    ItemPointer<QGraphicsPixmapItem> maskItem;
-    QList<int> outmask;
-    QPoint previewOffset;
-    ItemPointer<QGraphicsPixmapItem> backgroundItem;
-    QImage previewImage;
-    QTimer brushTimer;
-    QTimer skipLastRectTimer;
-    QRect lastBrushRect;
-    bool skipLastRect = true;
-    QList<QRect> pendingBrushRects;
+    QGraphicsScene imageScene;                 ///< for editing: the photo, the dabs, the overlay
+    QGraphicsScene previewScene;               ///< the background and the cut-out
+    QBitmap emptyMask;                         ///< stays null: setMask() with it drops transparency
+    QImage maskImage;                          ///< RGB32, black keeps, white removes; soft where smoothEdges
+    QString currentFile;                       ///< path of the photo; empty once a file dialog was cancelled
+    bool isOriginalFile = false;               ///< currentFile is the user's photo: saving over it asks first
+    QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
+    LargeArray<unsigned char> edgeMap;         ///< of workingImage, a byte a pixel
+    ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
+    QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order
+    QPoint previewOffset;                      ///< where the object lies on the preview, in pixels
+    ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's
+    QImage previewImage;                             ///< the cut-out, ARGB32, brushed; null: to be cut anew
+    QTimer brushTimer;                               ///< ends the wait for more dabs of a batch
+    QTimer skipLastRectTimer;                        ///< sets skipLastRect a while after a batch
+    QRect lastBrushRect;                             ///< the last dab of the last batch, in scene pixels
+    bool skipLastRect = true; ///< false: lastBrushRect is left out of the next batch; never in this program
+    QList<QRect> pendingBrushRects; ///< the batch that is being collected
     QUndoStack undoStack;
-    int entriesOlderThanPreviewItem = 0;
+    int entriesOlderThanPreviewItem = 0; ///< of undoStack; their own item is gone, previewItem must follow
     QPixmap imagePixmap;
+    // Bytes, as the settings hold them; for units see SettingsKeys.h. The view has sizes of its own.
     unsigned char keepMarkerSize = 0;
     unsigned char removeMarkerSize = 0;
     unsigned char keepBrushSize = 0;
     unsigned char removeBrushSize = 0;
     unsigned char eraserSize = 0;
-    float maskOpacity = 0.0F;
-    unsigned char brushIntensityKeep = 0;
-    unsigned char brushIntensityRemove = 0;
+    float maskOpacity = 0.0F;               ///< 0 .. 1
+    unsigned char brushIntensityKeep = 0;   ///< added to the alpha by a batch
+    unsigned char brushIntensityRemove = 0; ///< taken from the alpha by a batch
     bool smoothEdges = false;
-    int gaussSize = 0;
-    QRgb backgroundColor = 0xFFFFFFFF;
+    int gaussSize = 0;                 ///< taps; a fifth of it is the sigma
+    QRgb backgroundColor = 0xFFFFFFFF; ///< not premultiplied; counts while backgroundImage is null
     QImage backgroundImage;
-    ItemPointer<QGraphicsPixmapItem> previewItem;
+    ItemPointer<QGraphicsPixmapItem> previewItem; ///< shows previewImage; the preview scene's
 };

@@ -61,6 +61,7 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
     if (!form->actionPreview->isChecked() || previewItem == nullptr || previewImage.isNull())
         return; // the preview went while the batch was waiting
     BrushBatch batch = brushBatch(rects, previewOffset, previewImage.size());
+    // The program only ever sets skipLastRect to true; who sets it to false spares the last dab one batch.
     if (!skipLastRect)
         batch.pixels -= lastBrushRect;
     // With the view zoomed out the box can be far larger than the picture, whose pixels alone can change.

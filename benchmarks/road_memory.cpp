@@ -4,9 +4,8 @@
 // How much memory the program takes over the whole road: open, mask, preview, brush, export.
 //
 //   road_memory make MEGAPIXELS FILE   writes a photo to measure with
-//   road_memory FILE                   walks the road with it and prints the bytes a pixel of the peak, above
-//   what the
-//                                      started program had
+//   road_memory FILE                   walks the road with it and prints by how many bytes a pixel the peak
+//                                      lies above what the started program had
 //
 // A process of its own for either, since a peak does not go down.
 

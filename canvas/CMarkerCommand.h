@@ -9,9 +9,9 @@
 #include <QPointer>
 #include <QUndoCommand>
 
-/// Undo of one marker dab that is already on the scene. Undoing takes the dab away and deletes it; there is
-/// no way back, so redo() does nothing and a second undo() neither. A dab that has gone meanwhile is left
-/// alone.
+/// Undo of one marker dab, which is on the scene already; every mouse move lays one. Undoing takes the dab
+/// away and deletes it; there is no way back, so that redo() and a second undo() do nothing. A dab that has
+/// gone meanwhile is left alone; one that was never undone outlives the command. Scene and dab are borrowed.
 class CMarkerCommand : public QUndoCommand
 {
 public:

@@ -13,10 +13,10 @@
 /// scene are the marker data; nothing else keeps them.
 namespace markers {
 
-inline constexpr QRgb keepColour = qRgb(50, 255, 50);
-inline constexpr QRgb removeColour = qRgb(255, 10, 10);
-inline constexpr QRgb blueColour = qRgb(10, 10, 255);
-inline constexpr QRgb penColour = qRgb(255, 255, 10);
+inline constexpr QRgb keepColour = qRgb(50, 255, 50);   ///< for the eye only
+inline constexpr QRgb removeColour = qRgb(255, 10, 10); ///< for the eye only
+inline constexpr QRgb blueColour = qRgb(10, 10, 255);   ///< seedsOf() tells the Blue marker by it
+inline constexpr QRgb penColour = qRgb(255, 255, 10);   ///< for the eye only
 
 inline constexpr qreal dabZ = 10.0;
 inline constexpr qreal maskOverlayZ = 7.0; ///< above the photo, below the dabs

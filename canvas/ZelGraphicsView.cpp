@@ -218,8 +218,8 @@ void ZelGraphicsView::resizeEvent(QResizeEvent *event)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     const QSizeF newSize = event->size();
     const QSizeF oldSize = event->oldSize();
-    if (!newSize.isEmpty() &&
-        !oldSize.isEmpty()) { // without an old size there is nothing to keep in step with
+    // Without an old size there is nothing to keep in step with.
+    if (!newSize.isEmpty() && !oldSize.isEmpty()) {
         const QRectF shown = transform().mapRect(scene()->sceneRect());
         const double sx = resizeFactor(shown.width(), newSize.width(), oldSize.width());
         const double sy = resizeFactor(shown.height(), newSize.height(), oldSize.height());

@@ -19,6 +19,9 @@ class QUndoStack;
 ///
 /// Marker dabs it lays into the scene itself; for brushes and the hand tool it only computes the geometry and
 /// emits signals. It owns the dabs that the eraser took off a scene; the scene's items it only borrows.
+///
+/// ZelGraphicsView.cpp hands the mouse events to the tool in use; the pen, the eraser and the markers are in
+/// ZelGraphicsViewMarkers.cpp, the brushes and the hand in ZelGraphicsViewBrushes.cpp.
 class ZelGraphicsView : public QGraphicsView
 {
     Q_OBJECT
@@ -30,7 +33,7 @@ public:
     /// Selects a tool and its cursor; takes the brush circle off the scene.
     void SetTool(DrawingTools tool);
 
-    /// Gives the brush circle, if it is shown, another size in view pixels about its centre.
+    /// Gives the brush circle, if it is shown, another diameter, in view pixels, about its centre.
     void updateellipse(int size);
 
     /// Reads the tool sizes and the marker opacity anew from `settings`.
@@ -43,10 +46,16 @@ public:
     QUndoStack *undoStack = nullptr; ///< takes the commands of the markers; not owned, may be null
 
 signals:
+    /// What the pen is doing, for whoever looks for a fault. `msg` lives only as long as the emission.
     void ProgressStage(char *msg);
+    // Never emitted: AnyBrush() took their place. Part of the fixed interface of the class, like the private
+    // members below that nothing uses.
     void KeepBrush(QRect rect);
     void RemoveBrush(QRect rect);
+    /// A dab of the brush in use: `rect` is the square around it, in pixels of the scene. `now` on a press,
+    /// which is not to wait for more dabs.
     void AnyBrush(QRect rect, bool now);
+    /// The hand moved from the first point to the second, in pixels of the scene.
     void HandTool(QPoint, QPoint);
 
 protected:
@@ -90,18 +99,18 @@ private:
     void removeBrushOutline();
 
     DrawingTools currentTool = ToolNone;
-    ItemPointer<QGraphicsPathItem> penPathItem;
-    ItemPointer<QGraphicsEllipseItem> brushOutline;
-    QMutex toolMutex;
-    QPoint lastMousePos;
-    unsigned char keepMarkerSize = 0;
+    ItemPointer<QGraphicsPathItem> penPathItem;     ///< the line being drawn
+    ItemPointer<QGraphicsEllipseItem> brushOutline; ///< the brush circle
+    QMutex toolMutex;                               // unused
+    QPoint lastMousePos;                            ///< in view pixels
+    unsigned char keepMarkerSize = 0;               // units: SettingsKeys.h
     unsigned char removeMarkerSize = 0;
     unsigned char keepBrushSize = 0;
     unsigned char removeBrushSize = 0;
     unsigned char eraserSize = 0;
     unsigned char blueMarkerSize = 0;
-    double markerOpacity = 0.0;
+    double markerOpacity = 0.0; ///< ten times that of the Blue marker's dabs
     bool mousePressed = false;
-    QPointF m_penStart;
+    QPointF m_penStart; ///< in scene pixels
     std::vector<ItemPointer<QGraphicsItem>> m_erasedDabs;
 };

@@ -113,8 +113,8 @@ void ZelGraphicsView::PenMouseMoved(QMouseEvent *event)
     QPainterPath path = penPathItem->path();
     if (path.isEmpty()) {
         emit ProgressStage(QByteArray("path empty").data());
-        path.moveTo(
-            m_penStart); // the item drops a path of a start alone, and the line would begin at the origin
+        // The item drops a path of a start alone, and the line would begin at the origin.
+        path.moveTo(m_penStart);
     }
     path.lineTo(scenePosition(*this, *event));
     penPathItem->setPath(path);

@@ -26,7 +26,7 @@ set(CPACK_DEBIAN_ORNEVO_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_COMPONENT_ORNEVO_DESCRIPTION
 "cut an object out of a photograph
 Ornevo separates an object from its background: a few green strokes mark what
-shall stay, a few red ones what shall go, and the outline between them is
+to keep, a few red ones what to remove, and the outline between them is
 found. The object is shown over a colour, another picture or nothing,
 touched up with brushes, and exported as PNG or JPEG.")
 

@@ -15,10 +15,11 @@ struct BrushBatch
     QRect box;      ///< the box around the dabs, rounded to whole pixels; may reach outside the picture
 };
 
-/// The dabs inscribed in `squares`, moved by -`offset` from the scene into a picture of `size`. Where they
-/// reach over more than 20000 rows they are cut down to the picture's surroundings before.
+/// The round dabs that fit into `squares`, which are in pixels of the scene. The picture, of `size`, lies at
+/// `offset` on the scene. Dabs that reach over more than 20000 rows together are cut off a little outside the
+/// picture, and the box with them: QRegion can't take that many.
 [[nodiscard]] BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size);
 
-/// Adds `change` to the alpha of the pixels of `region`, limited to 0 .. 255; the colours stay. `picture` is
-/// in Format_ARGB32. Parts of the region outside the picture are passed over.
+/// Adds `change` to the alpha of the pixels of `region`, limited to 0 .. 255; the colours stay. Parts of
+/// the region outside the picture are passed over. Does nothing unless `picture` is in Format_ARGB32.
 void changeAlpha(QImage &picture, const QRegion &region, int change);

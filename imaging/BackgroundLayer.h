@@ -8,8 +8,8 @@
 
 /// What lies under the cut-out in the preview of a photo of `size`.
 ///
-/// Without a `picture`: `colour` drawn over `board`, the chessboard that stands for transparency, stretched
-/// to `size` without smoothing; an opaque colour hides it. With a `picture`: that picture, scaled smoothly to
-/// fit into `size` with its proportions kept, so that it may be smaller than `size` on one side. Without a
-/// board the layer of a colour is null.
+/// Without a `picture`: `colour` (ARGB, not premultiplied) drawn over `board`, the chessboard that stands for
+/// transparency, stretched to `size` without smoothing; an opaque colour hides it. With a `picture`: that
+/// picture, scaled smoothly to fit into `size` with its proportions kept, so that it may be smaller than
+/// `size` on one side. Null when `size` is empty or memory is short, and for a colour without a board.
 [[nodiscard]] QPixmap backgroundLayer(QSize size, QRgb colour, const QImage &board, const QImage &picture);

@@ -21,11 +21,13 @@ struct FlatRun
     std::uint32_t pixel = 0;
 };
 
-/// Lists, in order, the flat runs of at least `minimum` pixels, 32 or more, each as long as it can be.
+/// Lists, in order, the flat runs of at least `minimum` pixels, each as long as it can be. `minimum` is at
+/// least 32: the search goes in blocks of 16 pixels, one of which lies within every run of that length.
 void findFlatRuns(const std::uint32_t *pixels, int width, int minimum, std::vector<FlatRun> &runs);
 
-/// Horizontal pass over the bytes `from` .. `to` - 1 of a row, whose neighbours are four bytes away each:
-/// summed in doubles, centre first, then the pairs outward, and cut once.
+/// Horizontal pass over the bytes `from` .. `to` - 1 of a row: summed in doubles, centre first, then the
+/// pairs outward, and cut once. The neighbour of a byte is the same colour of the next pixel, four bytes
+/// away, so that 4 · (half.size() - 1) bytes on both sides are read.
 void smoothBytes(const std::uint8_t *in, int from, int to, std::span<const double> half, std::uint8_t *out);
 
 /// A weight as a whole number: (sum · 2^7 · factor >> 16) >> shift is trunc(sum · weight).

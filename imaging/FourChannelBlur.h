@@ -17,7 +17,8 @@ using ProgressCallback = std::function<void(int)>;
 /// The horizontal pass is truncated to bytes once, the vertical one after every pair of taps. The outer
 /// size / 2 pixels of `dst` are left as they were; so is all of it where the picture is no larger than that.
 /// `dst` has the size of `src`, four bytes a pixel, and is another picture; if not, nothing is done.
-/// `progress` rises to just below 90.
+/// `progress` rises to just below 90; the last tenth is left to the caller. Throws std::bad_alloc, when `dst`
+/// may be written in part.
 void blurFourChannels(const QImage &src, QImage &dst, int size, double sigma,
                       const ProgressCallback &progress);
 

@@ -7,9 +7,10 @@
 
 /// \file
 /// Smoothing of grey planes. All four return 0. `src` and `dst` have the same size, one channel, and storage
-/// made by the caller; `src` is left as it is. `dst` may be `src`, but for `FrGaussianBlurFast` and
-/// `FrGaussianBlur33`. Values are truncated toward zero, and a byte keeps the low 8 bits. In a picture lower
-/// or narrower than the border band named below, the band ends with the picture.
+/// made by the caller; `src` is left as it is unless it is `dst`, too, which FrGaussianBlurFast() and
+/// FrGaussianBlur33() do not allow. Values are truncated toward zero, and a byte keeps the low 8 bits. In a
+/// picture lower or narrower than the border band named below, the band ends with the picture. The two that
+/// take a sigma throw std::bad_alloc.
 
 /// Separable Gaussian with `size` taps (see gaussianHalfKernel(); r = size / 2). The horizontal pass keeps
 /// doubles; the vertical one truncates to a byte after each pair of taps, so that a constant picture loses up

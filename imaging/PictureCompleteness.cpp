@@ -75,7 +75,7 @@ bool isCompleteBmp(const QByteArray &beginning, qint64 fileSize)
     const qint64 bytesPerRow = (field(18) * bitsPerPixel + 31) / 32 * 4;
     if (bytesPerRow <= 0)
         return true; // no picture at all; the decoder tells
-    const qint64 rowsThatFit =
-        (fileSize - quint32(field(10))) / bytesPerRow; // divided: a product could overflow
+    // Divided: a product could overflow.
+    const qint64 rowsThatFit = (fileSize - quint32(field(10))) / bytesPerRow;
     return std::llabs(field(22)) <= rowsThatFit;
 }

@@ -45,11 +45,11 @@ private:
 /// Horizontal pass over `in`: centre first, then the pairs outward. Writes out[radius .. width - radius - 1].
 void smoothRow(const std::uint8_t *in, int width, HalfKernel half, double *out);
 
-/// Vertical pass for row `y`, cut to a byte after the centre and after every pair. Columns `from` .. `to`
-/// - 1.
+/// Vertical pass for the columns `from` .. `to` - 1 of row `y`, cut to a byte after the centre and after
+/// every pair. `rows` holds what smoothRow() made of the rows y - radius .. y + radius.
 void cutAtEachTap(RowRing<double> &rows, int y, HalfKernel half, int from, int to, std::uint8_t *out);
 
-/// Vertical pass for row `y`, summed in doubles and cut once. Columns `from` .. `to` - 1.
+/// The same, summed in doubles and cut once.
 void cutOnce(RowRing<double> &rows, int y, HalfKernel half, int from, int to, std::uint8_t *out);
 
 /// Low byte of the truncated Sobel gradient magnitude of the middle row; the first and last column become 0.

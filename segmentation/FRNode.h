@@ -3,8 +3,8 @@
 
 #pragma once
 
-/// A pixel that waits in a level queue of the flooding, as programs that keep such queues of their own see
-/// it.
+/// A pixel in a queue of the caller's own. Public for the programs that use it; no function here takes or
+/// returns one, and the flooding's own queues hold plain numbers.
 struct FRNode
 {
     int index;  ///< y · width + x

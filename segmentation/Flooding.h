@@ -22,14 +22,13 @@
 /// The flooding under FrWatershed() and FrWatershedMany(). Not part of the library's interface.
 namespace flooding {
 
-/// A picture being flooded.
+/// A picture being flooded: seed() for each region, then run() once, then marks().
 ///
 /// What makes it fast:
 /// - The prices of all steps are worked out ahead, row by row and many pixels at a time, so that the flooding
 ///   itself, which jumps about, never looks at a colour.
-/// - A pixel that is reached puts its region's mark into its four neighbours at once, see Marks.h. A pixel
-/// whose
-///   turn comes then knows its region, or that two met, from its own mark.
+/// - A pixel that is reached puts its region's mark into its four neighbours at once, see Marks.h. When its
+///   own turn comes, a pixel knows its region, or that two met, from its own mark.
 /// - The pixels of a neighbourhood lie close together in memory, see Strips.h, and the queue tells which ones
 ///   come next, so that they are fetched in time.
 /// - A level is served from registers until a lower one is filled.
@@ -64,7 +63,8 @@ public:
         }
     }
 
-    /// Floods from the seeds. False when there was no pixel to flood.
+    /// Floods from the seeds; to be called once. False when there was no pixel to flood. `progress` may be
+    /// null. Throws std::bad_alloc.
     bool run(QProgressBar *progress)
     {
         if (m_image.width() < 3 || m_image.height() < 3)
@@ -182,6 +182,7 @@ private:
                 }
             };
             queue.makeRoom();
+            // This order decides ties. The same four neighbours: seed(), queueIfNextToSeed(), StepCosts.
             reach(strips.left(i), costs[i].left);
             reach(strips.right(i), costs[i].right);
             reach(strips.above(i), costs[i].up);

@@ -29,8 +29,8 @@ class QStatusBar;
 int FrWaveSegment(QImage *image, QList<QList<int>> &regions, int threshold, QProgressBar *progress,
                   QStatusBar *status);
 
-/// Whether a mask byte is 0.
+/// Whether a mask byte is 0. Public; used by no function here.
 bool IsBlack(unsigned char value);
 
-/// Whether a mask byte is 255.
+/// Whether a mask byte is 255. Public; used by no function here.
 bool is_white_mw(unsigned char value);

@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-/// First-in first-out queues of pixel indices, one for each of the 256 cost levels.
+/// First-in first-out queues of places (see Strips.h), one for each of the 256 cost levels.
 ///
 /// The queues grow in blocks that they share and use again, so that their memory follows the number of pixels
 /// that wait at the same time, at four bytes each. A bitmap of the levels that are not empty names the lowest
@@ -22,6 +22,7 @@ class LevelQueues
 {
 public:
     static constexpr int levels = 256;
+    static_assert(levels == 256, "a cost is a byte, and empty() names four words of 64 levels");
     /// How many places behind the next entry Service::ahead() looks.
     static constexpr std::size_t lookAhead = 8;
     /// How many entries a Service takes between two calls of makeRoom().

@@ -129,10 +129,9 @@ template <typename Mark> struct MarkPlane
             const Mark *const from = marks.data() + strips.at(0, y);
             for (std::size_t x = 0; x < width; ++x)
                 row[x] = from[x * Strips::rows];
-            forEachRun(row,
-                       [&](std::size_t begin, std::size_t end, std::size_t region) {
-                           visit(y * width + begin, y * width + end, region);
-                       });
+            forEachRun(row, [&](std::size_t begin, std::size_t end, std::size_t region) {
+                visit(y * width + begin, y * width + end, region);
+            });
         }
     }
 };

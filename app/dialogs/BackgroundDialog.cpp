@@ -18,6 +18,9 @@ constexpr int digits = 8;
 
 } // namespace
 
+// In the form, pushButton chooses the colour, which colorlabel holds as hexadecimal ARGB; pushButton_2
+// chooses the picture, whose path picturelabel holds.
+
 BackgroundDialog::BackgroundDialog(QWidget *parent)
     : QDialog(parent), m_form(std::make_unique<Ui_BackgroundDialog>())
 {

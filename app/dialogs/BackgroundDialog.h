@@ -11,7 +11,8 @@
 
 class Ui_BackgroundDialog;
 
-/// Asks what the cut-out is shown over. The answer is read from the public fields after exec().
+/// Asks what the cut-out is shown over. The answer is read from the public fields after exec(); without
+/// `accepted` there is none.
 class BackgroundDialog : public QDialog
 {
     Q_OBJECT
@@ -22,8 +23,8 @@ public:
 
     bool accepted = false;           ///< OK was pressed
     bool useColor = true;            ///< the answer is `color`, else `picturePath`
-    unsigned int color = 0xFFFFFFFF; ///< ARGB
-    QString picturePath;
+    unsigned int color = 0xFFFFFFFF; ///< ARGB, not premultiplied; 0, transparent, if the text is no number
+    QString picturePath;             ///< not checked for holding a picture
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -12,6 +12,9 @@
 #include <QPushButton>
 #include <QSettings>
 
+// In the form, spinBox is the width, spinBox_2 the height, checkBox "Keep Aspect Ratio", pushButton the
+// choice of the file and label_2 its name.
+
 ExportDialog::ExportDialog(int width, int height, QSettings *settings, QWidget *parent)
     : QDialog(parent),
       m_form(std::make_unique<Ui_ExportDialog>()),

@@ -21,7 +21,8 @@ public:
     ExportDialog(int width, int height, QSettings *settings, QWidget *parent);
     ~ExportDialog() override;
 
-    /// What the dialog shows: the size in pixels and the file's name, empty while none was chosen.
+    /// What the dialog shows, also after Cancel: the size in pixels, at most 9999 each way, and the path of
+    /// the file, empty while none was chosen. No pointer may be null.
     void GetSettings(int *width, int *height, QString *fileName);
 
 protected:

@@ -13,6 +13,8 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
     : QDialog(parent), m_form(std::make_unique<Ui_OptionsDialog>()), m_settings(settings)
 {
     m_form->setupUi(this);
+    // Which spin box is which of the form's is told here and in on_buttonBox_accepted(); spinBox_9 is the
+    // number of taps beside "Smooth Edges".
     const auto stored = [this](const settings::Key &key) {
         return m_settings->value(key.name, key.dialogDefault);
     };
@@ -27,8 +29,8 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
     m_form->spinBox_9->setValue(stored(settings::gaussSize).toInt());
     m_form->spinBox_6->setValue(stored(settings::keepBrushIntensity).toInt());
     m_form->spinBox_7->setValue(stored(settings::removeBrushIntensity).toInt());
-    m_form->checkBox->setChecked(
-        false); // not read: confirming the dialog turns the shared size off unless ticked
+    // "Same size for all tools" is not read: confirming the dialog turns it off unless it is ticked.
+    m_form->checkBox->setChecked(false);
 }
 
 OptionsDialog::~OptionsDialog() = default;
