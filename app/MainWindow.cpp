@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 
+#include "app/ProgressPainter.h"
 #include "ui_MainWindow.h"
 
 #include <QActionGroup>
@@ -26,7 +27,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     registerResources();
     form->setupUi(this);
     setUpActions();
-    hideProgress();
+    setUpProgress();
     updatetoolssettings();
     form->graphicsView->settings = &settings;
     form->graphicsView->updatetoolssettings();
@@ -41,13 +42,14 @@ MainWindow::~MainWindow()
     undoStack.disconnect(this);
 }
 
-void MainWindow::hideProgress()
+void MainWindow::setUpProgress()
 {
     // Its place stays: a canvas that grew and shrank with the bar would lose its zoom a little each time.
     QSizePolicy policy = form->progressBar->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     form->progressBar->setSizePolicy(policy);
     form->progressBar->hide();
+    new ProgressPainter(form->progressBar);
 }
 
 void MainWindow::setUpActions()

@@ -110,7 +110,7 @@ private slots:
 private:
     friend class MainWindowProbe; // the tests' look at the state below
 
-    void hideProgress();
+    void setUpProgress();
     void setUpActions();
     void connectCanvas();
     void chooseTool(int tool, bool checked);

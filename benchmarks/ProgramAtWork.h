@@ -22,8 +22,8 @@ public:
 
     MainWindow &window() { return m_window; }
     MainWindowProbe &state() { return m_state; }
-    /// Pixels of the picture that is open.
-    [[nodiscard]] double pixels() { return double(size().width()) * size().height(); }
+    /// Size of the picture that is open.
+    [[nodiscard]] QSize size() { return m_state.workingImage().size(); }
 
     /// Opens the picture from its file, a JPEG, without the dialog.
     void open();
@@ -39,8 +39,6 @@ public:
     [[nodiscard]] QString fileFor(const QString &name) const { return m_folder.filePath(name); }
 
 private:
-    [[nodiscard]] QSize size() { return m_state.workingImage().size(); }
-
     QTemporaryDir m_folder;
     QString m_photo;
     MainWindow m_window;

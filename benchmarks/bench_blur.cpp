@@ -4,6 +4,7 @@
 // The smoothing of the preview's mask, beside OpenCV's Gaussian of the same size on four channels.
 
 #include "benchmarks/BenchmarkPictures.h"
+#include "benchmarks/Measuring.h"
 #include "imaging/FourChannelBlur.h"
 
 #include <benchmark/benchmark.h>
@@ -48,61 +49,35 @@ QImage randomBytes(int megapixels)
     return picture;
 }
 
-enum Kind { Mask, Photo, Random };
-
-QImage pictureOf(const benchmark::State &state)
+void blur(benchmark::State &state, QImage (*pictureOf)(int), int size)
 {
-    const auto megapixels = static_cast<int>(state.range(0));
-    switch (state.range(1)) {
-    case Mask:
-        return objectMask(megapixels);
-    case Photo:
-        return benchmarkpictures::photoMosaic(megapixels);
-    default:
-        return randomBytes(megapixels);
-    }
-}
-
-void perPixel(benchmark::State &state, const QImage &picture)
-{
-    const double pixels = static_cast<double>(picture.width()) * picture.height();
-    state.counters["a pixel"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate |
-                                                               benchmark::Counter::kInvert);
-}
-
-void blur(benchmark::State &state)
-{
-    const QImage picture = pictureOf(state);
-    const auto size = static_cast<int>(state.range(2));
+    const QImage picture = pictureOf(measuring::megapixelsOf(state));
     QImage smooth = picture.copy();
     for (auto _ : state)
         blurFourChannels(picture, smooth, size, size / 5.0, {});
-    perPixel(state, picture);
+    measuring::perPixel(state, picture.size());
 }
 
 #ifdef ORNEVO_HAVE_OPENCV
 
-void blurOfOpenCv(benchmark::State &state)
+void blurOfOpenCv(benchmark::State &state, QImage (*pictureOf)(int), int size)
 {
     cv::setNumThreads(1);
-    QImage picture = pictureOf(state);
-    const auto size = static_cast<int>(state.range(2));
+    QImage picture = pictureOf(measuring::megapixelsOf(state));
     const cv::Mat source(picture.height(), picture.width(), CV_8UC4, picture.bits(),
                          static_cast<std::size_t>(picture.bytesPerLine()));
     cv::Mat smooth = source.clone();
     for (auto _ : state)
         cv::GaussianBlur(source, smooth, cv::Size(size, size), size / 5.0);
-    perPixel(state, picture);
+    measuring::perPixel(state, picture.size());
 }
-BENCHMARK(blurOfOpenCv)->ArgsProduct({{4, 64}, {Mask}, {5}})->Unit(benchmark::kMillisecond);
-BENCHMARK(blurOfOpenCv)->ArgsProduct({{4}, {Photo}, {5}})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(blurOfOpenCv, mask, objectMask, 5)->Name("maskBlur/openCv")->Apply(measuring::megapixels);
 
 #endif
 
-BENCHMARK(blur)->ArgsProduct({{4, 64}, {Mask}, {5}})->Unit(benchmark::kMillisecond);
-BENCHMARK(blur)->ArgsProduct({{4}, {Mask}, {9, 15}})->Unit(benchmark::kMillisecond);
-BENCHMARK(blur)->ArgsProduct({{4}, {Photo, Random}, {5}})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(blur, mask, objectMask, 5)->Name("maskBlur/ours")->Apply(measuring::megapixels);
+BENCHMARK_CAPTURE(blur, wide, objectMask, 15)->Name("maskBlurOfSize15/ours")->Arg(4);
+// What no mask is: every pixel differs from its neighbours.
+BENCHMARK_CAPTURE(blur, noise, randomBytes, 5)->Name("noiseBlur/ours")->Arg(4);
 
 } // namespace
-
-BENCHMARK_MAIN();

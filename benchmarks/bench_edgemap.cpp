@@ -1,16 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-// The edge map of an opened picture, beside the same filters put together from OpenCV's, and beside the
-// decoding of the picture from JPEG, which the user waits for anyway.
+// The edge map of an opened picture, beside the same filters put together from OpenCV's.
 
 #include "benchmarks/BenchmarkPictures.h"
+#include "benchmarks/Measuring.h"
 #include "imaging/EdgeMap.h"
 
 #include <benchmark/benchmark.h>
-
-#include <QBuffer>
-#include <QImageReader>
 
 #include <cstdint>
 #include <memory>
@@ -22,13 +19,6 @@
 
 namespace {
 
-void perPixel(benchmark::State &state, const QImage &picture)
-{
-    const double pixels = static_cast<double>(picture.width()) * picture.height();
-    state.counters["a pixel"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate |
-                                                               benchmark::Counter::kInvert);
-}
-
 void edgeMap(benchmark::State &state, const QImage &picture)
 {
     const auto edges = std::make_unique<std::uint8_t[]>(static_cast<std::size_t>(picture.sizeInBytes() / 4));
@@ -36,12 +26,12 @@ void edgeMap(benchmark::State &state, const QImage &picture)
         computeEdgeMap(picture, edges.get());
         benchmark::DoNotOptimize(edges.get()[0]);
     }
-    perPixel(state, picture);
+    measuring::perPixel(state, picture.size());
 }
 
 void edgeMapOfPhoto(benchmark::State &state)
 {
-    edgeMap(state, benchmarkpictures::photoMosaic(static_cast<int>(state.range(0))));
+    edgeMap(state, benchmarkpictures::photoMosaic(measuring::megapixelsOf(state)));
 }
 
 // Flat levels: 0 is nothing but zeros, 239 has a product nearest to a whole number.
@@ -51,19 +41,6 @@ void edgeMapOfGrey(benchmark::State &state)
     const int grey = static_cast<int>(state.range(0));
     picture.fill(qRgb(grey, grey, grey));
     edgeMap(state, picture);
-}
-
-void decodeJpeg(benchmark::State &state)
-{
-    const QImage &picture = benchmarkpictures::photoMosaic(static_cast<int>(state.range(0)));
-    QByteArray bytes;
-    QBuffer file(&bytes);
-    file.open(QIODevice::WriteOnly);
-    picture.save(&file, "JPEG", 90);
-    QImageReader::setAllocationLimit(0);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(QImage::fromData(bytes, "JPEG").constBits());
-    perPixel(state, picture);
 }
 
 #ifdef ORNEVO_HAVE_OPENCV
@@ -100,21 +77,18 @@ cv::Mat edgesOf(const cv::Mat &picture)
 void edgeMapOfOpenCv(benchmark::State &state)
 {
     cv::setNumThreads(1);
-    QImage picture = benchmarkpictures::photoMosaic(static_cast<int>(state.range(0)));
+    QImage picture = benchmarkpictures::photoMosaic(measuring::megapixelsOf(state));
     const cv::Mat source(picture.height(), picture.width(), CV_8UC4, picture.bits(),
                          static_cast<std::size_t>(picture.bytesPerLine()));
     for (auto _ : state)
         benchmark::DoNotOptimize(edgesOf(source).data);
-    perPixel(state, picture);
+    measuring::perPixel(state, picture.size());
 }
-BENCHMARK(edgeMapOfOpenCv)->Arg(4)->Arg(64)->Unit(benchmark::kMillisecond);
+BENCHMARK(edgeMapOfOpenCv)->Name("edgeMap/openCv")->Apply(measuring::megapixels);
 
 #endif
 
-BENCHMARK(edgeMapOfPhoto)->Arg(4)->Arg(12)->Arg(64)->Unit(benchmark::kMillisecond);
+BENCHMARK(edgeMapOfPhoto)->Name("edgeMap/ours")->Apply(measuring::megapixels);
 BENCHMARK(edgeMapOfGrey)->Arg(0)->Arg(128)->Arg(239)->Arg(248)->Arg(255)->Unit(benchmark::kMillisecond);
-BENCHMARK(decodeJpeg)->Arg(4)->Arg(12)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-BENCHMARK_MAIN();

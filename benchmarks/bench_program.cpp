@@ -5,30 +5,16 @@
 // decoding, the Mask step beside the flooding, and the brush, whose cost must follow the dabs and not the
 // picture.
 
+#include "benchmarks/Measuring.h"
 #include "benchmarks/ProgramAtWork.h"
 #include "canvas/MarkerDabs.h"
 #include "segmentation/FrWatershed.h"
 
 #include <QApplication>
-#include <QImageReader>
-#include <QSettings>
 
 #include <benchmark/benchmark.h>
 
 namespace {
-
-void sizes(benchmark::internal::Benchmark *benchmark)
-{
-    for (const int megapixels : {4, 12, 24, 64})
-        benchmark->Arg(megapixels);
-    benchmark->Unit(benchmark::kMillisecond)->UseRealTime();
-}
-
-void countPixels(benchmark::State &state, ProgramAtWork &program)
-{
-    state.counters["ns/pixel"] = benchmark::Counter(
-        program.pixels() * 1e-9, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
-}
 
 /// Lets the window paint what has changed, as its user would see it.
 void showIt()
@@ -38,26 +24,37 @@ void showIt()
 
 void decoding(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     for (auto _ : state)
         benchmark::DoNotOptimize(QImage(program.file()).width());
     program.open();
-    countPixels(state, program);
+    measuring::perPixel(state, program.size());
 }
-BENCHMARK(decoding)->Apply(sizes);
+BENCHMARK(decoding)->Apply(measuring::megapixels);
 
 void opening(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     for (auto _ : state)
         program.open();
-    countPixels(state, program);
+    measuring::perPixel(state, program.size());
 }
-BENCHMARK(opening)->Apply(sizes);
+BENCHMARK(opening)->Apply(measuring::megapixels);
+
+void openingShown(benchmark::State &state)
+{
+    ProgramAtWork program(measuring::megapixelsOf(state));
+    for (auto _ : state) {
+        program.open();
+        showIt();
+    }
+    measuring::perPixel(state, program.size());
+}
+BENCHMARK(openingShown)->Apply(measuring::megapixels);
 
 void flooding(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
     markers::Seeds seeds =
@@ -67,13 +64,13 @@ void flooding(benchmark::State &state)
         FrWatershed(&program.state().workingImage(), seeds.keep, seeds.remove, mask,
                     program.state().edgeMap(), nullptr);
     }
-    countPixels(state, program);
+    measuring::perPixel(state, program.size());
 }
-BENCHMARK(flooding)->Apply(sizes);
+BENCHMARK(flooding)->Apply(measuring::megapixels);
 
 void maskStep(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
     showIt();
@@ -81,13 +78,13 @@ void maskStep(benchmark::State &state)
         program.run("on_actionMask_triggered");
         showIt();
     }
-    countPixels(state, program);
+    measuring::perPixel(state, program.size());
 }
-BENCHMARK(maskStep)->Apply(sizes);
+BENCHMARK(maskStep)->Apply(measuring::megapixels);
 
 void previewWithoutFlooding(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
     program.preview();
@@ -95,13 +92,13 @@ void previewWithoutFlooding(benchmark::State &state)
         program.state().previewImage() = QImage();
         program.window().updatepreview();
     }
-    countPixels(state, program);
+    measuring::perPixel(state, program.size());
 }
-BENCHMARK(previewWithoutFlooding)->Apply(sizes);
+BENCHMARK(previewWithoutFlooding)->Apply(measuring::megapixels);
 
 void brushBatch(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
     program.preview();
@@ -109,11 +106,11 @@ void brushBatch(benchmark::State &state)
     for (auto _ : state)
         program.brush();
 }
-BENCHMARK(brushBatch)->Apply(sizes);
+BENCHMARK(brushBatch)->Apply(measuring::megapixels);
 
 void brushBatchAndUndoShown(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
     program.preview();
@@ -125,11 +122,11 @@ void brushBatchAndUndoShown(benchmark::State &state)
         showIt();
     }
 }
-BENCHMARK(brushBatchAndUndoShown)->Apply(sizes);
+BENCHMARK(brushBatchAndUndoShown)->Apply(measuring::megapixels);
 
 void brushUndo(benchmark::State &state)
 {
-    ProgramAtWork program(int(state.range(0)));
+    ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
     program.preview();
@@ -141,22 +138,6 @@ void brushUndo(benchmark::State &state)
         program.state().undoStack().undo();
     }
 }
-BENCHMARK(brushUndo)->Apply(sizes);
+BENCHMARK(brushUndo)->Apply(measuring::megapixels);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    const QTemporaryDir settings;
-    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-        QSettings::setPath(format, QSettings::UserScope, settings.path());
-    QApplication application(argc, argv);
-    QApplication::setApplicationName("Ornevo benchmark");
-    QApplication::setOrganizationName("Ornevo benchmark");
-    QImageReader::setAllocationLimit(0); // for the decoding by QImage alone
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

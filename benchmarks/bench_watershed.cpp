@@ -6,6 +6,7 @@
 // mood then strikes all rows alike.
 
 #include "benchmarks/BenchmarkPictures.h"
+#include "benchmarks/Measuring.h"
 #include "imaging/EdgeMap.h"
 #include "segmentation/FrWatershed.h"
 #include "segmentation/FrWatershedMany.h"
@@ -44,28 +45,21 @@ Scene &scene(int megapixels)
     return on;
 }
 
-void countPixels(benchmark::State &state, const Scene &on)
-{
-    const auto pixels = static_cast<double>(on.edges.size());
-    state.counters["s/px"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate |
-                                                            benchmark::Counter::kInvert);
-}
-
 void ornevoTwoRegions(benchmark::State &state)
 {
-    Scene &on = scene(static_cast<int>(state.range(0)));
+    Scene &on = scene(measuring::megapixelsOf(state));
     std::vector<QList<int>> seeds = benchmarkpictures::strokes(on.picture.size(), 2);
     for (auto _ : state) {
         QList<int> result;
         FrWatershed(&on.picture, seeds[0], seeds[1], result, on.edges.data(), nullptr);
         benchmark::DoNotOptimize(result.data());
     }
-    countPixels(state, on);
+    measuring::perPixel(state, on.picture.size());
 }
 
 void ornevoManyRegions(benchmark::State &state)
 {
-    Scene &on = scene(static_cast<int>(state.range(0)));
+    Scene &on = scene(measuring::megapixelsOf(state));
     std::vector<std::vector<int>> seeds;
     for (const QList<int> &stroke : benchmarkpictures::strokes(on.picture.size(), manyRegions))
         seeds.emplace_back(stroke.begin(), stroke.end());
@@ -74,7 +68,7 @@ void ornevoManyRegions(benchmark::State &state)
         FrWatershedMany(&on.picture, seeds, result, on.edges.data(), nullptr);
         benchmark::DoNotOptimize(result.data());
     }
-    countPixels(state, on);
+    measuring::perPixel(state, on.picture.size());
 }
 
 #ifdef ORNEVO_HAVE_OPENCV
@@ -113,7 +107,7 @@ cv::Mat edgeMapOf(const Scene &on)
 void openCv(benchmark::State &state, cv::Mat (*pictureOf)(const Scene &), int regions)
 {
     cv::setNumThreads(1);
-    const Scene &on = scene(static_cast<int>(state.range(0)));
+    const Scene &on = scene(measuring::megapixelsOf(state));
     const cv::Mat picture = pictureOf(on);
     const cv::Mat seeds = markersOf(on, regions);
     cv::Mat markers = seeds.clone();
@@ -124,24 +118,21 @@ void openCv(benchmark::State &state, cv::Mat (*pictureOf)(const Scene &), int re
         cv::watershed(picture, markers);
         benchmark::DoNotOptimize(markers.data);
     }
-    countPixels(state, on);
+    measuring::perPixel(state, on.picture.size());
 }
 
 #endif
 
-void megapixels(benchmark::internal::Benchmark *row)
-{
-    row->Arg(4)->Arg(12)->Arg(24)->Arg(64)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
-}
-
-BENCHMARK(ornevoTwoRegions)->Apply(megapixels);
-BENCHMARK(ornevoManyRegions)->Apply(megapixels);
+BENCHMARK(ornevoTwoRegions)->Name("twoRegions/ours")->Apply(measuring::megapixels);
+BENCHMARK(ornevoManyRegions)->Name("manyRegions/ours")->Apply(measuring::megapixels);
 #ifdef ORNEVO_HAVE_OPENCV
-BENCHMARK_CAPTURE(openCv, twoRegionsOnEdgeMap, edgeMapOf, 2)->Apply(megapixels);
-BENCHMARK_CAPTURE(openCv, twoRegionsOnPhoto, photoOf, 2)->Apply(megapixels);
-BENCHMARK_CAPTURE(openCv, manyRegionsOnEdgeMap, edgeMapOf, manyRegions)->Apply(megapixels);
+BENCHMARK_CAPTURE(openCv, edges, edgeMapOf, 2)
+    ->Name("twoRegions/openCvOnEdges")
+    ->Apply(measuring::megapixels);
+BENCHMARK_CAPTURE(openCv, photo, photoOf, 2)->Name("twoRegions/openCvOnPhoto")->Apply(measuring::megapixels);
+BENCHMARK_CAPTURE(openCv, many, edgeMapOf, manyRegions)
+    ->Name("manyRegions/openCvOnEdges")
+    ->Apply(measuring::megapixels);
 #endif
 
 } // namespace
-
-BENCHMARK_MAIN();

@@ -9,13 +9,10 @@
 //
 // A process of its own for either, since a peak does not go down.
 
+#include "benchmarks/BenchmarkApplication.h"
 #include "benchmarks/ProgramAtWork.h"
 #include "imaging/ExportComposition.h"
 #include "imaging/PictureFile.h"
-
-#include <QApplication>
-#include <QSettings>
-#include <QTimer>
 
 #include <sys/resource.h>
 
@@ -46,15 +43,7 @@ void exportPicture(ProgramAtWork &program, const QString &name)
 
 int main(int argc, char *argv[])
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    const QTemporaryDir settings;
-    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-        QSettings::setPath(format, QSettings::UserScope, settings.path());
-    QApplication application(argc, argv);
-    QApplication::setApplicationName("Ornevo benchmark");
-    QApplication::setOrganizationName("Ornevo benchmark");
+    const BenchmarkApplication application(argc, argv);
     if (argc == 4 && QString(argv[1]) == "make") {
         writePhoto(std::atoi(argv[2]), argv[3]);
         return 0;
@@ -74,7 +63,8 @@ int main(int argc, char *argv[])
     program.brush();
     QApplication::processEvents();
     exportPicture(program, "cut-out.png");
-    std::printf("%.1f megapixels: peak %.1f bytes a pixel above the started program\n",
-                program.pixels() * 1e-6, (peakBytes() - started) / program.pixels());
+    const double pixels = double(program.size().width()) * program.size().height();
+    std::printf("%.1f megapixels: peak %.1f bytes a pixel above the started program\n", pixels * 1e-6,
+                (peakBytes() - started) / pixels);
     return 0;
 }

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/TestMain.h"
+#include "tests/support/WindowUnderTest.h"
+
+#include <QProgressBar>
+#include <QSignalSpy>
+
+using testsupport::WindowUnderTest;
+
+namespace {
+
+class Paintings : public QObject
+{
+public:
+    explicit Paintings(QProgressBar &bar) : m_bar(bar) { bar.installEventFilter(this); }
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            values.append(m_bar.value());
+        return false;
+    }
+    QList<int> values;
+
+private:
+    QProgressBar &m_bar;
+};
+
+} // namespace
+
+/// The bar moves on the screen during a long step, and does not make it longer.
+class ProgressTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void slowStepIsSeenMoving()
+    {
+        WindowUnderTest t;
+        t.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&t.window));
+        const Paintings paintings(t.progressBar());
+        t.progressBar().show();
+        for (int percent = 1; percent <= 5; ++percent) {
+            QTest::qSleep(50);
+            t.progressBar().setValue(percent);
+        }
+        QCOMPARE(paintings.values, (QList<int>{1, 2, 3, 4, 5}));
+        t.progressBar().hide();
+    }
+
+    void quickStepIsHardlyPainted()
+    {
+        WindowUnderTest t;
+        t.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&t.window));
+        QSignalSpy changes(&t.progressBar(), &QProgressBar::valueChanged);
+        const Paintings paintings(t.progressBar());
+        t.progressBar().show();
+        for (int percent = 1; percent <= 100; ++percent) {
+            QTest::qSleep(1);
+            t.progressBar().setValue(percent);
+        }
+        QCOMPARE(changes.size(), 100); // whoever listens is told of every one
+        QVERIFY2(paintings.values.size() <= 20, qPrintable(QString::number(paintings.values.size())));
+        t.progressBar().hide();
+    }
+
+    /// Hidden and shown once more, it is painted like any other widget.
+    void barIsPaintedAgainAfterAStep()
+    {
+        WindowUnderTest t;
+        t.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&t.window));
+        t.progressBar().show();
+        t.progressBar().hide();
+        QVERIFY(t.progressBar().updatesEnabled());
+        const Paintings paintings(t.progressBar());
+        t.progressBar().show();
+        QTest::qSleep(60);
+        t.progressBar().setValue(42);
+        QCOMPARE(paintings.values, QList<int>{42});
+    }
+};
+
+ORNEVO_TEST_MAIN(ProgressTest)
+#include "tst_progress.moc"
