@@ -60,6 +60,9 @@ public:
 signals:
     void mwquit();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private slots:
     void on_actionTestMenu_triggered();
     void on_actionDecreaseBrushIntensity_triggered();
@@ -103,6 +106,7 @@ private:
 
     void hideProgress();
     void setUpActions();
+    void letTabIntoTheToolBar();
     void connectCanvas();
     void chooseTool(int tool, bool checked);
     void setEditingActionsEnabled(bool editing);
