@@ -7,6 +7,8 @@
 #include "ui_MainWindow.h"
 
 #include <QActionGroup>
+#include <QEvent>
+#include <QToolButton>
 
 // Outside any namespace, as the macro wants it.
 static void registerResources()
@@ -27,7 +29,12 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     registerResources();
     form->setupUi(this);
     setUpActions();
+<<<<<<< HEAD
     setUpProgress();
+=======
+    letTabIntoTheToolBar();
+    hideProgress();
+>>>>>>> keys
     updatetoolssettings();
     form->graphicsView->settings = &settings;
     form->graphicsView->updatetoolssettings();
@@ -70,6 +77,36 @@ void MainWindow::setUpActions()
     QAction *redo = undoStack.createRedoAction(this);
     redo->setShortcuts(QKeySequence::Redo);
     addAction(redo);
+}
+
+void MainWindow::letTabIntoTheToolBar()
+{
+    // The buttons of a tool bar never have the focus unless told to, and many actions stand there only. By
+    // Tab alone, so that a click leaves the keys with the canvas.
+    QList<QWidget *> buttons;
+    for (QAction *action : form->mainToolBar->actions())
+        buttons << form->mainToolBar->widgetForAction(action);
+    // Qt gives this one no name for the screen reader.
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button")) {
+        overflow->setAccessibleName(tr("More tools"));
+        buttons << overflow;
+    }
+    QWidget *previous = form->graphicsView;
+    for (QWidget *button : buttons) {
+        button->setFocusPolicy(Qt::TabFocus);
+        button->installEventFilter(this);
+        setTabOrder(previous, button);
+        previous = button;
+    }
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // The focus can hardly be seen on a flat button, but well on a raised one.
+    auto *button = qobject_cast<QToolButton *>(watched);
+    if (button != nullptr && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
+        button->setAutoRaise(event->type() == QEvent::FocusOut);
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::connectCanvas()

@@ -69,6 +69,9 @@ public:
 signals:
     void mwquit();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private slots:
     void on_actionTestMenu_triggered();
     void on_actionDecreaseBrushIntensity_triggered();
@@ -112,6 +115,7 @@ private:
 
     void setUpProgress();
     void setUpActions();
+    void letTabIntoTheToolBar();
     void connectCanvas();
     void chooseTool(int tool, bool checked);
     void setEditingActionsEnabled(bool editing);

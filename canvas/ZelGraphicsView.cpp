@@ -7,6 +7,7 @@
 #include "canvas/SettingsKeys.h"
 #include "imaging/Truncation.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QResizeEvent>
@@ -33,6 +34,13 @@ double resizeFactor(double shown, double newLength, double oldLength)
     if (newLength > shown)
         return newLength / oldLength;
     return newLength >= oldLength ? 1.0 : newLength / oldLength;
+}
+
+/// How many units of a cursor's hot spot make a point of the view. Qt 6.4 hands the hot spot to an X server
+/// as if it were in pixels of the drawing; other platforms take it in points, as QCursor does.
+qreal hotSpotScale(qreal pixelRatio)
+{
+    return QGuiApplication::platformName() == "xcb" ? pixelRatio : 1.0;
 }
 
 /// The name of the same drawing with twice the pixels, which QPixmap does not look for by itself.
@@ -99,7 +107,8 @@ QCursor ZelGraphicsView::pixmapCursor(const QString &path, int width, QPoint hot
     if (pixmap.isNull())
         return Qt::ArrowCursor;
     pixmap.setDevicePixelRatio(ratio);
-    return QCursor(pixmap, hotSpot.x(), hotSpot.y());
+    const QPoint spot = hotSpot * hotSpotScale(ratio);
+    return QCursor(pixmap, spot.x(), spot.y());
 }
 
 void ZelGraphicsView::updatetoolssettings()

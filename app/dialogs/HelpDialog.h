@@ -4,12 +4,14 @@
 #pragma once
 
 #include <QDialog>
+#include <QPoint>
 
 #include <memory>
+#include <optional>
 
 class Ui_HelpDialog;
 
-/// The help window: a read-only document.
+/// The help window: a read-only document. A click on a link in it opens the link outside of the program.
 class HelpDialog : public QDialog
 {
     Q_OBJECT
@@ -20,7 +22,12 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showPointer(QPoint position);
+    void followLink(QPoint release);
+
     std::unique_ptr<Ui_HelpDialog> m_form;
+    std::optional<QPoint> m_press; ///< where the left button went down in the text
 };

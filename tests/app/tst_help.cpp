@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTextCursor>
 #include <QTextEdit>
 #include <QUrlQuery>
 
@@ -23,6 +24,7 @@ class TestHelp : public QObject
 
 public slots:
     void takeMail(const QUrl &url) { mails.append(url); }
+    void takePage(const QUrl &url) { pages.append(url); }
 
 private slots:
     void init();
@@ -33,6 +35,11 @@ private slots:
     void documentInOrder();
     void pictures();
     void languageChange();
+    void linkOpensByAClick();
+    void linkOpensThroughASelection();
+    void doubleClickOpensOnce();
+    void linkStaysShutOtherwise();
+    void linkIsPointedAt();
     void aboutBoxes_data();
     void aboutBoxes();
     void contact();
@@ -42,16 +49,64 @@ private:
 
     std::unique_ptr<MainWindow> window;
     QList<QUrl> mails;
+    QList<QUrl> pages;
 };
+
+namespace {
+
+const QUrl tutorials("https://ornevo.example/tutorials");
+
+/// A help window that shows its end, where the link is.
+struct HelpAtItsEnd
+{
+    HelpAtItsEnd() : text(*help.findChild<QTextEdit *>("textEdit"))
+    {
+        help.show();
+        if (!QTest::qWaitForWindowExposed(&help))
+            qFatal("the help does not come up");
+        text.moveCursor(QTextCursor::End);
+        text.ensureCursorVisible();
+    }
+
+    /// A point of the viewport in the midst of these words.
+    [[nodiscard]] QPoint pointOn(const QString &words) const
+    {
+        QTextCursor cursor = text.document()->find(words);
+        if (cursor.isNull())
+            qFatal("the help says nothing of %s", qPrintable(words));
+        cursor.setPosition(cursor.selectionStart() + int(words.size() / 2));
+        return text.cursorRect(cursor).center();
+    }
+    void move(QPoint position, Qt::MouseButtons held = {}) const
+    {
+        QMouseEvent event(QEvent::MouseMove, position, text.viewport()->mapToGlobal(position), Qt::NoButton,
+                          held, {});
+        QApplication::sendEvent(text.viewport(), &event);
+    }
+    void press(QPoint position) const { QTest::mousePress(text.viewport(), Qt::LeftButton, {}, position); }
+    void release(QPoint position) const
+    {
+        QTest::mouseRelease(text.viewport(), Qt::LeftButton, {}, position);
+    }
+    [[nodiscard]] Qt::CursorShape pointer() const { return text.viewport()->cursor().shape(); }
+
+    HelpDialog help;
+    QTextEdit &text;
+};
+
+} // namespace
 
 void TestHelp::init()
 {
     window = std::make_unique<MainWindow>();
     driver::show(*window);
+    pages.clear();
+    QDesktopServices::setUrlHandler("https", this, "takePage");
 }
 
 void TestHelp::cleanup()
 {
+    QDesktopServices::unsetUrlHandler("https");
     window.reset();
 }
 
@@ -193,6 +248,69 @@ void TestHelp::languageChange()
     QApplication::sendEvent(&help, &change);
     QCOMPARE(text->toHtml(), before);
     QCOMPARE(help.windowTitle(), "Ornevo Help");
+}
+
+void TestHelp::linkOpensByAClick()
+{
+    const HelpAtItsEnd end;
+    const QPoint link = end.pointOn(tutorials.toString());
+    end.move(link);
+    end.press(link);
+    QCOMPARE(pages, QList<QUrl>());
+    end.release(link);
+    QCOMPARE(pages, QList<QUrl>({tutorials}));
+    QTest::mouseClick(end.text.viewport(), Qt::LeftButton, {}, link + QPoint(12, 0));
+    QCOMPARE(pages, QList<QUrl>({tutorials, tutorials}));
+}
+
+void TestHelp::linkOpensThroughASelection()
+{
+    const HelpAtItsEnd end;
+    end.text.selectAll();
+    const QPoint link = end.pointOn(tutorials.toString());
+    QTest::mouseClick(end.text.viewport(), Qt::LeftButton, {}, link);
+    QCOMPARE(pages, QList<QUrl>({tutorials}));
+}
+
+void TestHelp::doubleClickOpensOnce()
+{
+    const HelpAtItsEnd end;
+    const QPoint link = end.pointOn(tutorials.toString());
+    QTest::mouseClick(end.text.viewport(), Qt::LeftButton, {}, link);
+    QTest::mouseDClick(end.text.viewport(), Qt::LeftButton, {}, link);
+    end.release(link);
+    QCOMPARE(pages, QList<QUrl>({tutorials}));
+}
+
+void TestHelp::linkStaysShutOtherwise()
+{
+    const HelpAtItsEnd end;
+    const QPoint link = end.pointOn(tutorials.toString());
+    const QPoint words = end.pointOn("Video tutorials");
+    QTest::mouseClick(end.text.viewport(), Qt::LeftButton, {}, words);
+    QTest::mouseClick(end.text.viewport(), Qt::RightButton, {}, link);
+    for (const auto &[from, to] :
+         {std::pair{words, link}, {link, words}, {link, link + QPoint(40, 0)}}) { // the last one selects
+        end.text.moveCursor(QTextCursor::End); // a press into a selection would drag it away
+        end.press(from);
+        end.move(to, Qt::LeftButton);
+        end.release(to);
+        QTest::qWait(QApplication::doubleClickInterval() + 50); // the next press is a first one again
+    }
+    QCOMPARE(pages, QList<QUrl>());
+    QVERIFY(end.text.textCursor().hasSelection());
+}
+
+void TestHelp::linkIsPointedAt()
+{
+    const HelpAtItsEnd end;
+    end.move(end.pointOn("Video tutorials"));
+    QCOMPARE(end.pointer(), Qt::IBeamCursor);
+    end.move(end.pointOn(tutorials.toString()));
+    QCOMPARE(end.pointer(), Qt::PointingHandCursor);
+    end.move(end.pointOn("Video tutorials"));
+    QCOMPARE(end.pointer(), Qt::IBeamCursor);
+    QVERIFY(end.text.viewport()->hasMouseTracking()); // or no move would come without a button
 }
 
 void TestHelp::aboutBoxes_data()

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "canvas/ZelGraphicsView.h"
+#include "tests/support/TestMain.h"
+
+#include <QCursor>
+#include <QImage>
+#include <QSettings>
+
+Q_DECLARE_METATYPE(DrawingTools)
+
+static void loadResources()
+{
+    Q_INIT_RESOURCE(ornevo);
+} // outside any namespace, as the macro wants it
+
+namespace {
+
+constexpr int eraserWidth = 64;
+
+QImage drawing(const QString &path)
+{
+    QImage picture = QImage(path).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(1.0); // Qt reads it from the name
+    return picture;
+}
+
+QImage scaled(const QImage &picture, int width)
+{
+    return picture.scaledToWidth(width, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// The mean square of the steps from each pixel to its right neighbour, over all channels: blowing a picture
+/// up makes it fall to a fraction.
+double sharpness(const QImage &picture)
+{
+    double sum = 0.0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const uchar *row = picture.constScanLine(y);
+        for (int i = 4; i < 4 * picture.width(); ++i) {
+            const double step = double(row[i]) - double(row[i - 4]);
+            sum += step * step;
+        }
+    }
+    return sum / (4.0 * picture.width() * picture.height());
+}
+
+} // namespace
+
+/// The cursors on a screen with two pixels a point.
+class DenseCursorsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cursorsAreDense_data();
+    void cursorsAreDense();
+
+private:
+    static QCursor cursorOf(DrawingTools tool);
+};
+
+void DenseCursorsTest::initTestCase()
+{
+    loadResources();
+    QSettings().setValue("ERASERMSIZE", eraserWidth);
+}
+
+QCursor DenseCursorsTest::cursorOf(DrawingTools tool)
+{
+    QSettings settings;
+    ZelGraphicsView view;
+    view.settings = &settings;
+    view.updatetoolssettings();
+    view.show();
+    if (!QTest::qWaitForWindowExposed(&view))
+        qFatal("the view does not come up");
+    if (view.devicePixelRatioF() != 2.0)
+        qFatal("the screen is not dense");
+    view.SetTool(tool);
+    return view.viewport()->cursor();
+}
+
+void DenseCursorsTest::cursorsAreDense_data()
+{
+    QTest::addColumn<DrawingTools>("tool");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<QString>("taken");
+    QTest::addColumn<QSize>("size"); // in points, as the hot spot
+    QTest::addColumn<QPoint>("hotSpot");
+    QTest::newRow("pen") << ToolPen << ":/cursors/pen_cursor.png"
+                         << ":/cursors/pen_cursor@2x.png" << QSize(32, 32) << QPoint(0, 26);
+    QTest::newRow("eraser") << ToolEraser << ":/icons/eraser.ico"
+                            << ":/icons/eraser@2x.ico" << QSize(eraserWidth, eraserWidth) << QPoint(32, 32);
+    // The plain pencils have pixels to spare, since they are shown at a quarter of their width.
+    QTest::newRow("keep marker") << ToolKeepMarker << ":/icons/greenpencil.PNG"
+                                 << ":/icons/greenpencil.PNG" << QSize(8, 22) << QPoint(4, 21);
+    QTest::newRow("remove marker") << ToolRemoveMarker << ":/icons/redpencilv.PNG"
+                                   << ":/icons/redpencilv.PNG" << QSize(8, 22) << QPoint(4, 21);
+}
+
+void DenseCursorsTest::cursorsAreDense()
+{
+    QFETCH(DrawingTools, tool);
+    QFETCH(QString, plain);
+    QFETCH(QString, taken);
+    QFETCH(QSize, size);
+    QFETCH(QPoint, hotSpot);
+    const QCursor cursor = cursorOf(tool);
+    QCOMPARE(cursor.shape(), Qt::BitmapCursor);
+    QCOMPARE(cursor.pixmap().devicePixelRatio(), 2.0);
+    QCOMPARE(cursor.pixmap().size(), 2 * size);
+    // In points, as the documentation has it; what reaches an X server is taken for pixels.
+    QCOMPARE(cursor.hotSpot(), QGuiApplication::platformName() == "xcb" ? 2 * hotSpot : hotSpot);
+
+    QImage shown = cursor.pixmap().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    shown.setDevicePixelRatio(1.0);
+    QVERIFY(!drawing(taken).isNull());
+    QVERIFY(drawing(taken).width() >= shown.width()); // never blown up
+    QCOMPARE(shown, scaled(drawing(taken), 2 * size.width()));
+
+    const QImage blownUp = scaled(scaled(drawing(plain), size.width()), 2 * size.width());
+    QVERIFY2(sharpness(shown) > 1.3 * sharpness(blownUp),
+             qPrintable(QString("%1 and %2").arg(sharpness(shown)).arg(sharpness(blownUp))));
+}
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_SCALE_FACTOR", "2"); // read once, when the application starts: hence a program of its own
+    return testsupport::runTest<DenseCursorsTest>(argc, argv);
+}
+#include "tst_densecursors.moc"
