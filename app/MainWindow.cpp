@@ -29,12 +29,8 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     registerResources();
     form->setupUi(this);
     setUpActions();
-<<<<<<< HEAD
-    setUpProgress();
-=======
     letTabIntoTheToolBar();
-    hideProgress();
->>>>>>> keys
+    setUpProgress();
     updatetoolssettings();
     form->graphicsView->settings = &settings;
     form->graphicsView->updatetoolssettings();
