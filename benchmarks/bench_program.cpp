@@ -22,6 +22,15 @@ void showIt()
     QApplication::processEvents();
 }
 
+/// Brings the program to where the brushes are used.
+void showPreview(ProgramAtWork &program)
+{
+    program.open();
+    program.layMarks();
+    program.preview();
+    showIt();
+}
+
 void decoding(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
@@ -99,10 +108,7 @@ BENCHMARK(previewWithoutFlooding)->Apply(measuring::megapixels);
 void brushBatch(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
-    program.open();
-    program.layMarks();
-    program.preview();
-    showIt();
+    showPreview(program);
     for (auto _ : state)
         program.brush();
 }
@@ -111,10 +117,7 @@ BENCHMARK(brushBatch)->Apply(measuring::megapixels);
 void brushBatchAndUndoShown(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
-    program.open();
-    program.layMarks();
-    program.preview();
-    showIt();
+    showPreview(program);
     for (auto _ : state) {
         program.brush();
         showIt();
@@ -127,10 +130,7 @@ BENCHMARK(brushBatchAndUndoShown)->Apply(measuring::megapixels);
 void brushUndo(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
-    program.open();
-    program.layMarks();
-    program.preview();
-    showIt();
+    showPreview(program);
     for (auto _ : state) {
         state.PauseTiming();
         program.brush();
