@@ -26,6 +26,9 @@ bool ProgressPainter::eventFilter(QObject *watched, QEvent *event)
         m_sincePainted.start();
     } else if (event->type() == QEvent::Hide) {
         m_bar->setAttribute(Qt::WA_UpdatesDisabled, false);
+        // A widget that is hidden asks for its place to be painted before it tells, and was not heard.
+        if (QWidget *parent = m_bar->parentWidget())
+            parent->update(m_bar->geometry());
         m_sincePainted.invalidate();
     }
     return QObject::eventFilter(watched, event);

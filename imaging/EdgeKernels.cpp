@@ -5,8 +5,8 @@
 #define HWY_TARGET_INCLUDE "imaging/EdgeKernels.cpp" // read once for every instruction set
 #include <hwy/foreach_target.h>
 // The line above comes first.
-#include <hwy/highway.h>
 #include <hwy/cache_control.h>
+#include <hwy/highway.h>
 
 #include "imaging/EdgeKernels.h"
 #include "imaging/GaussianWeights.h"
@@ -67,11 +67,10 @@ namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Vectors are capped at the width that the padding of the rows allows for. The tags from the third on have as
-// many lanes as there are floats in a vector, so that a value only ever changes its width and never its
+// Vectors are capped at the width that the padding of the rows allows for. The tags from the second on have
+// as many lanes as there are floats in a vector, so that a value only ever changes its width and never its
 // place.
 constexpr hn::CappedTag<std::uint8_t, 64> byteTag;
-constexpr hn::CappedTag<std::int16_t, 32> levelTag;
 constexpr hn::CappedTag<float, 16> floatTag;
 constexpr hn::Rebind<std::int32_t, decltype(floatTag)> intTag;
 constexpr hn::Rebind<std::int16_t, decltype(floatTag)> shortTag;

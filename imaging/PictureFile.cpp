@@ -23,12 +23,14 @@ constexpr qint64 largestPixelCount = (qint64{allocationLimitInMiB} << 20) / 4;
 QImage roomFor(const QImageReader &reader)
 {
     const QByteArray file = reader.format();
-    const QImage::Format pixels = reader.imageFormat();
     const QSize size = reader.size();
-    const bool known = (file == "jpeg" || file == "png") &&
-                       (pixels == QImage::Format_RGB32 || pixels == QImage::Format_ARGB32);
-    if (!known || size.isEmpty() || qint64{size.width()} * size.height() > largestPixelCount)
+    if ((file != "jpeg" && file != "png") || size.isEmpty() ||
+        qint64{size.width()} * size.height() > largestPixelCount)
         return {}; // the decoder gets its own
+    // Asked for last: after a header that it could not read, a decoder has any number to say.
+    const QImage::Format pixels = reader.imageFormat();
+    if (pixels != QImage::Format_RGB32 && pixels != QImage::Format_ARGB32)
+        return {};
     return makeLargePicture(size, pixels);
 }
 

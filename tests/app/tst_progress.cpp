@@ -5,6 +5,7 @@
 #include "tests/support/WindowUnderTest.h"
 
 #include <QProgressBar>
+#include <QScreen>
 #include <QSignalSpy>
 
 using testsupport::WindowUnderTest;
@@ -65,6 +66,21 @@ private slots:
         QCOMPARE(changes.size(), 100); // whoever listens is told of every one
         QVERIFY2(paintings.values.size() <= 20, qPrintable(QString::number(paintings.values.size())));
         t.progressBar().hide();
+    }
+
+    void barLeavesTheScreen()
+    {
+        WindowUnderTest t;
+        const auto onScreen = [&t] { return t.window.screen()->grabWindow(t.window.winId()).toImage(); };
+        QCoreApplication::processEvents();
+        const QImage before = onScreen();
+        t.progressBar().show();
+        QTest::qSleep(60);
+        t.progressBar().setValue(42);
+        QVERIFY(onScreen() != before);
+        t.progressBar().hide();
+        QCoreApplication::processEvents();
+        QCOMPARE(onScreen(), before);
     }
 
     /// Hidden and shown once more, it is painted like any other widget.

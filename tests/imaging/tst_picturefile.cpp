@@ -395,6 +395,7 @@ void TestPictureFile::refusesWhatIsNoPicture_data()
     QTest::newRow("zeros") << QByteArray(4096, '\0');
     QTest::newRow("magic of png alone") << QByteArray("\x89PNG\r\n\x1A\n");
     QTest::newRow("magic of jpeg alone") << QByteArray("\xFF\xD8\xFF\xE0");
+    QTest::newRow("beginning and end of jpeg") << QByteArray("\xFF\xD8\xFF\xD9");
     QTest::newRow("magic of gif alone") << QByteArray("GIF89a");
     QTest::newRow("magic of tiff alone") << QByteArray("II*\0", 4);
     QTest::newRow("magic of bmp alone") << QByteArray("BM");

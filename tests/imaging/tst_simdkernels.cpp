@@ -328,10 +328,12 @@ void TestSimdKernels::colourOverBoard()
 {
     const QImage opaque = plateauImage(23, 17, 4, 3, 41);
     const QImage transparent = randomArgbImage(16, 16, 42);
-    for (const QImage &board : {opaque, transparent, opaque.convertToFormat(QImage::Format_Indexed8),
-                                opaque.convertToFormat(QImage::Format_Mono)})
-        for (const QSize &size : {QSize(23, 17), QSize(200, 151), QSize(37, 500), QSize(10, 9), QSize(1, 1),
-                                  QSize(16, 16), QSize(15, 17), QSize(17, 1031), QSize(1030, 1029)})
+    for (const QImage &board :
+         {opaque, transparent, transparent.copy(0, 0, 16, 2), opaque.convertToFormat(QImage::Format_Indexed8),
+          opaque.convertToFormat(QImage::Format_Mono)})
+        for (const QSize &size :
+             {QSize(23, 17), QSize(200, 151), QSize(37, 500), QSize(10, 9), QSize(1, 1), QSize(16, 16),
+              QSize(15, 17), QSize(17, 1031), QSize(1030, 1029), QSize(9, 380)})
             for (const QRgb colour :
                  {0x00000000U, 0x00FF0000U, 0x80FF8000U, 0x01020304U, 0xFE7F7F7FU, 0xFF336699U}) {
                 const QImage layer = backgroundLayer(size, colour, board, {}).toImage();
