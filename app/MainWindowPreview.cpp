@@ -58,6 +58,11 @@ void MainWindow::setEditingActionsEnabled(bool editing)
 void MainWindow::updatepreview()
 {
     updatepreviewmask();
+    if (maskImage.isNull() && !workingImage.isNull()) { // without a mask all of the photo would be shown
+        previewScene.clear();
+        form->statusBar->showMessage(tr("Not enough memory for a preview"));
+        return;
+    }
     applypreviewmask();
 }
 
@@ -68,8 +73,10 @@ void MainWindow::updatepreviewmask()
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
     QImage sharp = paintIndices(workingImage.size(), outmask, black, white);
-    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : sharp;
-    if (smoothEdges)
+    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : QImage();
+    if (maskImage.isNull())
+        maskImage = sharp; // not to be smoothed, or no room for that
+    else
         blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
 }
 

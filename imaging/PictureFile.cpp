@@ -15,8 +15,8 @@
 namespace {
 
 constexpr int allocationLimitInMiB = 1024;
-constexpr qint64 largestJpeg = qint64{256} << 20; // more bytes than any picture within the limits takes
 constexpr qint64 largestPixelCount = (qint64{allocationLimitInMiB} << 20) / 4;
+constexpr qint64 largestJpeg = largestPixelCount; // a byte a pixel is more than photographs take
 
 /// A picture that the decoder finds fit for its pixels and therefore takes, or a null one. Only for decoders
 /// that write every pixel of what they are given.

@@ -349,6 +349,32 @@ private slots:
         QCOMPARE(contentsOf(m_photo), m_before);
     }
 
+    /// With nothing found, nothing of the photo may be on the preview, whichever picture there was no room
+    /// for.
+    void previewLargerThanMemory_data()
+    {
+        QTest::addColumn<int>("mebibytes");
+        for (const int mebibytes : {10, 18, 26, 34, 50})
+            QTest::addRow("%d MiB", mebibytes) << mebibytes;
+    }
+
+    void previewLargerThanMemory()
+    {
+        QFETCH(int, mebibytes);
+        if (hasSanitizer())
+            QSKIP("the address sanitizer needs an address space without limit");
+        const QString path = file("large.bmp");
+        picturefiles::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        m_user->open(path);
+        QCOMPARE(m_user->status(), "Ready");
+        {
+            const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
+            m_user->preview(true);
+        }
+        const QImage shown = m_user->probe().previewImage();
+        QVERIFY(shown.isNull() || qAlpha(shown.pixel(1000, 1000)) < 8); // smoothed, white is a little less
+    }
+
 private:
     [[nodiscard]] QString file(const QString &name) const
     {
