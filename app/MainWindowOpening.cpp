@@ -13,6 +13,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cstdint>
+#include <new>
+
 namespace {
 
 /// Null when memory is short.
@@ -88,6 +92,11 @@ void MainWindow::open()
 
 void MainWindow::colorsobel()
 {
-    if (edgeMap != nullptr)
+    if (edgeMap == nullptr)
+        return;
+    try {
         computeEdgeMap(workingImage, edgeMap.get());
+    } catch (const std::bad_alloc &) { // short of memory, there are no edges; differences of colour remain
+        std::fill_n(edgeMap.get(), workingImage.sizeInBytes() / 4, std::uint8_t{0});
+    }
 }

@@ -24,6 +24,15 @@ inline int megapixelsOf(const benchmark::State &state)
     return static_cast<int>(state.range(0));
 }
 
+/// Measures `work()`, once it has run. Memory that a virtual machine has not used for some seconds has to
+/// come from its host, which can take longer than the work.
+template <typename Work> void repeat(benchmark::State &state, Work work)
+{
+    work();
+    for (auto _ : state)
+        work();
+}
+
 /// Adds the number of pixels to the row, which scripts/measure divides by, and the time for each of them.
 inline void perPixel(benchmark::State &state, QSize size)
 {

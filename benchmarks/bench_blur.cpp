@@ -53,8 +53,7 @@ void blur(benchmark::State &state, QImage (*pictureOf)(int), int size)
 {
     const QImage picture = pictureOf(measuring::megapixelsOf(state));
     QImage smooth = picture.copy();
-    for (auto _ : state)
-        blurFourChannels(picture, smooth, size, size / 5.0, {});
+    measuring::repeat(state, [&] { blurFourChannels(picture, smooth, size, size / 5.0, {}); });
     measuring::perPixel(state, picture.size());
 }
 
@@ -67,8 +66,7 @@ void blurOfOpenCv(benchmark::State &state, QImage (*pictureOf)(int), int size)
     const cv::Mat source(picture.height(), picture.width(), CV_8UC4, picture.bits(),
                          static_cast<std::size_t>(picture.bytesPerLine()));
     cv::Mat smooth = source.clone();
-    for (auto _ : state)
-        cv::GaussianBlur(source, smooth, cv::Size(size, size), size / 5.0);
+    measuring::repeat(state, [&] { cv::GaussianBlur(source, smooth, cv::Size(size, size), size / 5.0); });
     measuring::perPixel(state, picture.size());
 }
 BENCHMARK_CAPTURE(blurOfOpenCv, mask, objectMask, 5)->Name("maskBlur/openCv")->Apply(measuring::megapixels);

@@ -22,10 +22,10 @@ namespace {
 void edgeMap(benchmark::State &state, const QImage &picture)
 {
     const auto edges = std::make_unique<std::uint8_t[]>(static_cast<std::size_t>(picture.sizeInBytes() / 4));
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         computeEdgeMap(picture, edges.get());
         benchmark::DoNotOptimize(edges.get()[0]);
-    }
+    });
     measuring::perPixel(state, picture.size());
 }
 
@@ -80,8 +80,7 @@ void edgeMapOfOpenCv(benchmark::State &state)
     QImage picture = benchmarkpictures::photoMosaic(measuring::megapixelsOf(state));
     const cv::Mat source(picture.height(), picture.width(), CV_8UC4, picture.bits(),
                          static_cast<std::size_t>(picture.bytesPerLine()));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(edgesOf(source).data);
+    measuring::repeat(state, [&] { benchmark::DoNotOptimize(edgesOf(source).data); });
     measuring::perPixel(state, picture.size());
 }
 BENCHMARK(edgeMapOfOpenCv)->Name("edgeMap/openCv")->Apply(measuring::megapixels);

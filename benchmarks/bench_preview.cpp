@@ -56,8 +56,7 @@ const Subject &subjectOf(const benchmark::State &state)
 template <typename Step> void oneStep(benchmark::State &state, Step step)
 {
     const Subject &subject = subjectOf(state);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(step(subject).width());
+    measuring::repeat(state, [&] { benchmark::DoNotOptimize(step(subject).width()); });
     measuring::perPixel(state, subject.photo.size());
 }
 

@@ -34,8 +34,7 @@ void showPreview(ProgramAtWork &program)
 void decoding(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(QImage(program.file()).width());
+    measuring::repeat(state, [&] { benchmark::DoNotOptimize(QImage(program.file()).width()); });
     program.open();
     measuring::perPixel(state, program.size());
 }
@@ -44,8 +43,7 @@ BENCHMARK(decoding)->Apply(measuring::megapixels);
 void opening(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
-    for (auto _ : state)
-        program.open();
+    measuring::repeat(state, [&] { program.open(); });
     measuring::perPixel(state, program.size());
 }
 BENCHMARK(opening)->Apply(measuring::megapixels);
@@ -53,10 +51,10 @@ BENCHMARK(opening)->Apply(measuring::megapixels);
 void openingShown(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         program.open();
         showIt();
-    }
+    });
     measuring::perPixel(state, program.size());
 }
 BENCHMARK(openingShown)->Apply(measuring::megapixels);
@@ -68,11 +66,11 @@ void flooding(benchmark::State &state)
     program.layMarks();
     markers::Seeds seeds =
         markers::seedsOf(program.state().imageScene().items(), program.state().workingImage().size());
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         QList<int> mask;
         FrWatershed(&program.state().workingImage(), seeds.keep, seeds.remove, mask,
                     program.state().edgeMap(), nullptr);
-    }
+    });
     measuring::perPixel(state, program.size());
 }
 BENCHMARK(flooding)->Apply(measuring::megapixels);
@@ -83,10 +81,10 @@ void maskStep(benchmark::State &state)
     program.open();
     program.layMarks();
     showIt();
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         program.run("on_actionMask_triggered");
         showIt();
-    }
+    });
     measuring::perPixel(state, program.size());
 }
 BENCHMARK(maskStep)->Apply(measuring::megapixels);
@@ -97,10 +95,10 @@ void previewWithoutFlooding(benchmark::State &state)
     program.open();
     program.layMarks();
     program.preview();
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         program.state().previewImage() = QImage();
         program.window().updatepreview();
-    }
+    });
     measuring::perPixel(state, program.size());
 }
 BENCHMARK(previewWithoutFlooding)->Apply(measuring::megapixels);
@@ -109,8 +107,7 @@ void brushBatch(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
     showPreview(program);
-    for (auto _ : state)
-        program.brush();
+    measuring::repeat(state, [&] { program.brush(); });
 }
 BENCHMARK(brushBatch)->Apply(measuring::megapixels);
 
@@ -118,12 +115,12 @@ void brushBatchAndUndoShown(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
     showPreview(program);
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         program.brush();
         showIt();
         program.state().undoStack().undo();
         showIt();
-    }
+    });
 }
 BENCHMARK(brushBatchAndUndoShown)->Apply(measuring::megapixels);
 

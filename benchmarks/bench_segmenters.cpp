@@ -18,11 +18,11 @@ namespace {
 void waves(benchmark::State &state)
 {
     QImage picture = benchmarkpictures::photoMosaic(measuring::megapixelsOf(state));
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         QList<QList<int>> regions;
         FrWaveSegment(&picture, regions, 40, nullptr, nullptr);
         benchmark::DoNotOptimize(regions);
-    }
+    });
     measuring::perPixel(state, picture.size());
 }
 BENCHMARK(waves)->Apply(measuring::megapixels);
@@ -31,11 +31,11 @@ BENCHMARK(waves)->Apply(measuring::megapixels);
 void wavesOfOnePixel(benchmark::State &state)
 {
     QImage picture = benchmarkpictures::photoMosaic(measuring::megapixelsOf(state));
-    for (auto _ : state) {
+    measuring::repeat(state, [&] {
         QList<QList<int>> regions;
         FrWaveSegment(&picture, regions, 0, nullptr, nullptr);
         benchmark::DoNotOptimize(regions);
-    }
+    });
     measuring::perPixel(state, picture.size());
 }
 BENCHMARK(wavesOfOnePixel)->Apply(measuring::megapixels);
@@ -50,8 +50,7 @@ void feathering(benchmark::State &state)
     painter.setBrush(Qt::color1);
     painter.drawEllipse(picture.rect().adjusted(50, 50, -50, -50));
     painter.end();
-    for (auto _ : state)
-        OvDoFeathering(&picture, mask, 3);
+    measuring::repeat(state, [&] { OvDoFeathering(&picture, mask, 3); });
     measuring::perPixel(state, picture.size());
 }
 BENCHMARK(feathering)->Apply(measuring::megapixels);

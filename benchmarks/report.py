@@ -126,8 +126,8 @@ def table(head, rows):
 def machine(measured):
     cpu = subprocess.run(["lscpu"], capture_output=True, text=True, check=True, env={"LC_ALL": "C"}).stdout
     model = re.search(r"Model name:\s*(.*)", cpu).group(1)
-    caches = ", ".join(f"L{c['level']}{c['type'][0].lower()} {c['size'] // 1024} KiB"
-                       for c in measured.context["caches"])
+    caches = ", ".join(f"L{c['level']} {c['size'] // 1024} KiB"
+                       for c in measured.context["caches"] if c["type"] != "Instruction")
     with open("/sys/kernel/mm/transparent_hugepage/enabled", encoding="ascii") as file:
         large_pages = re.search(r"\[(\w+)\]", file.read()).group(1)
     load = ", ".join(f"{value:.1f}" for value in measured.context["load_avg"])

@@ -89,9 +89,13 @@ int laneCount()
 void SplitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
 {
     const auto byte = hn::Set(intTag, 0xFF);
+    // Fetched in time; a number, since below the picture there is nothing to point at.
+    const auto twoRowsBelow =
+        reinterpret_cast<std::uintptr_t>(pixels) + static_cast<std::uintptr_t>(count) * 8;
     int x = 0;
     for (; x + laneCount() <= count; x += laneCount()) {
-        hwy::Prefetch(pixels + std::ptrdiff_t{count} * 8 + std::ptrdiff_t{x} * 4);
+        hwy::Prefetch(
+            reinterpret_cast<const std::uint8_t *>(twoRowsBelow + static_cast<std::uintptr_t>(x) * 4));
         const auto whole = hn::LoadU(intTag, reinterpret_cast<const std::int32_t *>(pixels) + x);
         const auto blue = hn::And(whole, byte);
         const auto green = hn::And(hn::ShiftRight<8>(whole), byte);

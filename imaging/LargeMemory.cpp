@@ -56,12 +56,14 @@ QImage makeLargePicture(QSize size, QImage::Format format)
     constexpr int longestRow = std::numeric_limits<int>::max() / pixelBytes;
     const bool plain = size.isEmpty() || size.width() > longestRow || format == QImage::Format_Invalid ||
                        QImage::toPixelFormat(format).bitsPerPixel() != 8 * pixelBytes;
-    const std::size_t bytes = plain ? 0
-                                    : std::size_t{pixelBytes} * static_cast<std::size_t>(size.width()) *
-                                          static_cast<std::size_t>(size.height());
+    const quint64 bytes = plain ? 0
+                                : quint64{pixelBytes} * static_cast<quint64>(size.width()) *
+                                      static_cast<quint64>(size.height());
     if (bytes < largePage)
         return {size, format};
-    auto *pixels = static_cast<uchar *>(allocateLargeMemory(bytes));
+    if (bytes > std::numeric_limits<std::size_t>::max())
+        return {};
+    auto *pixels = static_cast<uchar *>(allocateLargeMemory(static_cast<std::size_t>(bytes)));
     if (pixels == nullptr)
         return {};
     return {pixels, size.width(), size.height(), qsizetype{pixelBytes} * size.width(),

@@ -12,6 +12,8 @@
 #include <QImageWriter>
 #include <QSaveFile>
 
+#include <new>
+
 namespace {
 
 constexpr int allocationLimitInMiB = 1024;
@@ -34,9 +36,7 @@ QImage roomFor(const QImageReader &reader)
     return makeLargePicture(size, pixels);
 }
 
-} // namespace
-
-QImage readPicture(const QString &path)
+QImage decoded(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -61,6 +61,17 @@ QImage readPicture(const QString &path)
         return {};
     picture.setDevicePixelRatio(1.0); // Qt takes "@2x" in a file's name for a hint; here a pixel is a pixel
     return picture;
+}
+
+} // namespace
+
+QImage readPicture(const QString &path)
+{
+    try {
+        return decoded(path);
+    } catch (const std::bad_alloc &) {
+        return {};
+    }
 }
 
 bool writePicture(const QImage &picture, const QString &path, const QByteArray &format)

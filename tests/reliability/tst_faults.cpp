@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
@@ -373,6 +374,25 @@ private slots:
         }
         const QImage shown = m_user->probe().previewImage();
         QVERIFY(shown.isNull() || qAlpha(shown.pixel(1000, 1000)) < 8); // smoothed, white is a little less
+    }
+
+    /// A picture that is nothing but width takes little memory, and its edges much.
+    void edgesLargerThanMemory()
+    {
+        if (hasSanitizer())
+            QSKIP("the address sanitizer needs an address space without limit");
+        const QString path = file("wide.bmp");
+        QImage wide(4'000'000, 1, QImage::Format_Mono);
+        wide.fill(1);
+        picturefiles::put(path, picturefiles::encoded(wide, "bmp"));
+        {
+            const ShortMemory memory(rlim_t{200} << 20);
+            m_user->open(path);
+        }
+        QCOMPARE(m_user->status(), "Ready");
+        QCOMPARE(m_user->probe().workingImage().size(), wide.size());
+        const unsigned char *const edges = m_user->probe().edgeMap();
+        QVERIFY(std::all_of(edges, edges + wide.width(), [](unsigned char edge) { return edge == 0; }));
     }
 
 private:
