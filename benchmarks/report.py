@@ -58,18 +58,23 @@ def memory_of(path):
 
 
 def first_opening(path):
-    """Of the first photo after the start: what opening takes beyond decoding, as a part of the decoding."""
+    """Median milliseconds of the first photo after the start, by "decode" or "open" and the photo."""
     times = {}
     with open(path, encoding="utf-8") as file:
         for line in file:
-            size, work, _, milliseconds = line.split()
-            times.setdefault((int(size), work), []).append(float(milliseconds))
-    median = {key: statistics.median(values) for key, values in times.items()}
-    return [median[size, "open"] / median[size, "decode"] - 1 for size in SIZES]
+            photo, work, _, milliseconds = line.split()
+            times.setdefault((photo, work), []).append(float(milliseconds))
+    return {key: statistics.median(values) for key, values in times.items()}
+
+
+def beyond_decoding(first, photo):
+    """What opening takes beyond decoding, as a part of the decoding."""
+    return first[photo, "open"] / first[photo, "decode"] - 1
 
 
 def rows_of_goals(measured, folder):
     """(work, figures at SIZES, bar, aim)"""
+    first = first_opening(folder / "first.txt")
     opening = [(measured.ms("opening", s) - measured.ms("decoding", s)) / measured.ms("decoding", s) for s in SIZES]
     brush = [measured.ms("brushBatch", s) + measured.ms("brushUndo", s) for s in SIZES]
     shown = [measured.ms("brushBatchAndUndoShown", s) for s in SIZES]
@@ -88,7 +93,7 @@ def rows_of_goals(measured, folder):
          [measured.ns("previewWithoutFlooding", s) for s in SIZES], 14, 8),
         ("brush batch of ten 20-pixel dabs and its undo, ms", brush, 4, 1),
         ("the same, both repainted in a window of 1280 x 900, ms", shown, 4, 1),
-        ("opening beyond decoding by `QImage` / decoding, first photo", first_opening(folder / "first.txt"), 0.6, 0.3),
+        ("opening beyond decoding by `QImage` / decoding, first photo", [beyond_decoding(first, str(s)) for s in SIZES], 0.6, 0.3),
         ("the same, one photo after the other", opening, 0.6, 0.3),
         ("peak memory from opening to export, bytes a pixel", memory_of(folder / "memory.txt"), 44, 32),
     ]
@@ -142,11 +147,17 @@ def text_of(measured, folder):
              for work, figures, bar, aim in rows_of_goals(measured, folder)]
     steps = [[label, *(number(measured.ns(name, size)) for size in SIZES),
               number(measured.ns(name, 64) / measured.ns(name, 4))] for name, label in STEPS]
+    first = first_opening(folder / "first.txt")
+    photos = sorted({photo for photo, _ in first if not photo.isdigit()})
+    opened = [[f"`{photo}`", number(first[photo, "decode"]), number(first[photo, "open"]),
+               number(beyond_decoding(first, photo))] for photo in photos]
     return "\n".join([
         machine(measured), "",
         *table(["Work", *sizes, "bar", "aim"], goals), "",
         "Nanoseconds a pixel, and how much more a pixel takes at 64 megapixels than at 4 (bar 1.5, aim 1.2):", "",
-        *table(["Step", *sizes, "growth"], steps)])
+        *table(["Step", *sizes, "growth"], steps), "",
+        "Whole photographs, opened as the first after the start:", "",
+        *table(["Photo", "decoding, ms", "opening, ms", "opening beyond decoding / decoding"], opened)])
 
 
 def draw(measured, path):
