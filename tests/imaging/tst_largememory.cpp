@@ -48,8 +48,8 @@ private slots:
             numbers.push_back(i);
         QCOMPARE(numbers[4], 1);
         QCOMPARE(numbers.back(), 1'999'999);
-        QVERIFY_EXCEPTION_THROWN((std::vector<char, LargeAllocator<char>>(~std::size_t{0} / 2)),
-                                 std::bad_alloc);
+        QVERIFY_THROWS_EXCEPTION(std::bad_alloc,
+                                 std::vector<char, LargeAllocator<char>>(~std::size_t{0} / 2));
     }
 
     void pictures_data()
