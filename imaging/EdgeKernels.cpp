@@ -86,16 +86,13 @@ int laneCount()
     return static_cast<int>(hn::Lanes(floatTag));
 }
 
-void SplitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
+void SplitRow(const std::uint8_t *pixels, const std::uint8_t *ahead, int count,
+              const std::array<std::int16_t *, 3> &colours)
 {
     const auto byte = hn::Set(intTag, 0xFF);
-    // Fetched in time; a number, since below the picture there is nothing to point at.
-    const auto twoRowsBelow =
-        reinterpret_cast<std::uintptr_t>(pixels) + static_cast<std::uintptr_t>(count) * 8;
     int x = 0;
     for (; x + laneCount() <= count; x += laneCount()) {
-        hwy::Prefetch(
-            reinterpret_cast<const std::uint8_t *>(twoRowsBelow + static_cast<std::uintptr_t>(x) * 4));
+        hwy::Prefetch(ahead + std::ptrdiff_t{x} * 4);
         const auto whole = hn::LoadU(intTag, reinterpret_cast<const std::int32_t *>(pixels) + x);
         const auto blue = hn::And(whole, byte);
         const auto green = hn::And(hn::ShiftRight<8>(whole), byte);
@@ -395,9 +392,10 @@ Weights::Weights(double sigma)
     outerSlack = slackFor(half[3], outerBits);
 }
 
-void splitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours)
+void splitRow(const std::uint8_t *pixels, const std::uint8_t *ahead, int count,
+              const std::array<std::int16_t *, 3> &colours)
 {
-    HWY_DYNAMIC_DISPATCH(SplitRow)(pixels, count, colours);
+    HWY_DYNAMIC_DISPATCH(SplitRow)(pixels, ahead, count, colours);
 }
 
 void smoothRow(const std::int16_t *in, int count, const Weights &weights, float *out)

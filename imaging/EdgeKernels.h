@@ -64,8 +64,10 @@ struct RowStatistics
     }
 };
 
-/// Takes `count` pixels (blue, green, red, unused) apart. `pixels` needs no padding.
-void splitRow(const std::uint8_t *pixels, int count, const std::array<std::int16_t *, 3> &colours);
+/// Takes `count` pixels (blue, green, red, unused) apart. `pixels` needs no padding. The pixels of `ahead`,
+/// as many, are fetched into the cache meanwhile.
+void splitRow(const std::uint8_t *pixels, const std::uint8_t *ahead, int count,
+              const std::array<std::int16_t *, 3> &colours);
 
 /// Horizontal pass in floats. The sum for column `radius` goes to out[0], so that `out` is read at aligned
 /// places.

@@ -64,7 +64,8 @@ public:
 private:
     void take(int y)
     {
-        splitRow(m_picture.constScanLine(y), m_width,
+        const std::uint8_t *ahead = m_picture.constScanLine(std::min(y + 2, m_height - 1));
+        splitRow(m_picture.constScanLine(y), ahead, m_width,
                  {m_channels[0].levels.row(y), m_channels[1].levels.row(y), m_channels[2].levels.row(y)});
         for (Channel &channel : m_channels)
             smoothRow(channel.levels.row(y), m_width, m_weights, channel.smooth.row(y));
