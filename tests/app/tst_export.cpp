@@ -4,6 +4,7 @@
 #include "app/dialogs/ExportDialog.h"
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
+#include "tests/support/DialogParts.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowUnderTest.h"
@@ -21,20 +22,13 @@
 
 using testsupport::MessageLog;
 using testsupport::ModalAnswers;
+using testsupport::part;
 using testsupport::WindowUnderTest;
 
 namespace {
 
 constexpr int width = 60;
 constexpr int height = 44;
-
-template <typename Widget> Widget &part(const QWidget &dialog, const char *name)
-{
-    auto *found = dialog.findChild<Widget *>(name);
-    if (found == nullptr)
-        qFatal("the dialog has no %s", name);
-    return *found;
-}
 
 QPushButton &okOf(const QWidget &dialog)
 {

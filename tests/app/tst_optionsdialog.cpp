@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/dialogs/OptionsDialog.h"
+#include "tests/support/DialogParts.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
@@ -14,6 +15,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
+
+using testsupport::part;
 
 using driver::action;
 
@@ -45,28 +48,20 @@ private:
 
 namespace {
 
-template <typename Widget> Widget *find(const QWidget &dialog, const char *name)
-{
-    auto *found = dialog.findChild<Widget *>(name);
-    if (found == nullptr)
-        qFatal("no %s", name);
-    return found;
-}
-
 QSpinBox *spin(const QWidget &dialog, const char *name)
 {
-    return find<QSpinBox>(dialog, name);
+    return &part<QSpinBox>(dialog, name);
 }
 
 void pressOk(const QWidget &dialog)
 {
-    QTest::mouseClick(find<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Ok),
+    QTest::mouseClick(part<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Ok),
                       Qt::LeftButton);
 }
 
 void pressCancel(const QWidget &dialog)
 {
-    QTest::mouseClick(find<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Cancel),
+    QTest::mouseClick(part<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Cancel),
                       Qt::LeftButton);
 }
 
@@ -89,12 +84,12 @@ void TestOptionsDialog::firstRun()
     QCOMPARE(dialog.windowTitle(), "Preferences");
     for (const auto &[name, key] : sizes)
         QCOMPARE(spin(dialog, name)->value(), 10);
-    QCOMPARE(find<QDoubleSpinBox>(dialog, "doubleSpinBox")->value(), 0.6);
+    QCOMPARE(part<QDoubleSpinBox>(dialog, "doubleSpinBox").value(), 0.6);
     QCOMPARE(spin(dialog, "spinBox_6")->value(), 50);
     QCOMPARE(spin(dialog, "spinBox_7")->value(), 20);
     QCOMPARE(spin(dialog, "spinBox_9")->value(), 5);
-    QVERIFY(find<QCheckBox>(dialog, "checkBoxSmooth")->isChecked());
-    QVERIFY(!find<QCheckBox>(dialog, "checkBox")->isChecked());
+    QVERIFY(part<QCheckBox>(dialog, "checkBoxSmooth").isChecked());
+    QVERIFY(!part<QCheckBox>(dialog, "checkBox").isChecked());
     for (const auto &[name, key] : sizes)
         QVERIFY(spin(dialog, name)->isEnabled());
     QVERIFY(settings.allKeys().isEmpty());
@@ -113,7 +108,7 @@ void TestOptionsDialog::ranges()
     for (const auto &[name, key] : intensities)
         check(name, 0, 254, 1);
     check("spinBox_9", 1, 15, 2);
-    const auto *opacity = find<QDoubleSpinBox>(dialog, "doubleSpinBox");
+    const auto *opacity = &part<QDoubleSpinBox>(dialog, "doubleSpinBox");
     QCOMPARE(opacity->minimum(), 0.0);
     QCOMPARE(opacity->maximum(), 1.0);
     QCOMPARE(opacity->singleStep(), 0.1);
@@ -123,7 +118,7 @@ void TestOptionsDialog::ranges()
 void TestOptionsDialog::form()
 {
     OptionsDialog dialog(&settings, nullptr);
-    auto *grid = find<QGridLayout>(dialog, "gridLayout_2");
+    auto *grid = &part<QGridLayout>(dialog, "gridLayout_2");
     struct Place
     {
         const char *name;
@@ -153,7 +148,7 @@ void TestOptionsDialog::form()
                                {"spinBox_7", 6, 4, nullptr},
                                {"label_9", 7, 0, "Blue Marker width"},
                                {"spinBox_8", 7, 1, nullptr}}) {
-        auto *widget = find<QWidget>(dialog, place.name);
+        auto *widget = &part<QWidget>(dialog, place.name);
         int row = -1;
         int column = -1;
         int rows = 0;
@@ -163,8 +158,8 @@ void TestOptionsDialog::form()
         if (place.text != nullptr)
             QCOMPARE(widget->property("text").toString(), place.text);
     }
-    QCOMPARE(find<QDialogButtonBox>(dialog, "buttonBox")->orientation(), Qt::Horizontal);
-    QCOMPARE(find<QDialogButtonBox>(dialog, "buttonBox")->standardButtons(),
+    QCOMPARE(part<QDialogButtonBox>(dialog, "buttonBox").orientation(), Qt::Horizontal);
+    QCOMPARE(part<QDialogButtonBox>(dialog, "buttonBox").standardButtons(),
              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 }
 
@@ -181,10 +176,10 @@ void TestOptionsDialog::storedValuesAreShown()
     value = 21;
     for (const auto &[name, key] : sizes + intensities)
         QCOMPARE(spin(dialog, name)->value(), value++);
-    QCOMPARE(find<QDoubleSpinBox>(dialog, "doubleSpinBox")->value(), 0.35);
-    QVERIFY(!find<QCheckBox>(dialog, "checkBoxSmooth")->isChecked());
+    QCOMPARE(part<QDoubleSpinBox>(dialog, "doubleSpinBox").value(), 0.35);
+    QVERIFY(!part<QCheckBox>(dialog, "checkBoxSmooth").isChecked());
     QCOMPARE(spin(dialog, "spinBox_9")->value(), 9);
-    QVERIFY(!find<QCheckBox>(dialog, "checkBox")->isChecked()); // whatever is stored
+    QVERIFY(!part<QCheckBox>(dialog, "checkBox").isChecked()); // whatever is stored
     QVERIFY(spin(dialog, "spinBox_2")->isEnabled());
 }
 
@@ -209,7 +204,7 @@ void TestOptionsDialog::valuesOutOfRange()
     QCOMPARE(settings.value("GOUSSIZE").toInt(), 15);
     settings.setValue("MOPACITY", "nan");
     OptionsDialog again(&settings, nullptr);
-    const double opacity = find<QDoubleSpinBox>(again, "doubleSpinBox")->value();
+    const double opacity = part<QDoubleSpinBox>(again, "doubleSpinBox").value();
     QVERIFY(opacity >= 0.0 && opacity <= 1.0);
 }
 
@@ -222,8 +217,8 @@ void TestOptionsDialog::okWritesEverything()
         spin(dialog, name)->selectAll();
         QTest::keyClicks(spin(dialog, name), QString::number(value++));
     }
-    find<QDoubleSpinBox>(dialog, "doubleSpinBox")->setValue(0.25);
-    QTest::mouseClick(find<QCheckBox>(dialog, "checkBoxSmooth"), Qt::LeftButton, {}, QPoint(8, 8));
+    part<QDoubleSpinBox>(dialog, "doubleSpinBox").setValue(0.25);
+    QTest::mouseClick(&part<QCheckBox>(dialog, "checkBoxSmooth"), Qt::LeftButton, {}, QPoint(8, 8));
     spin(dialog, "spinBox_9")->setValue(11);
     QVERIFY(settings.allKeys().isEmpty()); // nothing before OK
     pressOk(dialog);
@@ -260,7 +255,7 @@ void TestOptionsDialog::cancelWritesNothing()
         OptionsDialog dialog(&settings, nullptr);
         dialog.show();
         spin(dialog, "spinBox")->setValue(5);
-        find<QCheckBox>(dialog, "checkBox")->setChecked(true);
+        part<QCheckBox>(dialog, "checkBox").setChecked(true);
         if (escape)
             QTest::keyClick(&dialog, Qt::Key_Escape);
         else
@@ -275,7 +270,7 @@ void TestOptionsDialog::cancelWritesNothing()
 void TestOptionsDialog::tickingSameSize()
 {
     OptionsDialog dialog(&settings, nullptr);
-    auto *same = find<QCheckBox>(dialog, "checkBox");
+    auto *same = &part<QCheckBox>(dialog, "checkBox");
     const QStringList followers{"spinBox_2", "spinBox_3", "spinBox_4", "spinBox_5"};
     for (int round = 0; round < 2; ++round) {
         same->click();
@@ -299,7 +294,7 @@ void TestOptionsDialog::sameSizeKeepsOwnSizes()
     settings.setValue("BLUEMSIZE", 44);
     OptionsDialog dialog(&settings, nullptr);
     dialog.show();
-    find<QCheckBox>(dialog, "checkBox")->click();
+    part<QCheckBox>(dialog, "checkBox").click();
     pressOk(dialog);
     QCOMPARE(settings.value("SAMESIZECHECKED").toBool(), true);
     QCOMPARE(settings.value("REMOVEMSIZE").toInt(), 33);
@@ -325,11 +320,11 @@ void TestOptionsDialog::languageChange()
 {
     OptionsDialog dialog(&settings, nullptr);
     dialog.setWindowTitle("other");
-    find<QLabel>(dialog, "label")->setText("other");
+    part<QLabel>(dialog, "label").setText("other");
     QEvent change(QEvent::LanguageChange);
     QApplication::sendEvent(&dialog, &change);
     QCOMPARE(dialog.windowTitle(), "Preferences");
-    QCOMPARE(find<QLabel>(dialog, "label")->text(), "Foreground Marker width");
+    QCOMPARE(part<QLabel>(dialog, "label").text(), "Foreground Marker width");
 }
 
 void TestOptionsDialog::windowFollowsOk()
