@@ -4,17 +4,12 @@
 #include "app/MainWindow.h"
 
 #include "app/ProgressPainter.h"
+#include "resources/Resources.h"
 #include "ui_MainWindow.h"
 
 #include <QActionGroup>
 #include <QEvent>
 #include <QToolButton>
-
-// Outside any namespace, as the macro wants it.
-static void registerResources()
-{
-    Q_INIT_RESOURCE(ornevo);
-}
 
 namespace {
 
@@ -26,7 +21,7 @@ constexpr double zoomStepBack = 0.8333333333333334; // 1 / 1.2
 
 MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_unique<Ui_MainWindow>())
 {
-    registerResources();
+    resources::registerAll();
     form->setupUi(this);
     setUpActions();
     letTabIntoTheToolBar();

@@ -4,7 +4,7 @@
 #include "app/MainWindow.h"
 
 #include "app/dialogs/BackgroundDialog.h"
-#include "imaging/PictureFile.h"
+#include "cutout/PictureFile.h"
 
 #include <QGraphicsPixmapItem>
 
@@ -26,7 +26,7 @@ void MainWindow::on_actionSelect_Background_triggered()
         backgroundImage = QImage();
         previewOffset = QPoint();
     } else {
-        backgroundImage = readPicture(dialog.picturePath);
+        backgroundImage = cutout::readPicture(dialog.picturePath);
     }
     applypreviewmask();
 }

@@ -5,7 +5,7 @@
 
 #include "canvas/CBrushCommand.h"
 #include "canvas/PictureItem.h"
-#include "imaging/AlphaBrush.h"
+#include "cutout/AlphaBrush.h"
 #include "ui_MainWindow.h"
 
 #include <algorithm>
@@ -60,7 +60,7 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
 {
     if (!form->actionPreview->isChecked() || previewItem == nullptr || previewImage.isNull())
         return; // the preview went while the batch was waiting
-    BrushBatch batch = brushBatch(rects, previewOffset, previewImage.size());
+    cutout::BrushBatch batch = cutout::brushBatch(rects, previewOffset, previewImage.size());
     // The program only ever sets skipLastRect to true; who sets it to false spares the last dab one batch.
     if (!skipLastRect)
         batch.pixels -= lastBrushRect;
@@ -68,7 +68,7 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
     batch.box &= previewImage.rect();
     // QImage::copy() takes an empty rectangle for the whole picture.
     const QImage before = batch.box.isEmpty() ? QImage() : previewImage.copy(batch.box);
-    changeAlpha(previewImage, batch.pixels, alphaChange);
+    cutout::changeAlpha(previewImage, batch.pixels, alphaChange);
     updatePixmap(*previewItem, previewImage, batch.box);
     QPixmap after = previewItem->pixmap(); // up to date already; the entry's first redo shows it once more
     undoStack.push(new CBrushCommand(previewItem, batch.box, &after, &previewImage, before));

@@ -4,8 +4,8 @@
 #include "app/MainWindow.h"
 
 #include "app/dialogs/ExportDialog.h"
-#include "imaging/ExportComposition.h"
-#include "imaging/PictureFile.h"
+#include "cutout/ExportComposition.h"
+#include "cutout/PictureFile.h"
 #include "imaging/Truncation.h"
 
 #include <QDebug>
@@ -47,8 +47,9 @@ void MainWindow::on_actionExport_triggered()
         return;
 
     const QString suffix = QFileInfo(fileName).suffix();
-    const ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
-    writePicture(composeExport(layers, QSize(width, height)).toImage(), fileName, suffix.toLatin1());
+    const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
+    cutout::writePicture(cutout::composeExport(layers, QSize(width, height)).toImage(), fileName,
+                         suffix.toLatin1());
     if (qAlpha(backgroundColor) != 255 && isJpeg(suffix))
         QMessageBox::warning(
             nullptr, tr("Transparency was lost"),

@@ -5,7 +5,7 @@
 
 #include "canvas/MarkerDabs.h"
 #include "canvas/PictureItem.h"
-#include "imaging/IndexPicture.h"
+#include "cutout/IndexPicture.h"
 #include "segmentation/FrWatershed.h"
 #include "ui_MainWindow.h"
 
@@ -48,7 +48,7 @@ void MainWindow::on_actionMask_triggered()
     constexpr QRgb white = qRgb(255, 255, 255);
     updatemask();
     form->statusBar->showMessage(tr("Displaying image"));
-    const QImage overlay = paintIndices(workingImage.size(), outmask, green, white);
+    const QImage overlay = cutout::paintIndices(workingImage.size(), outmask, green, white);
     maskItem = new PictureItem(QPixmap::fromImage(overlay));
     imageScene.addItem(maskItem);
     maskItem->setZValue(markers::maskOverlayZ);

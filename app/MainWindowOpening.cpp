@@ -5,9 +5,9 @@
 
 #include "canvas/PictureItem.h"
 #include "canvas/SettingsKeys.h"
+#include "cutout/PictureFile.h"
 #include "imaging/EdgeMap.h"
 #include "imaging/LargeMemory.h"
-#include "imaging/PictureFile.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
@@ -62,7 +62,7 @@ void MainWindow::open()
     maskItem = nullptr;
     outmask.clear();
 
-    const QImage picture = readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
+    const QImage picture = cutout::readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
     // All the memory that the picture takes is got before anything refers to the picture.
     const QPixmap pixmap = QPixmap::fromImage(picture);
     LargeArray<unsigned char> edges = bytesFor(picture);

@@ -4,10 +4,10 @@
 #include "app/MainWindow.h"
 
 #include "canvas/PictureItem.h"
-#include "imaging/BackgroundLayer.h"
-#include "imaging/CutOut.h"
+#include "cutout/BackgroundLayer.h"
+#include "cutout/CutOut.h"
+#include "cutout/IndexPicture.h"
 #include "imaging/FourChannelBlur.h"
-#include "imaging/IndexPicture.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -72,7 +72,7 @@ void MainWindow::updatepreviewmask()
     constexpr QRgb white = qRgb(255, 255, 255);
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
-    QImage sharp = paintIndices(workingImage.size(), outmask, black, white);
+    QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
     maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : QImage();
     if (maskImage.isNull())
         maskImage = sharp; // not to be smoothed, or no room for that
@@ -113,13 +113,13 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         if (topmostPicture() == nullptr)
             return;
         form->statusBar->showMessage(tr("getting inversed mask"));
-        previewImage = cutOut(imagePixmap.toImage(), maskImage);
+        previewImage = cutout::cutOut(imagePixmap.toImage(), maskImage);
         form->statusBar->showMessage(tr("painting alpha channel"));
         form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
         form->statusBar->showMessage(tr("feather done"));
     }
     // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
-    *object = QPixmap::fromImage(premultiplied(previewImage), Qt::NoOpaqueDetection);
-    *background = backgroundLayer(workingImage.size(), backgroundColor, QImage(":/icons/chessbackground.png"),
-                                  backgroundImage);
+    *object = QPixmap::fromImage(cutout::premultiplied(previewImage), Qt::NoOpaqueDetection);
+    *background = cutout::backgroundLayer(workingImage.size(), backgroundColor,
+                                          QImage(":/icons/chessbackground.png"), backgroundImage);
 }

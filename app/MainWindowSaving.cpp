@@ -3,7 +3,7 @@
 
 #include "app/MainWindow.h"
 
-#include "imaging/PictureFile.h"
+#include "cutout/PictureFile.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
@@ -23,7 +23,7 @@ void MainWindow::save(const QString &path)
     QPainter painter(&flat);
     painter.drawPixmap(0, 0, pixmap);
     painter.end();
-    writePicture(flat, path, "JPG");
+    cutout::writePicture(flat, path, "JPG");
 }
 
 void MainWindow::on_actionSave_triggered()

@@ -5,10 +5,10 @@
 
 #include "benchmarks/BenchmarkPictures.h"
 #include "benchmarks/Measuring.h"
-#include "imaging/BackgroundLayer.h"
-#include "imaging/CutOut.h"
+#include "cutout/BackgroundLayer.h"
+#include "cutout/CutOut.h"
+#include "cutout/IndexPicture.h"
 #include "imaging/FourChannelBlur.h"
-#include "imaging/IndexPicture.h"
 
 #include <benchmark/benchmark.h>
 
@@ -62,35 +62,36 @@ template <typename Step> void oneStep(benchmark::State &state, Step step)
 
 void indicesToMask(benchmark::State &state)
 {
-    oneStep(state, [](const Subject &s) { return paintIndices(s.photo.size(), s.indices, black, white); });
+    oneStep(state,
+            [](const Subject &s) { return cutout::paintIndices(s.photo.size(), s.indices, black, white); });
 }
 
 void roomForMask(benchmark::State &state)
 {
     const Subject &subject = subjectOf(state);
-    const QImage mask = paintIndices(subject.photo.size(), subject.indices, black, white);
+    const QImage mask = cutout::paintIndices(subject.photo.size(), subject.indices, black, white);
     oneStep(state, [&](const Subject &) { return roomForBlur(mask, 5); });
 }
 
 void maskToCutOut(benchmark::State &state)
 {
     const Subject &subject = subjectOf(state);
-    const QImage mask = paintIndices(subject.photo.size(), subject.indices, black, white);
-    oneStep(state, [&](const Subject &s) { return cutOut(s.photo.toImage(), mask); });
+    const QImage mask = cutout::paintIndices(subject.photo.size(), subject.indices, black, white);
+    oneStep(state, [&](const Subject &s) { return cutout::cutOut(s.photo.toImage(), mask); });
 }
 
 void cutOutToShow(benchmark::State &state)
 {
     const Subject &subject = subjectOf(state);
-    const QImage mask = paintIndices(subject.photo.size(), subject.indices, black, white);
-    const QImage object = cutOut(subject.photo.toImage(), mask);
-    oneStep(state, [&](const Subject &) { return premultiplied(object); });
+    const QImage mask = cutout::paintIndices(subject.photo.size(), subject.indices, black, white);
+    const QImage object = cutout::cutOut(subject.photo.toImage(), mask);
+    oneStep(state, [&](const Subject &) { return cutout::premultiplied(object); });
 }
 
 void background(benchmark::State &state)
 {
     oneStep(state, [&](const Subject &s) {
-        return backgroundLayer(s.photo.size(), static_cast<QRgb>(state.range(1)), s.board, {});
+        return cutout::backgroundLayer(s.photo.size(), static_cast<QRgb>(state.range(1)), s.board, {});
     });
 }
 

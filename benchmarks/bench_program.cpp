@@ -105,7 +105,7 @@ void previewWithoutFlooding(benchmark::State &state)
 }
 BENCHMARK(previewWithoutFlooding)->Apply(measuring::megapixels);
 
-void brushBatch(benchmark::State &state)
+void cutout::brushBatch(benchmark::State &state)
 {
     ProgramAtWork program(measuring::megapixelsOf(state));
     showPreview(program);

@@ -11,8 +11,8 @@
 
 #include "benchmarks/BenchmarkApplication.h"
 #include "benchmarks/ProgramAtWork.h"
-#include "imaging/ExportComposition.h"
-#include "imaging/PictureFile.h"
+#include "cutout/ExportComposition.h"
+#include "cutout/PictureFile.h"
 
 #include <sys/resource.h>
 
@@ -34,9 +34,9 @@ void exportPicture(ProgramAtWork &program, const QString &name)
     QImage canvas(program.state().backgroundItem()->pixmap().size(), QImage::Format_ARGB32);
     canvas.fill(program.state().backgroundColor());
     const QSize size = canvas.size();
-    const ExportLayers layers{QPixmap::fromImage(std::move(canvas)), program.state().previewImage(), QPoint(),
-                              size};
-    writePicture(composeExport(layers, size).toImage(), program.fileFor(name), "png");
+    const cutout::ExportLayers layers{QPixmap::fromImage(std::move(canvas)), program.state().previewImage(),
+                                      QPoint(), size};
+    cutout::writePicture(cutout::composeExport(layers, size).toImage(), program.fileFor(name), "png");
 }
 
 } // namespace

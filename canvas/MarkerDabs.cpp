@@ -3,7 +3,7 @@
 
 #include "canvas/MarkerDabs.h"
 
-#include "imaging/SeedSquare.h"
+#include "canvas/SeedSquare.h"
 
 #include <QPen>
 

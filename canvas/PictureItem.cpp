@@ -3,7 +3,7 @@
 
 #include "canvas/PictureItem.h"
 
-#include "imaging/Halving.h"
+#include "cutout/MipmapLevel.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -107,7 +107,7 @@ const QImage *PictureItem::reducedFor(qreal scale)
         ++levels;
     }
     while (m_reduced.size() < levels) {
-        QImage half = halved(m_reduced.empty() ? pixmap().toImage() : m_reduced.back());
+        QImage half = cutout::halved(m_reduced.empty() ? pixmap().toImage() : m_reduced.back());
         if (half.isNull())
             break;
         m_reduced.push_back(std::move(half));
@@ -120,7 +120,7 @@ void PictureItem::renewReduced(const QRect &area)
     QRect changed = area;
     QImage larger = pixmap().toImage();
     for (QImage &reduced : m_reduced) {
-        changed = renewHalved(reduced, larger, changed);
+        changed = cutout::renewHalved(reduced, larger, changed);
         larger = reduced;
     }
     m_reducedFrom = pixmap().cacheKey();

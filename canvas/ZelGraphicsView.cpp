@@ -6,6 +6,7 @@
 #include "canvas/MarkerDabs.h"
 #include "canvas/SettingsKeys.h"
 #include "imaging/Truncation.h"
+#include "resources/Resources.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -53,6 +54,7 @@ QString densePath(QString path)
 
 ZelGraphicsView::ZelGraphicsView(QWidget *parent) : QGraphicsView(parent)
 {
+    resources::registerAll();            // the cursors
     setBackgroundBrush(palette().mid()); // so that the edges of a white picture can be seen
 }
 

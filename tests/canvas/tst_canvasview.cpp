@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "canvas/ZelGraphicsView.h"
+#include "resources/Resources.h"
 #include "tests/support/CanvasMouse.h"
 #include "tests/support/TestMain.h"
 
@@ -20,11 +21,6 @@
 Q_DECLARE_METATYPE(DrawingTools)
 
 using testsupport::CanvasMouse;
-
-static void loadResources()
-{
-    Q_INIT_RESOURCE(ornevo);
-} // outside any namespace, as the macro wants it
 
 namespace {
 
@@ -109,7 +105,7 @@ class CanvasViewTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { loadResources(); }
+    void initTestCase() { resources::registerAll(); }
     void toolsHaveTheirNumbers();
     void signalsStandInOrder();
     void cursorOfTool_data();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "canvas/ZelGraphicsView.h"
+#include "resources/Resources.h"
 #include "tests/support/TestMain.h"
 
 #include <QCursor>
@@ -9,11 +10,6 @@
 #include <QSettings>
 
 Q_DECLARE_METATYPE(DrawingTools)
-
-static void loadResources()
-{
-    Q_INIT_RESOURCE(ornevo);
-} // outside any namespace, as the macro wants it
 
 namespace {
 
@@ -65,7 +61,7 @@ private:
 
 void DenseCursorsTest::initTestCase()
 {
-    loadResources();
+    resources::registerAll();
     QSettings().setValue("ERASERMSIZE", eraserWidth);
 }
 

@@ -3,6 +3,7 @@
 
 #include "canvas/CMarkerCommand.h"
 #include "canvas/ZelGraphicsView.h"
+#include "resources/Resources.h"
 #include "tests/support/CanvasMouse.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
@@ -16,11 +17,6 @@
 #include <optional>
 
 Q_DECLARE_METATYPE(DrawingTools)
-
-static void loadResources()
-{
-    Q_INIT_RESOURCE(ornevo);
-} // outside any namespace, as the macro wants it
 
 namespace {
 
@@ -82,7 +78,7 @@ class MarkersTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { loadResources(); }
+    void initTestCase() { resources::registerAll(); }
     void keepDab();
     void removeDab();
     void clickWithoutMovementLaysNothing();

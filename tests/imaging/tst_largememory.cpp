@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/CutOut.h"
+#include "cutout/CutOut.h"
 #include "imaging/FourChannelBlur.h"
 #include "imaging/LargeMemory.h"
 #include "tests/reference/TestPictures.h"
@@ -116,16 +116,18 @@ private slots:
             for (int x = 0; x < everything.width(); ++x)
                 everything.setPixel(
                     x, y, y < 256 ? qRgba(x % 256, 255 - x % 256, x / 16, y) : noise.pixel(x % 256, y % 256));
-        QCOMPARE(premultiplied(everything), everything.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        QCOMPARE(cutout::premultiplied(everything),
+                 everything.convertToFormat(QImage::Format_ARGB32_Premultiplied));
         for (const QSize &size : {QSize(1, 1), QSize(40000, 3), QSize(7, 5000), QSize(300, 301)}) {
             QImage picture = testpictures::randomArgbImage(size.width(), size.height(), 5);
             picture.setDevicePixelRatio(2);
-            QCOMPARE(premultiplied(picture), picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
-            QCOMPARE(premultiplied(picture).devicePixelRatio(), 2.0);
+            QCOMPARE(cutout::premultiplied(picture),
+                     picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+            QCOMPARE(cutout::premultiplied(picture).devicePixelRatio(), 2.0);
         }
         const QImage opaque = testpictures::randomImage(30, 20, 6);
-        QCOMPARE(premultiplied(opaque), opaque.convertToFormat(QImage::Format_ARGB32_Premultiplied));
-        QVERIFY(premultiplied(QImage()).isNull());
+        QCOMPARE(cutout::premultiplied(opaque), opaque.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        QVERIFY(cutout::premultiplied(QImage()).isNull());
     }
 
     /// Blurred into its room, a picture is what it is when blurred into a copy.

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/BackgroundLayer.h"
+#include "cutout/BackgroundLayer.h"
+#include "cutout/CutOut.h"
+#include "cutout/IndexPicture.h"
 #include "imaging/BlurKernels.h"
-#include "imaging/CutOut.h"
 #include "imaging/EdgeMap.h"
 #include "imaging/FourChannelBlur.h"
 #include "imaging/GaussianWeights.h"
-#include "imaging/IndexPicture.h"
 #include "tests/reference/EdgeDetectorsReference.h"
 #include "tests/reference/GaussianBlurReference.h"
 #include "tests/reference/MaskReference.h"
@@ -287,14 +287,14 @@ void TestSimdKernels::indicesInAnyOrder()
     for (const QList<int> &indices :
          {QList<int>(), ascending, mixed, QList<int>(ascending.rbegin(), ascending.rend()), ascending + mixed,
           QList<int>{size.width() * size.height() - 1}}) {
-        const QImage mask = paintIndices(size, indices, qRgb(0, 0, 0), qRgb(255, 255, 255));
+        const QImage mask = cutout::paintIndices(size, indices, qRgb(0, 0, 0), qRgb(255, 255, 255));
         QCOMPARE(mask.format(), QImage::Format_RGB32);
         QCOMPARE(mask, reference::hardMaskImage(indices, size.width(), size.height()));
     }
     QList<int> offPicture = {-1, size.width() * size.height(), std::numeric_limits<int>::min(), 5};
-    QCOMPARE(paintIndices(size, offPicture, qRgb(0, 0, 0), qRgb(255, 255, 255)),
+    QCOMPARE(cutout::paintIndices(size, offPicture, qRgb(0, 0, 0), qRgb(255, 255, 255)),
              reference::hardMaskImage({5}, size.width(), size.height()));
-    QVERIFY(paintIndices(QSize(), {1, 2}, qRgb(0, 0, 0), qRgb(255, 255, 255)).isNull());
+    QVERIFY(cutout::paintIndices(QSize(), {1, 2}, qRgb(0, 0, 0), qRgb(255, 255, 255)).isNull());
 }
 
 // Photos with and without alpha, and masks of other sizes than the photo.
@@ -307,7 +307,7 @@ void TestSimdKernels::cutOutOfAnyFormat()
         for (const QSize &size : {QSize(61, 40), QSize(50, 40), QSize(61, 22), QSize(90, 60), QSize(1, 1)}) {
             const QImage mask =
                 randomArgbImage(size.width(), size.height(), 35).convertToFormat(QImage::Format_RGB32);
-            const QImage result = cutOut(photo, mask);
+            const QImage result = cutout::cutOut(photo, mask);
             QImage expected = photo.convertToFormat(QImage::Format_ARGB32);
             for (int y = 0; y < std::min(size.height(), 40); ++y)
                 for (int x = 0; x < std::min(size.width(), 61); ++x)
@@ -318,10 +318,10 @@ void TestSimdKernels::cutOutOfAnyFormat()
     QImage dense = randomImage(8, 8, 36);
     dense.setDevicePixelRatio(2.0);
     dense.setDotsPerMeterX(1234);
-    QCOMPARE(cutOut(dense, dense).devicePixelRatio(), 2.0);
-    QCOMPARE(cutOut(dense, dense).dotsPerMeterX(), 1234);
-    QVERIFY(cutOut(QImage(), dense).isNull());
-    QCOMPARE(cutOut(dense, QImage()), dense.convertToFormat(QImage::Format_ARGB32));
+    QCOMPARE(cutout::cutOut(dense, dense).devicePixelRatio(), 2.0);
+    QCOMPARE(cutout::cutOut(dense, dense).dotsPerMeterX(), 1234);
+    QVERIFY(cutout::cutOut(QImage(), dense).isNull());
+    QCOMPARE(cutout::cutOut(dense, QImage()), dense.convertToFormat(QImage::Format_ARGB32));
 }
 
 void TestSimdKernels::colourOverBoard()
@@ -336,7 +336,7 @@ void TestSimdKernels::colourOverBoard()
               QSize(15, 17), QSize(17, 1031), QSize(1030, 1029), QSize(9, 380)})
             for (const QRgb colour :
                  {0x00000000U, 0x00FF0000U, 0x80FF8000U, 0x01020304U, 0xFE7F7F7FU, 0xFF336699U}) {
-                const QImage layer = backgroundLayer(size, colour, board, {}).toImage();
+                const QImage layer = cutout::backgroundLayer(size, colour, board, {}).toImage();
                 const QImage expected =
                     reference::backgroundLayer(colour, {}, board, size.width(), size.height()).toImage();
                 if (layer.convertToFormat(QImage::Format_ARGB32) !=

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/AlphaBrush.h"
-#include "imaging/BackgroundLayer.h"
-#include "imaging/CutOut.h"
-#include "imaging/ExportComposition.h"
-#include "imaging/IndexPicture.h"
-#include "imaging/SeedSquare.h"
+#include "cutout/AlphaBrush.h"
+#include "cutout/BackgroundLayer.h"
+#include "cutout/CutOut.h"
+#include "cutout/ExportComposition.h"
+#include "cutout/IndexPicture.h"
 #include "tests/imaging/Planes.h"
 #include "tests/reference/MaskReference.h"
 #include "tests/support/Differences.h"
@@ -21,13 +20,6 @@ namespace {
 constexpr QRgb white = 0xFFFFFFFF;
 constexpr QRgb black = 0xFF000000;
 constexpr QRgb green = 0xFF00FF00;
-
-QList<int> seedsOf(const QRectF &rect, QSize size)
-{
-    QList<int> seeds;
-    appendSeedSquare(rect, size, seeds);
-    return seeds;
-}
 
 QImage argb(const QPixmap &pixmap)
 {
@@ -53,13 +45,13 @@ QImage filled(int width, int height, QRgb colour)
 /// The brush batch as the program applies it.
 void brush(QImage &picture, const QList<QRect> &squares, QPoint offset, int change)
 {
-    changeAlpha(picture, brushBatch(squares, offset, picture.size()).pixels, change);
+    cutout::changeAlpha(picture, cutout::brushBatch(squares, offset, picture.size()).pixels, change);
 }
 
 /// What the program hands over for an export whose background item shows `source`.
-ExportLayers layersOf(const reference::ExportSource &source)
+cutout::ExportLayers layersOf(const reference::ExportSource &source)
 {
-    ExportLayers layers;
+    cutout::ExportLayers layers;
     if (source.backgroundImage.isNull()) {
         QImage canvas =
             filled(source.backgroundPixmap.width(), source.backgroundPixmap.height(), source.backgroundColor);
@@ -94,13 +86,6 @@ class TestMaskPictures : public QObject
     Q_OBJECT
 
 private slots:
-    void seedSquareAgrees_data();
-    void seedSquareAgrees();
-    void seedSquareRunsColumnByColumn();
-    void seedSquareIsClippedRightAndBelow();
-    void seedSquareIsNotClippedLeftAndAbove();
-    void seedSquareIsAppended();
-    void seedSquareFarOutAddsNothing();
     void indicesAgree();
     void indexNamesAPixelOfItsRow();
     void indicesOffThePictureArePassedOver();
@@ -132,62 +117,6 @@ private slots:
     void exportOfAHugeObjectIsDrawnScaled();
 };
 
-void TestMaskPictures::seedSquareAgrees_data()
-{
-    QTest::addColumn<QRectF>("rect");
-    for (const double x : {-25.0, -3.7, -3.0, -0.9, 0.0, 4.6, 9.99, 19.0, 19.9, 20.0, 20.5, 21.0, 400.0})
-        for (const double y : {-30.0, -3.0, -0.5, 0.0, 7.0, 14.99, 15.0, 15.5, 16.0, 99.0})
-            for (const double side : {-4.0, 0.0, 0.9, 1.0, 6.7, 50.0})
-                QTest::addRow("(%g, %g), side %g", x, y, side) << QRectF(x, y, side, 3.0);
-}
-
-void TestMaskPictures::seedSquareAgrees()
-{
-    QFETCH(QRectF, rect);
-    for (const QSize size : {QSize(20, 15), QSize(1, 1), QSize(20, 1), QSize(0, 0)})
-        QCOMPARE(seedsOf(rect, size), reference::seedSquare(rect, size.width(), size.height()));
-}
-
-void TestMaskPictures::seedSquareRunsColumnByColumn()
-{
-    QCOMPARE(seedsOf({2.9, 1.9, 2.9, 77.0}, {10, 8}), QList<int>({12, 22, 13, 23}));
-}
-
-void TestMaskPictures::seedSquareIsClippedRightAndBelow()
-{
-    QCOMPARE(seedsOf({8, 0, 5, 5}, {10, 1}), QList<int>({8, 9}));
-    QCOMPARE(seedsOf({0, 6, 1, 1}, {10, 8}), QList<int>({60}));
-    QCOMPARE(seedsOf({0, 6, 5, 5}, {1, 8}), QList<int>({6, 7}));
-}
-
-void TestMaskPictures::seedSquareIsNotClippedLeftAndAbove()
-{
-    // The picture continues to the left into the end of the row above.
-    QCOMPARE(seedsOf({-3, 2, 1, 1}, {10, 8}), QList<int>({17}));
-    QCOMPARE(seedsOf({-3, 0, 4, 4}, {10, 1}), QList<int>({-3, -2, -1, 0}));
-    QCOMPARE(seedsOf({5, -2, 1, 1}, {10, 8}), QList<int>({-15}));
-}
-
-void TestMaskPictures::seedSquareIsAppended()
-{
-    QList<int> seeds{7, 7};
-    appendSeedSquare({1, 1, 1, 1}, {4, 4}, seeds);
-    appendSeedSquare({1, 1, 1, 1}, {4, 4}, seeds);
-    QCOMPARE(seeds, QList<int>({7, 7, 5, 5}));
-}
-
-void TestMaskPictures::seedSquareFarOutAddsNothing()
-{
-    const double infinite = std::numeric_limits<double>::infinity();
-    const double notANumber = std::numeric_limits<double>::quiet_NaN();
-    QVERIFY(seedsOf({1e300, 0, 5, 5}, {10, 8}).isEmpty());
-    QVERIFY(seedsOf({0, infinite, 5, 5}, {10, 8}).isEmpty());
-    QVERIFY(seedsOf({0, 0, notANumber, 5}, {10, 8}).isEmpty());
-    QVERIFY(seedsOf({0, 0, -infinite, 5}, {10, 8}).isEmpty());
-    // So far above that the index would not fit into an int.
-    QVERIFY(seedsOf({0, -1e300, 1, 1}, {10, 8}).isEmpty());
-}
-
 void TestMaskPictures::indicesAgree()
 {
     for (const QSize size : testpictures::awkwardSizes()) {
@@ -195,16 +124,16 @@ void TestMaskPictures::indicesAgree()
         const int h = size.height();
         QList<int> indices = testpictures::randomIndices(w, h, w * h / 2 + 1, 71);
         indices += QList<int>{-1, -w, -w - 1, w * h, w * h + 1, 0, 0, w * h - 1};
-        VERIFY_SAME(described(size), paintIndices(size, indices, black, white),
+        VERIFY_SAME(described(size), cutout::paintIndices(size, indices, black, white),
                     reference::hardMaskImage(indices, w, h));
-        VERIFY_SAME(described(size), paintIndices(size, indices, green, white),
+        VERIFY_SAME(described(size), cutout::paintIndices(size, indices, green, white),
                     reference::overlayImage(indices, w, h));
     }
 }
 
 void TestMaskPictures::indexNamesAPixelOfItsRow()
 {
-    const QImage picture = paintIndices({3, 5}, {7}, black, white);
+    const QImage picture = cutout::paintIndices({3, 5}, {7}, black, white);
     for (int y = 0; y < 5; ++y)
         for (int x = 0; x < 3; ++x)
             QCOMPARE(picture.pixel(x, y), x == 1 && y == 2 ? black : white);
@@ -213,18 +142,19 @@ void TestMaskPictures::indexNamesAPixelOfItsRow()
 void TestMaskPictures::indicesOffThePictureArePassedOver()
 {
     const QList<int> off{std::numeric_limits<int>::min(), -1, 12, 13, std::numeric_limits<int>::max()};
-    VERIFY_SAME("off", paintIndices({4, 3}, off, black, white), testpictures::constantImage(4, 3, white));
+    VERIFY_SAME("off", cutout::paintIndices({4, 3}, off, black, white),
+                testpictures::constantImage(4, 3, white));
 }
 
 void TestMaskPictures::indicesOfNoPicture()
 {
     for (const QSize size : {QSize(), QSize(0, 0), QSize(0, 4), QSize(-3, 4), QSize(1 << 30, 1 << 30)})
-        QVERIFY(paintIndices(size, {0, 1}, black, white).isNull());
+        QVERIFY(cutout::paintIndices(size, {0, 1}, black, white).isNull());
 }
 
 void TestMaskPictures::inkAndPaper()
 {
-    const QImage picture = paintIndices({2, 1}, {1}, 0xFF0000FF, 0xFF102030);
+    const QImage picture = cutout::paintIndices({2, 1}, {1}, 0xFF0000FF, 0xFF102030);
     QCOMPARE(picture.format(), QImage::Format_RGB32);
     QCOMPARE(testsupport::pixelsOf(picture), std::vector<QRgb>({0xFF102030, 0xFF0000FF}));
 }
@@ -237,17 +167,18 @@ void TestMaskPictures::cutOutAgrees()
         const QImage photo = testpictures::randomImage(w, h, 72);
         const QImage mask = testpictures::randomImage(w, h, 73);
         const QImage expected = reference::cutOut(QPixmap::fromImage(photo), mask);
-        VERIFY_SAME(described(size), cutOut(photo, mask), expected);
-        VERIFY_SAME(described(size),
-                    cutOut(testpictures::paddedImage(photo, 2, 1), testpictures::paddedImage(mask, 3, 1)),
-                    expected);
+        VERIFY_SAME(described(size), cutout::cutOut(photo, mask), expected);
+        VERIFY_SAME(
+            described(size),
+            cutout::cutOut(testpictures::paddedImage(photo, 2, 1), testpictures::paddedImage(mask, 3, 1)),
+            expected);
     }
 }
 
 void TestMaskPictures::cutOutTurnsGreyIntoItsComplement()
 {
     for (int grey = 0; grey <= 255; ++grey) {
-        const QImage object = cutOut(filled(1, 1, 0xFF123456), filled(1, 1, qRgb(1, 2, grey)));
+        const QImage object = cutout::cutOut(filled(1, 1, 0xFF123456), filled(1, 1, qRgb(1, 2, grey)));
         QCOMPARE(object.format(), QImage::Format_ARGB32);
         QCOMPARE(object.pixel(0, 0), qRgba(0x12, 0x34, 0x56, 255 - grey)); // 128 gives 127
     }
@@ -258,21 +189,21 @@ void TestMaskPictures::cutOutOfOtherFormats()
     const QImage mask = testpictures::constantImage(3, 3, 0xFF404040);
     QImage grey(3, 3, QImage::Format_Grayscale8);
     grey.fill(99);
-    QCOMPARE(cutOut(grey, mask).pixel(1, 1), qRgba(99, 99, 99, 0xBF));
-    QVERIFY(cutOut(QImage(), mask).isNull());
+    QCOMPARE(cutout::cutOut(grey, mask).pixel(1, 1), qRgba(99, 99, 99, 0xBF));
+    QVERIFY(cutout::cutOut(QImage(), mask).isNull());
 }
 
 void TestMaskPictures::cutOutWithAMaskThatDoesNotFit()
 {
     const QImage photo = testpictures::constantImage(4, 3, 0xFF808080);
-    const QImage smaller = cutOut(photo, testpictures::constantImage(2, 2, white));
+    const QImage smaller = cutout::cutOut(photo, testpictures::constantImage(2, 2, white));
     QCOMPARE(qAlpha(smaller.pixel(1, 1)), 0);
     QCOMPARE(qAlpha(smaller.pixel(2, 1)), 255);
     QCOMPARE(qAlpha(smaller.pixel(1, 2)), 255);
-    const QImage larger = cutOut(photo, testpictures::constantImage(9, 9, white));
+    const QImage larger = cutout::cutOut(photo, testpictures::constantImage(9, 9, white));
     QCOMPARE(larger.size(), photo.size());
     QCOMPARE(qAlpha(larger.pixel(3, 2)), 0);
-    VERIFY_SAME("no mask", cutOut(photo, QImage()), photo);
+    VERIFY_SAME("no mask", cutout::cutOut(photo, QImage()), photo);
 }
 
 void TestMaskPictures::brushAgrees_data()
@@ -308,7 +239,7 @@ void TestMaskPictures::brushAgrees()
                                       keep ? reference::Brush::Keep : reference::Brush::Remove, intensity);
             brush(picture, squares, offset, keep ? intensity : -intensity);
             VERIFY_SAME(QByteArray::number(intensity), picture, expected);
-            QCOMPARE(brushBatch(squares, offset, picture.size()).box, batch.box);
+            QCOMPARE(cutout::brushBatch(squares, offset, picture.size()).box, batch.box);
         }
     }
 }
@@ -333,7 +264,7 @@ void TestMaskPictures::brushStopsAtTheEndsOfAlpha()
     QFETCH(int, change);
     QFETCH(int, result);
     QImage picture = filled(5, 5, qRgba(11, 22, 33, alpha));
-    changeAlpha(picture, QRegion(1, 1, 2, 3), change);
+    cutout::changeAlpha(picture, QRegion(1, 1, 2, 3), change);
     for (int y = 0; y < 5; ++y)
         for (int x = 0; x < 5; ++x)
             QCOMPARE(picture.pixel(x, y),
@@ -361,7 +292,7 @@ void TestMaskPictures::brushFollowsTheHandTool()
 
 void TestMaskPictures::brushWithoutSquares()
 {
-    const BrushBatch batch = brushBatch({}, {3, 4}, {10, 10});
+    const cutout::BrushBatch batch = cutout::brushBatch({}, {3, 4}, {10, 10});
     QVERIFY(batch.pixels.isEmpty());
     QCOMPARE(batch.box, QRect(0, 0, 0, 0));
 }
@@ -370,8 +301,8 @@ void TestMaskPictures::brushFarOff()
 {
     constexpr int far = std::numeric_limits<int>::max();
     for (const QPoint offset : {QPoint(far, far), QPoint(-far, -far), QPoint(far, -far)})
-        QVERIFY(brushBatch({{5, 5, 20, 20}}, offset, {30, 30}).pixels.isEmpty());
-    QVERIFY(brushBatch({{5, 5, 20, 20}}, {}, {}).pixels.isEmpty());
+        QVERIFY(cutout::brushBatch({{5, 5, 20, 20}}, offset, {30, 30}).pixels.isEmpty());
+    QVERIFY(cutout::brushBatch({{5, 5, 20, 20}}, {}, {}).pixels.isEmpty());
 }
 
 void TestMaskPictures::alphaOfPaddedPicture()
@@ -380,8 +311,8 @@ void TestMaskPictures::alphaOfPaddedPicture()
     QImage padded = testpictures::paddedImage(before, 3, 4);
     QImage plain = before.copy();
     const QRegion region = QRegion(-5, -5, 12, 12) + QRegion(15, 15, 30, 30);
-    changeAlpha(padded, region, 90);
-    changeAlpha(plain, region, 90);
+    cutout::changeAlpha(padded, region, 90);
+    cutout::changeAlpha(plain, region, 90);
     VERIFY_SAME("padded", padded, plain);
     QVERIFY(testpictures::paddingUntouched(padded, 4));
     QVERIFY(plain != before);
@@ -392,10 +323,10 @@ void TestMaskPictures::alphaRefusesOtherFormats()
     QImage grey(4, 4, QImage::Format_Grayscale8);
     grey.fill(9);
     const QImage before = grey.copy();
-    changeAlpha(grey, QRegion(0, 0, 4, 4), 50);
+    cutout::changeAlpha(grey, QRegion(0, 0, 4, 4), 50);
     QCOMPARE(grey, before);
     QImage none;
-    changeAlpha(none, QRegion(0, 0, 4, 4), 50);
+    cutout::changeAlpha(none, QRegion(0, 0, 4, 4), 50);
     QVERIFY(none.isNull());
 }
 
@@ -416,23 +347,23 @@ void TestMaskPictures::backgroundAgrees()
     const QImage chosen =
         picture.isEmpty() ? QImage() : testpictures::randomImage(picture.width(), picture.height(), 83);
     for (const QSize size : {QSize(1, 1), QSize(40, 30), QSize(8, 8), QSize(7, 91)})
-        VERIFY_SAME(described(size), argb(backgroundLayer(size, colour, board(), chosen)),
+        VERIFY_SAME(described(size), argb(cutout::backgroundLayer(size, colour, board(), chosen)),
                     argb(reference::backgroundLayer(colour, chosen, board(), size.width(), size.height())));
 }
 
 void TestMaskPictures::backgroundPictureKeepsItsProportions()
 {
-    const QPixmap layer = backgroundLayer({40, 30}, 0, board(), filled(100, 20, 0xFF336699));
+    const QPixmap layer = cutout::backgroundLayer({40, 30}, 0, board(), filled(100, 20, 0xFF336699));
     QCOMPARE(layer.size(), QSize(40, 8)); // a strip stays uncovered
     QCOMPARE(argb(layer).pixel(20, 4), 0xFF336699);
 }
 
 void TestMaskPictures::backgroundWithoutABoard()
 {
-    QVERIFY(backgroundLayer({40, 30}, 0x80FF0000, QImage(), QImage()).isNull());
-    QVERIFY(backgroundLayer({40, 30}, white, QImage(), QImage()).isNull());
-    QVERIFY(backgroundLayer({0, 0}, white, board(), QImage()).isNull());
-    QVERIFY(!backgroundLayer({40, 30}, white, QImage(), filled(4, 3, white)).isNull());
+    QVERIFY(cutout::backgroundLayer({40, 30}, 0x80FF0000, QImage(), QImage()).isNull());
+    QVERIFY(cutout::backgroundLayer({40, 30}, white, QImage(), QImage()).isNull());
+    QVERIFY(cutout::backgroundLayer({0, 0}, white, board(), QImage()).isNull());
+    QVERIFY(!cutout::backgroundLayer({40, 30}, white, QImage(), filled(4, 3, white)).isNull());
 }
 
 void TestMaskPictures::exportAgrees_data()
@@ -461,7 +392,7 @@ void TestMaskPictures::exportAgrees()
 {
     QFETCH(reference::ExportSource, source);
     for (const QSize size : {QSize(40, 30), QSize(80, 60), QSize(13, 7), QSize(1, 1), QSize(55, 21)})
-        VERIFY_SAME(described(size), argb(composeExport(layersOf(source), size)),
+        VERIFY_SAME(described(size), argb(cutout::composeExport(layersOf(source), size)),
                     argb(reference::exportComposition(source, size.width(), size.height())));
 }
 
@@ -470,7 +401,7 @@ void TestMaskPictures::exportKeepsTransparency()
     reference::ExportSource source = exportSource({20, 20}, 0);
     source.previewImage = filled(20, 20, 0x00FFFFFF);
     source.previewImage.setPixel(3, 4, 0xFF112233);
-    const QImage result = argb(composeExport(layersOf(source), {20, 20}));
+    const QImage result = argb(cutout::composeExport(layersOf(source), {20, 20}));
     QCOMPARE(result.pixel(3, 4), 0xFF112233);
     QCOMPARE(qAlpha(result.pixel(10, 10)), 0);
 }
@@ -480,7 +411,7 @@ void TestMaskPictures::exportOfAZoomedBackgroundShrinksTheObject()
     reference::ExportSource source = exportSource({200, 100}, white);
     source.m11 = source.m22 = 1.05 * 1.05;
     source.previewImage = filled(200, 100, black);
-    const QImage result = argb(composeExport(layersOf(source), {200, 100}));
+    const QImage result = argb(cutout::composeExport(layersOf(source), {200, 100}));
     // 200 / trunc(220.5) and 100 / trunc(110.25), and truncated again: 181 x 90.
     QCOMPARE(result.pixel(180, 89), black);
     QCOMPARE(result.pixel(181, 89), white);
@@ -489,25 +420,25 @@ void TestMaskPictures::exportOfAZoomedBackgroundShrinksTheObject()
 
 void TestMaskPictures::exportWithNothingToDo()
 {
-    ExportLayers layers = layersOf(exportSource({20, 20}, 0xFF336699));
-    QVERIFY(composeExport(layers, {}).isNull());
-    QVERIFY(composeExport(layers, {0, 20}).isNull());
-    QVERIFY(composeExport(layers, {20, -1}).isNull());
+    cutout::ExportLayers layers = layersOf(exportSource({20, 20}, 0xFF336699));
+    QVERIFY(cutout::composeExport(layers, {}).isNull());
+    QVERIFY(cutout::composeExport(layers, {0, 20}).isNull());
+    QVERIFY(cutout::composeExport(layers, {20, -1}).isNull());
     layers.background = {}; // no extent, no scale: the background alone
-    VERIFY_SAME("no extent", argb(composeExport(layers, {20, 20})), filled(20, 20, 0xFF336699));
+    VERIFY_SAME("no extent", argb(cutout::composeExport(layers, {20, 20})), filled(20, 20, 0xFF336699));
     layers.canvas = QPixmap();
-    QVERIFY(composeExport(layers, {20, 20}).isNull());
+    QVERIFY(cutout::composeExport(layers, {20, 20}).isNull());
 }
 
 void TestMaskPictures::exportOfAHugeObjectIsDrawnScaled()
 {
-    ExportLayers layers;
+    cutout::ExportLayers layers;
     layers.canvas = QPixmap::fromImage(filled(10, 10, white));
     layers.cutOut = filled(100, 100, 0xFF112233);
     layers.background = QSize(1, 1); // the object is 40000 x 40000 then
-    VERIFY_SAME("covered", argb(composeExport(layers, {400, 400})), filled(400, 400, 0xFF112233));
+    VERIFY_SAME("covered", argb(cutout::composeExport(layers, {400, 400})), filled(400, 400, 0xFF112233));
     layers.offset = QPoint(1, 0); // and lies to the right of all that is exported
-    VERIFY_SAME("moved off", argb(composeExport(layers, {400, 400})), filled(400, 400, white));
+    VERIFY_SAME("moved off", argb(cutout::composeExport(layers, {400, 400})), filled(400, 400, white));
 }
 
 ORNEVO_TEST_MAIN(TestMaskPictures)

@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/IndexPicture.h"
+#include "cutout/IndexPicture.h"
 
 #include "imaging/LargeMemory.h"
 
 #include <algorithm>
 #include <cstddef>
+
+namespace cutout {
 
 QImage paintIndices(QSize size, const QList<int> &indices, QRgb ink, QRgb paper)
 {
@@ -35,3 +37,5 @@ QImage paintIndices(QSize size, const QList<int> &indices, QRgb ink, QRgb paper)
     std::fill(pixels + laid, pixels + count, paper);
     return picture;
 }
+
+} // namespace cutout

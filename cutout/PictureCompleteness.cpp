@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/PictureCompleteness.h"
+#include "cutout/PictureCompleteness.h"
 
 #include <QtEndian>
 
 #include <cstdlib>
+
+namespace cutout {
 
 namespace {
 
@@ -79,3 +81,5 @@ bool isCompleteBmp(const QByteArray &beginning, qint64 fileSize)
     const qint64 rowsThatFit = (fileSize - quint32(field(10))) / bytesPerRow;
     return std::llabs(field(22)) <= rowsThatFit;
 }
+
+} // namespace cutout

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/ExportComposition.h"
+#include "cutout/ExportComposition.h"
 
 #include <QPainter>
 
 #include <cmath>
+
+namespace cutout {
 
 namespace {
 
@@ -40,3 +42,5 @@ QPixmap composeExport(const ExportLayers &layers, QSize size)
                double(size.height()) / layers.background.height());
     return result;
 }
+
+} // namespace cutout

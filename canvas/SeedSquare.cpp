@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/SeedSquare.h"
+#include "canvas/SeedSquare.h"
 
 #include "imaging/Truncation.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+
+namespace markers {
 
 void appendSeedSquare(const QRectF &rect, QSize size, QList<int> &seeds)
 {
@@ -26,3 +28,5 @@ void appendSeedSquare(const QRectF &rect, QSize size, QList<int> &seeds)
         }
     }
 }
+
+} // namespace markers

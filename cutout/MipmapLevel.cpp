@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/Halving.h"
+#include "cutout/MipmapLevel.h"
 
 #include <algorithm>
 #include <cstddef>
+
+namespace cutout {
 
 namespace {
 
@@ -64,3 +66,5 @@ QRect renewHalved(QImage &half, const QImage &picture, const QRect &area)
     }
     return target;
 }
+
+} // namespace cutout

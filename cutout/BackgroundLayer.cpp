@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/BackgroundLayer.h"
+#include "cutout/BackgroundLayer.h"
 
 #include "imaging/LargeMemory.h"
 
@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <cstring>
 #include <utility>
+
+namespace cutout {
 
 namespace {
 
@@ -81,3 +83,5 @@ QPixmap backgroundLayer(QSize size, QRgb colour, const QImage &board, const QIma
         return colourOverBoard(size, colour, board);
     return QPixmap::fromImage(picture).scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
+
+} // namespace cutout

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QString>
 
+namespace cutout {
+
 /// Reads a picture, whatever its name says it is, by its contents. A photo that was taken with the camera on
 /// its side comes back upright; of an animation the first frame is taken.
 ///
@@ -19,3 +21,5 @@
 /// file whole and no new one behind. Returns whether it was written: not for a null picture, an empty path,
 /// or a format that Qt can't write, an empty one among them.
 bool writePicture(const QImage &picture, const QString &path, const QByteArray &format);
+
+} // namespace cutout

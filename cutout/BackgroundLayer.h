@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QPixmap>
 
+namespace cutout {
+
 /// What lies under the cut-out in the preview of a photo of `size`.
 ///
 /// Without a `picture`: `colour` (ARGB, not premultiplied) drawn over `board`, the chessboard that stands for
@@ -13,3 +15,5 @@
 /// picture, scaled smoothly to fit into `size` with its proportions kept, so that it may be smaller than
 /// `size` on one side. Null when `size` is empty or memory is short, and for a colour without a board.
 [[nodiscard]] QPixmap backgroundLayer(QSize size, QRgb colour, const QImage &board, const QImage &picture);
+
+} // namespace cutout

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/AlphaBrush.h"
+#include "cutout/AlphaBrush.h"
 
 #include "imaging/Truncation.h"
 
@@ -10,6 +10,8 @@
 #include <QTransform>
 
 #include <algorithm>
+
+namespace cutout {
 
 namespace {
 
@@ -82,3 +84,5 @@ void changeAlpha(QImage &picture, const QRegion &region, int change)
         }
     }
 }
+
+} // namespace cutout

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QRect>
 
+namespace cutout {
+
 /// A picture of half the width and height (rounded up): every pixel is the average of a square of four,
 /// rounded.
 ///
@@ -17,3 +19,5 @@
 /// Renews the part of `half` that stems from `area` of `picture`, where `half` was made by halved(). Returns
 /// that part.
 QRect renewHalved(QImage &half, const QImage &picture, const QRect &area);
+
+} // namespace cutout

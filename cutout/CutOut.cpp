@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/CutOut.h"
+#include "cutout/CutOut.h"
 
 #include "imaging/LargeMemory.h"
 
@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <utility>
+
+namespace cutout {
 
 namespace {
 
@@ -78,3 +80,5 @@ QImage premultiplied(const QImage &picture)
     }
     return result;
 }
+
+} // namespace cutout

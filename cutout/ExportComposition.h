@@ -8,6 +8,8 @@
 #include <QPoint>
 #include <QSize>
 
+namespace cutout {
+
 /// What an export puts together.
 struct ExportLayers
 {
@@ -23,3 +25,5 @@ struct ExportLayers
 /// Null when `size` is empty, the canvas null or memory short. Where the background has no extent the object
 /// is left out. A stretched object of more than 2^28 pixels (1 GiB) is never made whole: it is drawn scaled.
 [[nodiscard]] QPixmap composeExport(const ExportLayers &layers, QSize size);
+
+} // namespace cutout

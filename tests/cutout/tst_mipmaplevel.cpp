@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/Halving.h"
+#include "cutout/MipmapLevel.h"
 #include "tests/support/TestMain.h"
 
 #include <algorithm>
@@ -37,7 +37,7 @@ QImage randomPicture(QSize size, unsigned seed)
 
 } // namespace
 
-class TestHalving : public QObject
+class TestMipmapLevel : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ private slots:
     void refusesOtherFormats();
 };
 
-void TestHalving::averagesSquaresOfFour_data()
+void TestMipmapLevel::averagesSquaresOfFour_data()
 {
     QTest::addColumn<QSize>("size");
     for (const int width : {1, 2, 3, 16, 17, 63})
@@ -56,41 +56,41 @@ void TestHalving::averagesSquaresOfFour_data()
             QTest::addRow("%dx%d", width, height) << QSize(width, height);
 }
 
-void TestHalving::averagesSquaresOfFour()
+void TestMipmapLevel::averagesSquaresOfFour()
 {
     QFETCH(QSize, size);
     const QImage picture = randomPicture(size, 7);
-    const QImage half = halved(picture);
+    const QImage half = cutout::halved(picture);
     QCOMPARE(half.size(), QSize((size.width() + 1) / 2, (size.height() + 1) / 2));
     for (int y = 0; y < half.height(); ++y)
         for (int x = 0; x < half.width(); ++x)
             QCOMPARE(reinterpret_cast<const QRgb *>(half.constScanLine(y))[x], plainAverage(picture, x, y));
 }
 
-void TestHalving::renewsOnlyWhatChanged()
+void TestMipmapLevel::renewsOnlyWhatChanged()
 {
     std::mt19937 random(11);
     for (int round = 0; round < 200; ++round) {
         const QSize size(1 + int(random() % 40), 1 + int(random() % 40));
         QImage picture = randomPicture(size, random());
-        QImage half = halved(picture);
+        QImage half = cutout::halved(picture);
         const QRect area(int(random() % 50) - 5, int(random() % 50) - 5, int(random() % 20),
                          int(random() % 20));
         const QRect inside = area.intersected(picture.rect());
         for (int y = inside.top(); y <= inside.bottom(); ++y)
             for (int x = inside.left(); x <= inside.right(); ++x)
                 reinterpret_cast<QRgb *>(picture.scanLine(y))[x] = random();
-        renewHalved(half, picture, area);
-        QCOMPARE(half, halved(picture));
+        cutout::renewHalved(half, picture, area);
+        QCOMPARE(half, cutout::halved(picture));
     }
 }
 
-void TestHalving::refusesOtherFormats()
+void TestMipmapLevel::refusesOtherFormats()
 {
-    QVERIFY(halved(QImage()).isNull());
-    QVERIFY(halved(QImage(4, 4, QImage::Format_ARGB32)).isNull());
-    QVERIFY(!halved(QImage(4, 4, QImage::Format_RGB32)).isNull());
+    QVERIFY(cutout::halved(QImage()).isNull());
+    QVERIFY(cutout::halved(QImage(4, 4, QImage::Format_ARGB32)).isNull());
+    QVERIFY(!cutout::halved(QImage(4, 4, QImage::Format_RGB32)).isNull());
 }
 
-ORNEVO_TEST_MAIN(TestHalving)
-#include "tst_halving.moc"
+ORNEVO_TEST_MAIN(TestMipmapLevel)
+#include "tst_mipmaplevel.moc"

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/PictureFile.h"
+#include "cutout/PictureFile.h"
 
+#include "cutout/PictureCompleteness.h"
 #include "imaging/LargeMemory.h"
-#include "imaging/PictureCompleteness.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -13,6 +13,8 @@
 #include <QSaveFile>
 
 #include <new>
+
+namespace cutout {
 
 namespace {
 
@@ -91,3 +93,5 @@ bool writePicture(const QImage &picture, const QString &path, const QByteArray &
     }
     return file.commit();
 }
+
+} // namespace cutout

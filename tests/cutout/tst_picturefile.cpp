@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "imaging/PictureFile.h"
+#include "cutout/PictureFile.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/Differences.h"
 #include "tests/support/FullDisk.h"
@@ -247,8 +247,9 @@ void TestPictureFile::readsWhatWasWritten()
     QFETCH(bool, lossless);
     for (const QSize size : {QSize(1, 1), QSize(17, 3), QSize(64, 48)}) {
         const QImage picture = testpictures::blobImage(size.width(), size.height(), 5);
-        QVERIFY(writePicture(picture, path("picture." + format), format));
-        const QImage back = readPicture(path("picture." + format)).convertToFormat(QImage::Format_RGB32);
+        QVERIFY(cutout::writePicture(picture, path("picture." + format), format));
+        const QImage back =
+            cutout::readPicture(path("picture." + format)).convertToFormat(QImage::Format_RGB32);
         QCOMPARE(back.size(), size);
         if (lossless)
             VERIFY_SAME(format, back, picture);
@@ -263,11 +264,11 @@ void TestPictureFile::readsByContentsAndNotByName()
     for (const QString name : {"a.jpg", "b.png", "c.txt", "d", "e.gif", "Foto ä 写真.PNG"}) {
         for (const char *format : {"png", "bmp"}) {
             QVERIFY(put(path(name), encoded(picture, format)));
-            VERIFY_SAME(name.toUtf8(), readPicture(path(name)).convertToFormat(QImage::Format_RGB32),
+            VERIFY_SAME(name.toUtf8(), cutout::readPicture(path(name)).convertToFormat(QImage::Format_RGB32),
                         picture);
         }
         QVERIFY(put(path(name), encoded(picture, "jpg")));
-        QCOMPARE(readPicture(path(name)).size(), picture.size());
+        QCOMPARE(cutout::readPicture(path(name)).size(), picture.size());
     }
 }
 
@@ -294,7 +295,7 @@ void TestPictureFile::standsPhotosUpright()
     QFETCH(QTransform, turn);
     const QImage picture = quarters(64, 32);
     QVERIFY(put(path("photo.jpg"), withOrientation(encoded(picture, "jpg"), orientation)));
-    const QImage photo = readPicture(path("photo.jpg"));
+    const QImage photo = cutout::readPicture(path("photo.jpg"));
     const QImage expected = picture.transformed(turn);
     QCOMPARE(photo.size(), expected.size());
     const QList<QRgb> colours = quartersOf(photo);
@@ -306,13 +307,13 @@ void TestPictureFile::readsDeepColour()
 {
     const QImage deep = testpictures::randomImage(9, 7, 7).convertToFormat(QImage::Format_RGBX64);
     QVERIFY(put(path("deep.png"), encoded(deep, "png")));
-    const QImage back = readPicture(path("deep.png"));
+    const QImage back = cutout::readPicture(path("deep.png"));
     QCOMPARE(back.depth(), 64);
     VERIFY_SAME("16 bits", back.convertToFormat(QImage::Format_RGB32), testpictures::randomImage(9, 7, 7));
     QImage grey(4, 4, QImage::Format_Grayscale16);
     grey.fill(QColor(70, 70, 70));
     QVERIFY(put(path("grey.png"), encoded(grey, "png")));
-    QCOMPARE(readPicture(path("grey.png")).convertToFormat(QImage::Format_RGB32).pixel(1, 1),
+    QCOMPARE(cutout::readPicture(path("grey.png")).convertToFormat(QImage::Format_RGB32).pixel(1, 1),
              qRgb(70, 70, 70));
 }
 
@@ -327,10 +328,10 @@ void TestPictureFile::readsPalettes()
     for (const char *format : {"png", "bmp", "tiff"}) {
         QVERIFY(put(path("p"), encoded(palette, format)) && put(path("b"), encoded(bits, format)));
         QVERIFY(put(path("g"), encoded(grey.convertToFormat(QImage::Format_Grayscale8), format)));
-        VERIFY_SAME(format, readPicture(path("p")).convertToFormat(QImage::Format_RGB32),
+        VERIFY_SAME(format, cutout::readPicture(path("p")).convertToFormat(QImage::Format_RGB32),
                     palette.convertToFormat(QImage::Format_RGB32));
-        VERIFY_SAME(format, readPicture(path("g")).convertToFormat(QImage::Format_RGB32), grey);
-        VERIFY_SAME(format, readPicture(path("b")).convertToFormat(QImage::Format_RGB32),
+        VERIFY_SAME(format, cutout::readPicture(path("g")).convertToFormat(QImage::Format_RGB32), grey);
+        VERIFY_SAME(format, cutout::readPicture(path("b")).convertToFormat(QImage::Format_RGB32),
                     bits.convertToFormat(QImage::Format_RGB32));
     }
 }
@@ -338,12 +339,12 @@ void TestPictureFile::readsPalettes()
 void TestPictureFile::readsInksOfPrinters()
 {
     QVERIFY(put(path("inks.jpg"), inkJpeg({200, 100, 50, 255})));
-    const QImage bright = readPicture(path("inks.jpg"));
+    const QImage bright = cutout::readPicture(path("inks.jpg"));
     QCOMPARE(bright.size(), QSize(8, 8));
     QVERIFY2(nearlySame(bright.pixel(4, 4), qRgb(200, 100, 50), 2),
              qPrintable(QString::number(bright.pixel(4, 4), 16)));
     QVERIFY(put(path("inks.jpg"), inkJpeg({200, 100, 50, 127}))); // half covered with black
-    QVERIFY(nearlySame(readPicture(path("inks.jpg")).pixel(4, 4), qRgb(100, 50, 25), 2));
+    QVERIFY(nearlySame(cutout::readPicture(path("inks.jpg")).pixel(4, 4), qRgb(100, 50, 25), 2));
 }
 
 void TestPictureFile::readsTheFirstFrame()
@@ -353,14 +354,15 @@ void TestPictureFile::readsTheFirstFrame()
     QVERIFY(!reader.read().isNull());
     QCOMPARE(reader.read().convertToFormat(QImage::Format_RGB32).pixel(0, 0),
              0xFF00F000); // there is a second
-    QCOMPARE(readPicture(path("moving.gif")).convertToFormat(QImage::Format_RGB32).pixel(0, 0), 0xFFF00000);
+    QCOMPARE(cutout::readPicture(path("moving.gif")).convertToFormat(QImage::Format_RGB32).pixel(0, 0),
+             0xFFF00000);
 }
 
 void TestPictureFile::readsWhatTodaysCamerasMake()
 {
     // 144 MB of pixels: more than the toolkit reads of its own accord.
     QVERIFY(putHollowBmp(path("large.bmp"), 6000, 6000));
-    QCOMPARE(readPicture(path("large.bmp")).size(), QSize(6000, 6000));
+    QCOMPARE(cutout::readPicture(path("large.bmp")).size(), QSize(6000, 6000));
 }
 
 void TestPictureFile::refusesMoreThanAGibibyte()
@@ -368,7 +370,7 @@ void TestPictureFile::refusesMoreThanAGibibyte()
     QVERIFY(putHollowBmp(path("vast.bmp"), 16500, 16500));
     QElapsedTimer timer;
     timer.start();
-    QVERIFY(readPicture(path("vast.bmp")).isNull());
+    QVERIFY(cutout::readPicture(path("vast.bmp")).isNull());
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(QImageReader::allocationLimit(), 1024);
 }
@@ -383,7 +385,7 @@ void TestPictureFile::refusesAHeaderThatPromisesTooMuch()
     QElapsedTimer timer;
     timer.start();
     for (const char *name : {"a.bmp", "b.ppm", "c.pgm"})
-        QVERIFY2(readPicture(path(name)).isNull(), name);
+        QVERIFY2(cutout::readPicture(path(name)).isNull(), name);
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
 }
 
@@ -406,11 +408,11 @@ void TestPictureFile::refusesWhatIsNoPicture()
     QFETCH(QByteArray, contents);
     for (const char *name : {"x.png", "x.jpg", "x.bmp", "x.gif", "x.tiff", "x"}) {
         QVERIFY(put(path(name), contents));
-        QVERIFY2(readPicture(path(name)).isNull(), name);
+        QVERIFY2(cutout::readPicture(path(name)).isNull(), name);
     }
-    QVERIFY(readPicture(path("missing.png")).isNull());
-    QVERIFY(readPicture(m_folder->path()).isNull());
-    QVERIFY(readPicture(QString()).isNull());
+    QVERIFY(cutout::readPicture(path("missing.png")).isNull());
+    QVERIFY(cutout::readPicture(m_folder->path()).isNull());
+    QVERIFY(cutout::readPicture(QString()).isNull());
 }
 
 void TestPictureFile::survivesTruncation_data()
@@ -426,7 +428,7 @@ void TestPictureFile::survivesTruncation()
     const QByteArray whole = encoded(testpictures::blobImage(40, 30, 9), format);
     for (qsizetype bytes = 0; bytes < whole.size(); bytes += 1 + whole.size() / 60) {
         QVERIFY(put(path("cut"), whole.left(bytes)));
-        const QImage picture = readPicture(path("cut"));
+        const QImage picture = cutout::readPicture(path("cut"));
         // What is left of a picture may be shown, but nothing else.
         QVERIFY(picture.isNull() || picture.size() == QSize(40, 30));
         QVERIFY(bytes >= 20 || picture.isNull());
@@ -437,8 +439,8 @@ void TestPictureFile::writesInPlaceOfAnOlderFile()
 {
     const QImage picture = testpictures::randomImage(30, 20, 10);
     QVERIFY(put(path("a.png"), QByteArray(100000, 'x')));
-    QVERIFY(writePicture(picture, path("a.png"), "png"));
-    VERIFY_SAME("png", readPicture(path("a.png")).convertToFormat(QImage::Format_RGB32), picture);
+    QVERIFY(cutout::writePicture(picture, path("a.png"), "png"));
+    VERIFY_SAME("png", cutout::readPicture(path("a.png")).convertToFormat(QImage::Format_RGB32), picture);
     QVERIFY(contentsOf(path("a.png")).size() < 100000);
     QCOMPARE(files(), QStringList("a.png"));
 }
@@ -446,7 +448,7 @@ void TestPictureFile::writesInPlaceOfAnOlderFile()
 void TestPictureFile::writesJpegAtFullQuality()
 {
     const QImage picture = testpictures::blobImage(64, 48, 11);
-    QVERIFY(writePicture(picture, path("a.jpg"), "jpg"));
+    QVERIFY(cutout::writePicture(picture, path("a.jpg"), "jpg"));
     QCOMPARE(contentsOf(path("a.jpg")), encoded(picture, "jpg"));
 }
 
@@ -472,7 +474,7 @@ void TestPictureFile::cannotWrite()
     QFETCH(bool, picture);
     QVERIFY(put(path("old.png"), "old"));
     const QImage image = picture ? testpictures::randomImage(8, 8, 12) : QImage();
-    QVERIFY(!writePicture(image, name.isEmpty() ? name : path(name), format));
+    QVERIFY(!cutout::writePicture(image, name.isEmpty() ? name : path(name), format));
     QCOMPARE(files(), QStringList("old.png"));
     QCOMPARE(contentsOf(path("old.png")), QByteArray("old"));
     QVERIFY(QDir(m_folder->path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
@@ -481,12 +483,12 @@ void TestPictureFile::cannotWrite()
 void TestPictureFile::cannotWriteIntoAReadOnlyFolder()
 {
     // Not even the administrator makes files there.
-    QVERIFY(!writePicture(testpictures::randomImage(8, 8, 13), "/proc/a.png", "png"));
+    QVERIFY(!cutout::writePicture(testpictures::randomImage(8, 8, 13), "/proc/a.png", "png"));
     if (geteuid() == 0)
         QSKIP("the administrator may write into any folder of the tests");
     QVERIFY(put(path("old.png"), "old"));
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
-    const bool written = writePicture(testpictures::randomImage(8, 8, 13), path("a.png"), "png");
+    const bool written = cutout::writePicture(testpictures::randomImage(8, 8, 13), path("a.png"), "png");
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(!written);
     QCOMPARE(files(), QStringList("old.png"));
@@ -504,12 +506,12 @@ void TestPictureFile::failingWriteLeavesTheOldFile()
     QFETCH(QByteArray, format);
     const QString name = path("a." + format);
     const QImage older = testpictures::randomImage(10, 10, 14);
-    QVERIFY(writePicture(older, name, format));
+    QVERIFY(cutout::writePicture(older, name, format));
     const QByteArray before = contentsOf(name);
     bool written = true;
     {
         const FullDisk disk(2000);
-        written = writePicture(testpictures::randomImage(200, 200, 15), name, format);
+        written = cutout::writePicture(testpictures::randomImage(200, 200, 15), name, format);
     }
     QVERIFY(!written);
     QCOMPARE(contentsOf(name), before);
@@ -520,9 +522,10 @@ void TestPictureFile::failingWriteLeavesNoNewFile()
 {
     {
         const FullDisk disk(2000);
-        QVERIFY(!writePicture(testpictures::randomImage(200, 200, 16), path("a.png"), "png"));
+        QVERIFY(!cutout::writePicture(testpictures::randomImage(200, 200, 16), path("a.png"), "png"));
         // A picture that its format can't hold.
-        QVERIFY(!writePicture(testpictures::constantImage(70000, 1, 0xFF000000), path("a.jpg"), "jpg"));
+        QVERIFY(
+            !cutout::writePicture(testpictures::constantImage(70000, 1, 0xFF000000), path("a.jpg"), "jpg"));
     }
     QVERIFY(files().isEmpty());
 }

@@ -7,6 +7,8 @@
 #include <QRectF>
 #include <QSize>
 
+namespace markers {
+
 /// Appends the pixel indices (y · width + x) of a marker dab to `seeds`, column by column, each from top to
 /// bottom.
 ///
@@ -16,3 +18,5 @@
 /// negative or fall into the previous row. A square of no area, or one that begins right of or below the
 /// picture, adds nothing. An index that does not fit into an int is left out.
 void appendSeedSquare(const QRectF &rect, QSize size, QList<int> &seeds);
+
+} // namespace markers

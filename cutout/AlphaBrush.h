@@ -8,6 +8,8 @@
 #include <QRect>
 #include <QRegion>
 
+namespace cutout {
+
 /// One batch of round brush dabs, in pixels of the picture that it edits.
 struct BrushBatch
 {
@@ -23,3 +25,5 @@ struct BrushBatch
 /// Adds `change` to the alpha of the pixels of `region`, limited to 0 .. 255; the colours stay. Parts of
 /// the region outside the picture are passed over. Does nothing unless `picture` is in Format_ARGB32.
 void changeAlpha(QImage &picture, const QRegion &region, int change);
+
+} // namespace cutout
