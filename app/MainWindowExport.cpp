@@ -4,9 +4,9 @@
 #include "app/MainWindow.h"
 
 #include "app/dialogs/ExportDialog.h"
+#include "core/Truncation.h"
 #include "cutout/ExportComposition.h"
 #include "cutout/PictureFile.h"
-#include "imaging/Truncation.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -26,7 +26,8 @@ QSize extentOf(const QGraphicsPixmapItem &item)
 {
     const QSizeF size = item.boundingRect().size();
     const QTransform zoom = item.transform();
-    return {truncateToInt(size.width() * zoom.m11()), truncateToInt(size.height() * zoom.m22())};
+    return {ornevo::truncateToInt(size.width() * zoom.m11()),
+            ornevo::truncateToInt(size.height() * zoom.m22())};
 }
 
 } // namespace

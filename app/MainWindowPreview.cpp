@@ -6,8 +6,8 @@
 #include "canvas/PictureItem.h"
 #include "cutout/BackgroundLayer.h"
 #include "cutout/CutOut.h"
+#include "cutout/FourChannelBlur.h"
 #include "cutout/IndexPicture.h"
-#include "imaging/FourChannelBlur.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -73,9 +73,9 @@ void MainWindow::updatepreviewmask()
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
     QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
-    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : QImage();
+    maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : QImage();
     if (maskImage.isNull())
-        maskImage = sharp; // not to be smoothed, or no room for that
+        maskImage = sharp; // not to be smoothed, or no memory for that
     else
         blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
 }
@@ -83,8 +83,8 @@ void MainWindow::updatepreviewmask()
 void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
 {
     try {
-        blurFourChannels(*src, *dst, size, sigma,
-                         [this](int percent) { form->progressBar->setValue(percent); });
+        cutout::blurFourChannels(*src, *dst, size, sigma,
+                                 [this](int percent) { form->progressBar->setValue(percent); });
     } catch (const std::bad_alloc &) {
         *dst = src->copy(); // short of memory, the border stays hard; the program goes on
     }

@@ -4,7 +4,7 @@
 #include "canvas/CMarkerCommand.h"
 #include "canvas/MarkerDabs.h"
 #include "canvas/ZelGraphicsView.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 
 #include <QMouseEvent>
 #include <QPainterPath>
@@ -27,8 +27,8 @@ void ZelGraphicsView::RemoveMarkerMouseReleased(QMouseEvent * /*event*/) {}
 
 bool ZelGraphicsView::acceptsDabAt(QPointF position) const
 {
-    const int x = truncateToInt(position.x());
-    const int y = truncateToInt(position.y());
+    const int x = ornevo::truncateToInt(position.x());
+    const int y = ornevo::truncateToInt(position.y());
     const QRectF picture = scene()->sceneRect();
     return x >= 1 && y >= 1 && x < picture.width() && y < picture.height();
 }

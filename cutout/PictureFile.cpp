@@ -3,8 +3,8 @@
 
 #include "cutout/PictureFile.h"
 
+#include "cutout/LargePicture.h"
 #include "cutout/PictureCompleteness.h"
-#include "imaging/LargeMemory.h"
 
 #include <QBuffer>
 #include <QFile>
