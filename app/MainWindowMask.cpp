@@ -5,6 +5,7 @@
 
 #include "canvas/MarkerDabs.h"
 #include "canvas/PictureItem.h"
+#include "canvas/SceneLayers.h"
 #include "cutout/IndexPicture.h"
 #include "segmentation/FrWatershed.h"
 #include "ui_MainWindow.h"
@@ -51,7 +52,7 @@ void MainWindow::on_actionMask_triggered()
     const QImage overlay = cutout::paintIndices(workingImage.size(), outmask, green, white);
     maskItem = new PictureItem(QPixmap::fromImage(overlay));
     imageScene.addItem(maskItem);
-    maskItem->setZValue(markers::maskOverlayZ);
+    maskItem->setZValue(layers::maskOverlayZ);
     maskItem->setOpacity(maskOpacity);
     maskItem->setVisible(true);
     form->statusBar->showMessage(tr("Ready"));
