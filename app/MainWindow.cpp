@@ -109,7 +109,6 @@ void MainWindow::connectCanvas()
             SLOT(on_HandToolPressed(QPoint, QPoint)));
     connect(&brushTimer, SIGNAL(timeout()), this, SLOT(on_ProcessBrushMouseEvent()));
     connect(&skipLastRectTimer, SIGNAL(timeout()), this, SLOT(on_TimeToSkipLastRect()));
-    connect(&undoStack, &QUndoStack::indexChanged, this, &MainWindow::showChangeByOlderEntry);
 }
 
 void MainWindow::chooseTool(int tool, bool checked)

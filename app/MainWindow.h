@@ -125,7 +125,8 @@ private:
     void stepBrushIntensity(int step);
     void changeToolSize(unsigned char &size, const QString &message, const char *key, int step);
     void applyBrush(const QList<QRect> &rects, int alphaChange);
-    void showChangeByOlderEntry(int undoIndex);
+    void showCutOut(const QRect &area);
+    void framePreview();
     void scaleBackground(double factor);
     [[nodiscard]] QPixmap exportCanvas() const;
 
@@ -150,7 +151,6 @@ private:
     bool skipLastRect = true; ///< false: lastBrushRect is left out of the next batch; never in this program
     QList<QRect> pendingBrushRects; ///< the batch that is being collected
     QUndoStack undoStack;
-    int entriesOlderThanPreviewItem = 0; ///< of undoStack; their own item is gone, previewItem must follow
     QPixmap imagePixmap;
     // Bytes, as the settings hold them; for units see SettingsKeys.h. The view has sizes of its own.
     unsigned char keepMarkerSize = 0;

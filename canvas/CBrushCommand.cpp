@@ -3,9 +3,11 @@
 
 #include "canvas/CBrushCommand.h"
 
+#include "canvas/ItemPointer.h"
 #include "canvas/PictureItem.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -15,25 +17,43 @@ QImage pixelsIn(const QImage &image, const QRect &area)
     return area.isEmpty() ? QImage() : image.copy(area);
 }
 
+CBrushCommand::Show showIn(QGraphicsPixmapItem *item, const QImage &image)
+{
+    return [shown = ItemPointer<QGraphicsPixmapItem>(item), &image](const QRect &area) {
+        if (shown != nullptr)
+            updatePixmap(*shown, image, area);
+    };
+}
+
 constexpr int uncompressed = 100;
 
 } // namespace
 
-CBrushCommand::CBrushCommand(QGraphicsPixmapItem *item, const QRect &area, QPixmap *afterPixmap,
-                             QImage *image, const QImage &before)
-    : m_item(item),
+CBrushCommand::CBrushCommand(Show show, const QRect &area, QImage *image, const QImage &before)
+    : m_show(std::move(show)),
+      m_showFirst([this] { m_show(m_area); }),
       m_area(area),
-      m_afterPixmap(afterPixmap),
       m_image(image),
       m_before(before),
       m_after(pixelsIn(*image, area))
 {
 }
 
+CBrushCommand::CBrushCommand(QGraphicsPixmapItem *item, const QRect &area, QPixmap *afterPixmap,
+                             QImage *image, const QImage &before)
+    : CBrushCommand(showIn(item, *image), area, image, before)
+{
+    m_showFirst = [shown = ItemPointer<QGraphicsPixmapItem>(item), afterPixmap] {
+        // An item that shows it already would be repainted from end to end.
+        if (shown != nullptr && shown->pixmap().cacheKey() != afterPixmap->cacheKey())
+            shown->setPixmap(*afterPixmap);
+    };
+}
+
 void CBrushCommand::redo()
 {
-    if (m_afterPixmap != nullptr) {
-        showFirstTime();
+    if (m_showFirst) {
+        std::exchange(m_showFirst, nullptr)();
         moveToDisk();
         return;
     }
@@ -45,14 +65,6 @@ void CBrushCommand::undo()
 {
     loadFromDisk();
     putBack(m_before);
-}
-
-void CBrushCommand::showFirstTime()
-{
-    // An item that shows it already would be repainted from end to end.
-    if (m_item != nullptr && m_item->pixmap().cacheKey() != m_afterPixmap->cacheKey())
-        m_item->setPixmap(*m_afterPixmap);
-    m_afterPixmap = nullptr; // it is the caller's, and soon gone
 }
 
 void CBrushCommand::moveToDisk()
@@ -95,6 +107,5 @@ void CBrushCommand::putBack(const QImage &pixels)
             reinterpret_cast<const QRgb *>(source.constScanLine(sourceRow)) + (area.left() - m_area.left());
         std::copy_n(from, std::max(columns, 0), reinterpret_cast<QRgb *>(m_image->scanLine(y)) + area.left());
     }
-    if (m_item != nullptr)
-        updatePixmap(*m_item, *m_image, area);
+    m_show(area);
 }
