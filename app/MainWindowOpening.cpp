@@ -76,6 +76,9 @@ void MainWindow::open()
     imagePixmap = pixmap;
     imageScene.addItem(new PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
+    // The canvas scales with its size: scroll bars that come later, with the first zoom, would scale it too.
+    form->graphicsView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    form->graphicsView->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     form->graphicsView->setScene(&imageScene);
     form->graphicsView->fitInView(imageScene.sceneRect(), Qt::KeepAspectRatio);
     form->graphicsView->setCacheMode(QGraphicsView::CacheBackground);

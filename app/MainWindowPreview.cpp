@@ -4,6 +4,7 @@
 #include "app/MainWindow.h"
 
 #include "canvas/PictureItem.h"
+#include "canvas/SceneLayers.h"
 #include "cutout/BackgroundLayer.h"
 #include "cutout/CutOut.h"
 #include "cutout/IndexPicture.h"
@@ -16,8 +17,6 @@
 
 namespace {
 
-constexpr qreal backgroundZ = 0.0;
-constexpr qreal objectZ = 10.0;
 constexpr double sizeToSigma = 5.0;
 
 } // namespace
@@ -98,13 +97,21 @@ void MainWindow::applypreviewmask()
     applypreviewmasktopixmap(&background, &object);
     backgroundItem = new PictureItem(background);
     previewItem = new PictureItem(object);
-    entriesOlderThanPreviewItem = undoStack.count();
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);
-    backgroundItem->setZValue(backgroundZ);
-    previewItem->setZValue(objectZ);
+    backgroundItem->setZValue(layers::backgroundZ);
+    previewItem->setZValue(layers::objectZ);
     previewItem->setPos(previewOffset);
+    framePreview();
     form->statusBar->showMessage(tr("Ready"));
+}
+
+// Without a frame of its own the scene would grow with the object under the hand, and a centred view follow
+// it at half the pointer's speed; and it would never shrink for a smaller photo.
+void MainWindow::framePreview()
+{
+    const QRectF photo(previewItem->pixmap().rect()); // where it lies before any hand moves it
+    previewScene.setSceneRect(photo.united(backgroundItem->sceneBoundingRect()));
 }
 
 void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
