@@ -24,10 +24,15 @@ void BrushOutline::showAt(const QRectF &square, qreal viewPixel)
     setRect(square);
 }
 
+// Where the view shows the picture reduced, a line by the pen alone would be less than a pixel wide and fade.
+qreal BrushOutline::lineWidth() const
+{
+    return std::max(pen().widthF(), m_viewPixel);
+}
+
 qreal BrushOutline::haloWidth() const
 {
-    // However thin, a line takes a pixel of the view.
-    return std::max(pen().widthF(), m_viewPixel) + 2 * m_viewPixel;
+    return lineWidth() + 2 * m_viewPixel;
 }
 
 QRectF BrushOutline::boundingRect() const
@@ -36,10 +41,11 @@ QRectF BrushOutline::boundingRect() const
     return rect().adjusted(-reach, -reach, reach, reach);
 }
 
-void BrushOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
+void BrushOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*option*/, QWidget * /*widget*/)
 {
+    painter->setBrush(brush());
     painter->setPen(QPen(Qt::white, haloWidth()));
-    painter->setBrush(Qt::NoBrush);
     painter->drawEllipse(rect());
-    QGraphicsEllipseItem::paint(painter, option, widget);
+    painter->setPen(QPen(pen().color(), lineWidth()));
+    painter->drawEllipse(rect());
 }

@@ -20,6 +20,7 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 private:
+    [[nodiscard]] qreal lineWidth() const;
     [[nodiscard]] qreal haloWidth() const;
 
     qreal m_viewPixel = 1.0;
