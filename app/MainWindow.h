@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "canvas/DrawingTools.h"
 #include "canvas/ItemPointer.h"
 #include "imaging/LargeMemory.h"
 
@@ -113,21 +114,33 @@ private slots:
 private:
     friend class MainWindowProbe; // the tests' look at the state below
 
+    // In ToolActions.h.
+    struct ToolSetting;
+    struct ToolAction;
+    struct ToolTable;
+
     void setUpProgress();
-    void setUpActions();
+    void setUpHint();
+    void setUpTools();
+    void setUpUndo();
     void letTabIntoTheToolBar();
     void connectCanvas();
-    void chooseTool(int tool, bool checked);
+    void repaintAfterDialog();
+    void saveAndReopen();
+    void chooseTool(DrawingTools tool, bool checked);
     void setEditingActionsEnabled(bool editing);
+    void putToolsDown(bool editing);
     [[nodiscard]] QString lastDirectory() const;
     [[nodiscard]] QGraphicsPixmapItem *topmostPicture() const;
     void stepToolSize(int step);
     void stepBrushIntensity(int step);
-    void changeToolSize(unsigned char &size, const QString &message, const char *key, int step);
+    [[nodiscard]] const ToolAction *toolInUse(ToolSetting ToolAction::*setting) const;
+    void changeByte(const ToolSetting &setting, const QString &message, int step);
     void applyBrush(const QList<QRect> &rects, int alphaChange);
     void showCutOut(const QRect &area);
     void framePreview();
     void scaleBackground(double factor);
+    bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
     [[nodiscard]] QPixmap exportCanvas() const;
 
     std::unique_ptr<Ui_MainWindow> form;

@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "app/dialogs/ExportDialog.h"
 #include "cutout/ExportComposition.h"
 #include "cutout/PictureFile.h"
@@ -43,19 +44,26 @@ void MainWindow::on_actionExport_triggered()
     int height = 0;
     QString fileName;
     dialog.GetSettings(&width, &height, &fileName); // a file that was chosen is written, Cancel or not
-    if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
-        return;
-
     const QString suffix = QFileInfo(fileName).suffix();
-    const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
-    cutout::writePicture(cutout::composeExport(layers, QSize(width, height)).toImage(), fileName,
-                         suffix.toLatin1());
+    if (!exportTo(fileName, suffix.toLatin1(), QSize(width, height)))
+        return;
     if (qAlpha(backgroundColor) != 255 && isJpeg(suffix))
         QMessageBox::warning(
             nullptr, tr("Transparency was lost"),
             tr("You've selected a transparent background color but saving as jpeg. Transparency of "
                "the color was lost. Please choose .png to save transparent backgrounds"),
             QMessageBox::Ok);
+}
+
+bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSize size)
+{
+    const WaitCursor busy;
+    repaintAfterDialog();
+    if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
+        return false;
+    const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
+    cutout::writePicture(cutout::composeExport(layers, size).toImage(), fileName, format);
+    return true;
 }
 
 QPixmap MainWindow::exportCanvas() const

@@ -3,6 +3,8 @@
 
 #include "app/MainWindow.h"
 
+#include "app/ProgressStep.h"
+#include "app/WaitCursor.h"
 #include "canvas/MarkerDabs.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
@@ -29,8 +31,9 @@ void MainWindow::updatemask()
     if (topmostPicture() == nullptr)
         return;
 
+    const WaitCursor busy;
     form->statusBar->showMessage(tr("Isolating object"));
-    form->progressBar->show();
+    const ProgressStep progress(form->progressBar);
     outmask.clear();
     qWarning() << "outmask size before watd is" << outmask.size();
     try {
@@ -40,13 +43,13 @@ void MainWindow::updatemask()
         outmask = {}; // short of memory, the picture has no mask; the program goes on
     }
     qWarning() << "outmask size after watd is" << outmask.size();
-    form->progressBar->hide();
 }
 
 void MainWindow::on_actionMask_triggered()
 {
     constexpr QRgb green = qRgb(0, 255, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
+    const WaitCursor busy;
     updatemask();
     form->statusBar->showMessage(tr("Displaying image"));
     const QImage overlay = cutout::paintIndices(workingImage.size(), outmask, green, white);

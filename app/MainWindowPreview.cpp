@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
 #include "cutout/BackgroundLayer.h"
@@ -23,39 +24,24 @@ constexpr double sizeToSigma = 5.0;
 
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
+    const WaitCursor busy;
     if (checked) {
         updatemask();
         setEditingActionsEnabled(false);
-        form->graphicsView->SetTool(ToolNone);
-        form->actionBackground_Brush->setChecked(false);
-        form->actionForeground_Brush->setChecked(false);
-        form->actionHandTool->setChecked(false);
+        putToolsDown(false);
         previewImage = QImage();
         updatepreview();
         form->graphicsView->setScene(&previewScene);
     } else {
         setEditingActionsEnabled(true);
         form->graphicsView->setScene(&imageScene);
-        form->graphicsView->SetTool(ToolNone);
-        form->actionKeep_arker->setChecked(false);
-        form->action_Remove_Marker->setChecked(false);
-        form->actionEraser->setChecked(false);
+        putToolsDown(true);
     }
-}
-
-void MainWindow::setEditingActionsEnabled(bool editing)
-{
-    for (QAction *action :
-         {form->actionMask, form->actionKeep_arker, form->action_Remove_Marker, form->actionEraser})
-        action->setEnabled(editing);
-    for (QAction *action :
-         {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool,
-          form->actionSelect_Background, form->actionBackgroundZoomMinus, form->actionBackgroundZoomPlus})
-        action->setEnabled(!editing);
 }
 
 void MainWindow::updatepreview()
 {
+    const WaitCursor busy;
     updatepreviewmask();
     if (maskImage.isNull() && !workingImage.isNull()) { // without a mask all of the photo would be shown
         previewScene.clear();

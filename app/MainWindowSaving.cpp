@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "cutout/PictureFile.h"
 #include "ui_MainWindow.h"
 
@@ -13,6 +14,7 @@
 
 void MainWindow::save(const QString &path)
 {
+    const WaitCursor busy;
     const QGraphicsPixmapItem *picture = topmostPicture();
     if (picture == nullptr || picture->pixmap().isNull())
         return;
@@ -26,6 +28,15 @@ void MainWindow::save(const QString &path)
     cutout::writePicture(flat, path, "JPG");
 }
 
+void MainWindow::saveAndReopen()
+{
+    const WaitCursor busy;
+    repaintAfterDialog();
+    form->actionPreview->setChecked(false); // as opening does: the cut-out goes with the photo
+    save(currentFile);
+    open();
+}
+
 void MainWindow::on_actionSave_triggered()
 {
     if (isOriginalFile) {
@@ -36,8 +47,7 @@ void MainWindow::on_actionSave_triggered()
         if (answer != QMessageBox::Yes)
             return;
     }
-    save(currentFile);
-    open();
+    saveAndReopen();
 }
 
 void MainWindow::on_actionSave_As_triggered()
@@ -49,7 +59,6 @@ void MainWindow::on_actionSave_As_triggered()
         return;
     }
     currentFile = name;
-    save(currentFile);
-    open();
+    saveAndReopen();
     isOriginalFile = false;
 }
