@@ -4,19 +4,18 @@
 #pragma once
 
 #include "canvas/ItemPointer.h"
+#include "canvas/UndoSnapshot.h"
 
 #include <QGraphicsPixmapItem>
 #include <QImage>
 #include <QPixmap>
 #include <QRect>
-#include <QTemporaryFile>
 #include <QUndoCommand>
 
-/// Undo of one batch of brush dabs: keeps the pixels of the box around them from before and after.
-///
-/// With the first redo() the pixels move into a temporary file, so that a long history costs disk and not
-/// memory; where no file can be written they stay in memory. The file goes with the command. The first
-/// redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the picture already.
+/// Undo of one batch of brush dabs: keeps the pixels of the box around them as they were before, and once
+/// they are undone as they were after. With the first redo() they move into a temporary file, which goes with
+/// the command. The first redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the
+/// picture already.
 class CBrushCommand : public QUndoCommand
 {
 public:
@@ -33,15 +32,12 @@ public:
 
 private:
     void showFirstTime();
-    void moveToDisk();
-    void loadFromDisk();
-    void putBack(const QImage &pixels);
+    void swapPixels();
 
     ItemPointer<QGraphicsPixmapItem> m_item;
     QRect m_area;
     QPixmap *m_afterPixmap;
     QImage *m_image;
-    QImage m_before;
-    QImage m_after;
-    QTemporaryFile m_store;
+    UndoSnapshot m_snapshot;
+    bool m_holdsBefore = true; ///< what the snapshot is of
 };
