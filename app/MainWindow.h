@@ -128,6 +128,7 @@ private:
     void showChangeByOlderEntry(int undoIndex);
     void scaleBackground(double factor);
     [[nodiscard]] QPixmap exportCanvas() const;
+    bool writeScene(const QString &path);
 
     std::unique_ptr<Ui_MainWindow> form;
     QSettings settings;
@@ -140,6 +141,7 @@ private:
     QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
     LargeArray<unsigned char> edgeMap;         ///< of workingImage, a byte a pixel
     ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
+    bool memoryRanOut = false;                 ///< in the last finding of edges or of the mask
     QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order
     QPoint previewOffset;                      ///< where the object lies on the preview, in pixels
     ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's

@@ -7,11 +7,14 @@
 #include "cutout/ExportComposition.h"
 #include "cutout/PictureFile.h"
 #include "imaging/Truncation.h"
+#include "ui_MainWindow.h"
 
 #include <QDebug>
 #include <QFileInfo>
 #include <QGraphicsPixmapItem>
 #include <QMessageBox>
+
+#include <new>
 
 namespace {
 
@@ -47,9 +50,15 @@ void MainWindow::on_actionExport_triggered()
         return;
 
     const QString suffix = QFileInfo(fileName).suffix();
-    const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
-    cutout::writePicture(cutout::composeExport(layers, QSize(width, height)).toImage(), fileName,
-                         suffix.toLatin1());
+    try {
+        const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset,
+                                          extentOf(*backgroundItem)};
+        cutout::writePicture(cutout::composeExport(layers, QSize(width, height)).toImage(), fileName,
+                             suffix.toLatin1());
+    } catch (const std::bad_alloc &) {
+        form->statusBar->showMessage(tr("Not enough memory to export"));
+        return;
+    }
     if (qAlpha(backgroundColor) != 255 && isJpeg(suffix))
         QMessageBox::warning(
             nullptr, tr("Transparency was lost"),
@@ -61,9 +70,7 @@ void MainWindow::on_actionExport_triggered()
 QPixmap MainWindow::exportCanvas() const
 {
     if (!backgroundImage.isNull())
-        return QPixmap::fromImage(backgroundImage);
+        return cutout::asPixmap(backgroundImage);
     // The colour alone: the chessboard of the preview only stands for what is transparent.
-    QImage canvas(backgroundItem->pixmap().size(), QImage::Format_ARGB32);
-    canvas.fill(backgroundColor);
-    return QPixmap::fromImage(std::move(canvas));
+    return cutout::colourCanvas(backgroundItem->pixmap().size(), backgroundColor);
 }

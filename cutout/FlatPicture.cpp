@@ -3,14 +3,13 @@
 
 #include "cutout/FlatPicture.h"
 
-#include <QBitmap>
 #include <QPainter>
 
 namespace cutout {
 
-QImage flattened(QPixmap pixmap)
+QImage flattened(QPixmap pixmap, const QBitmap &mask)
 {
-    pixmap.setMask(QBitmap()); // an empty mask drops whatever transparency there was
+    pixmap.setMask(mask);
     QImage flat(pixmap.size(), QImage::Format_ARGB32);
     if (pixmap.isNull() || flat.isNull())
         return {};

@@ -3,13 +3,15 @@
 
 #pragma once
 
+#include <QBitmap>
 #include <QImage>
 #include <QPixmap>
 
 namespace cutout {
 
-/// `pixmap` at full strength on white, in Format_ARGB32. Whatever transparency it has is dropped first, so
-/// that its own colours show there. Null when it is null or memory is short.
-[[nodiscard]] QImage flattened(QPixmap pixmap);
+/// `pixmap` at full strength on white, in Format_ARGB32, with `mask` for its mask: an empty one drops
+/// whatever transparency there was, so that the colours below it show. Null when the pixmap is null or memory
+/// is short.
+[[nodiscard]] QImage flattened(QPixmap pixmap, const QBitmap &mask);
 
 } // namespace cutout
