@@ -126,7 +126,7 @@ private:
     void letTabIntoTheToolBar();
     void connectCanvas();
     void repaintAfterDialog();
-    void saveAndReopen();
+    bool saveAndReopen(const QString &path);
     void chooseTool(DrawingTools tool, bool checked);
     void setEditingActionsEnabled(bool editing);
     void putToolsDown(bool editing);
@@ -142,6 +142,7 @@ private:
     void scaleBackground(double factor);
     bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
     [[nodiscard]] QPixmap exportCanvas() const;
+    bool writeScene(const QString &path);
 
     std::unique_ptr<Ui_MainWindow> form;
     QSettings settings;
@@ -154,6 +155,7 @@ private:
     QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
     LargeArray<unsigned char> edgeMap;         ///< of workingImage, a byte a pixel
     ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
+    bool memoryRanOut = false;                 ///< in the last finding of edges or of the mask
     QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order
     QPoint previewOffset;                      ///< where the object lies on the preview, in pixels
     ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's

@@ -97,16 +97,18 @@ void MainWindow::open()
         edgeMap = std::move(edges);
         colorsobel();
     }
-    form->statusBar->showMessage(tr("Ready"));
+    form->statusBar->showMessage(memoryRanOut ? tr("Not enough memory to find the edges") : tr("Ready"));
 }
 
 void MainWindow::colorsobel()
 {
+    memoryRanOut = false;
     if (edgeMap == nullptr)
         return;
     try {
         computeEdgeMap(workingImage, edgeMap.get());
     } catch (const std::bad_alloc &) { // short of memory, there are no edges; differences of colour remain
+        memoryRanOut = true;
         std::fill_n(edgeMap.get(), workingImage.sizeInBytes() / 4, std::uint8_t{0});
     }
 }
