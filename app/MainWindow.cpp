@@ -77,11 +77,9 @@ void MainWindow::letTabIntoTheToolBar()
     QList<QWidget *> buttons;
     for (QAction *action : form->mainToolBar->actions())
         buttons << form->mainToolBar->widgetForAction(action);
-    // Qt gives this one no name for the screen reader.
-    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button")) {
-        overflow->setAccessibleName(tr("More tools"));
+    nameOverflowButton();
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
         buttons << overflow;
-    }
     QWidget *previous = form->graphicsView;
     for (QWidget *button : buttons) {
         button->setFocusPolicy(Qt::TabFocus);

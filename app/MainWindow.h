@@ -71,6 +71,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void on_actionTestMenu_triggered();
@@ -115,6 +116,8 @@ private:
 
     void setUpProgress();
     void setUpActions();
+    void retranslate();
+    void nameOverflowButton();
     void letTabIntoTheToolBar();
     void connectCanvas();
     void chooseTool(int tool, bool checked);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/MainWindow.h"
+#include "app/Translations.h"
 
 #include <QApplication>
 
@@ -11,6 +12,7 @@ int main(int argc, char *argv[])
     // These two words scope the settings store.
     QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
     QApplication::setOrganizationName("Tirelo software");
+    translations::installForDesktop();
     MainWindow window(nullptr);
     QObject::connect(&window, SIGNAL(mwquit()), &application, SLOT(quit()));
     window.show();
