@@ -5,503 +5,506 @@
     <name>BackgroundDialog</name>
     <message>
         <source>Select Background Color or Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar color o imagen de fondo</translation>
     </message>
     <message>
         <source>Use picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar una imagen</translation>
     </message>
     <message>
         <source>Use color</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar un color</translation>
     </message>
     <message>
         <source>Chosen picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen elegida</translation>
     </message>
     <message>
         <source>Chosen color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color elegido</translation>
     </message>
     <message>
         <source>Choose the color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el color</translation>
     </message>
     <message>
         <source>&quot;...&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;...&quot;</translation>
     </message>
     <message>
         <source>Choose the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la imagen</translation>
     </message>
     <message>
         <source>Use White</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar blanco</translation>
     </message>
     <message>
         <source>Use Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar transparencia</translation>
     </message>
     <message>
         <source>Please select the background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione el color de fondo</translation>
     </message>
     <message>
         <source>Open Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir imagen</translation>
     </message>
     <message>
         <source>Image Files (*.png *.jpg *.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de imagen (*.png *.jpg *.bmp)</translation>
     </message>
 </context>
 <context>
     <name>ExportDialog</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar</translation>
     </message>
     <message>
         <source>FileName</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de archivo</translation>
     </message>
     <message>
         <source>Chosen file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de archivo elegido</translation>
     </message>
     <message>
         <source>Choose the file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el nombre de archivo</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura</translation>
     </message>
     <message>
         <source>Keep Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantener proporciones</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>JPG Files (*.jpg);;PNG Files (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos JPG (*.jpg);;Archivos PNG (*.png)</translation>
     </message>
 </context>
 <context>
     <name>HelpDialog</name>
     <message>
         <source>Ornevo Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda de Ornevo</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>:/help/help_en.html</source>
         <extracomment>The help in this language: &quot;:/help/help_&quot; and the catalogue&apos;s language, then &quot;.html&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>:/help/help_es.html</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Ornevo Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo Pro</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Acciones</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&quot;Keep&quot; Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador «Conservar»</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;&amp;quot;Keep&amp;quot; Marker&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Used to mark the areas of image you want to keep.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Marcador «Conservar»&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Sirve para marcar las zonas de la imagen que desea conservar.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&quot;Remove&quot; Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador «Quitar»</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;&amp;quot;Remove&amp;quot; Marker&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Used to mark the areas of image you want to remove. They will become background.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Marcador «Quitar»&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Sirve para marcar las zonas de la imagen que desea quitar. Pasarán a ser el fondo.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation>Acercar</translation>
     </message>
     <message>
         <source>Zoom Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Alejar</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Preview&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Switch to preview mode to see how your final picture will look. Some tools are only available in this mode.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Vista previa&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Pasa al modo de vista previa para ver cómo quedará la imagen final. Algunas herramientas solo están disponibles en este modo.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>Máscara</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Mask Tool&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Preview your foreground and background highlighted with colors.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Herramienta de máscara&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Muestra el primer plano y el fondo resaltados con colores.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Select Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar fondo</translation>
     </message>
     <message>
         <source>HandTool</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramienta Mano</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrador</translation>
     </message>
     <message>
         <source>Background Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrador de fondos</translation>
     </message>
     <message>
         <source>Background Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pincel de fondo</translation>
     </message>
     <message>
         <source>Foreground Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pincel de primer plano</translation>
     </message>
     <message>
         <source>backgroundZoomPlus</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar fondo</translation>
     </message>
     <message>
         <source>Background Zoom
 Scales the background when it is a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom del fondo
+Cambia la escala del fondo cuando es una imagen.</translation>
     </message>
     <message>
         <source>backgroundZoomMinus</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducir fondo</translation>
     </message>
     <message>
         <source>finematt</source>
-        <translation type="unfinished"></translation>
+        <translation>Máscara fina</translation>
     </message>
     <message>
         <source>BlueMarker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador azul</translation>
     </message>
     <message>
         <source>Blue marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador azul</translation>
     </message>
     <message>
         <source>Contact Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Contacto</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Talk to us!&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Have a question?&lt;/p&gt;&lt;p&gt;Don&apos;t know how to use the product?&lt;/p&gt;&lt;p&gt;Want a new feature?&lt;/p&gt;&lt;p&gt;Think our product sucks?&lt;/p&gt;&lt;p&gt;Want to negotiate price?&lt;/p&gt;&lt;p&gt;&lt;b&gt;Tell us about that! Your opinion matters to us.&lt;/b&gt;&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;¡Hable con nosotros!&lt;/b&gt;&lt;/p&gt;&lt;p&gt;¿Tiene alguna pregunta?&lt;/p&gt;&lt;p&gt;¿No sabe cómo usar el producto?&lt;/p&gt;&lt;p&gt;¿Desea una función nueva?&lt;/p&gt;&lt;p&gt;¿Cree que nuestro producto es malísimo?&lt;/p&gt;&lt;p&gt;¿Quiere negociar el precio?&lt;/p&gt;&lt;p&gt;&lt;b&gt;¡Cuéntenoslo! Su opinión nos importa.&lt;/b&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>increaseToolSize</source>
-        <translation type="unfinished"></translation>
+        <translation>Aumentar tamaño de la herramienta</translation>
     </message>
     <message>
         <source>Ctrl+Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Right</translation>
     </message>
     <message>
         <source>decreaseToolSize</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducir tamaño de la herramienta</translation>
     </message>
     <message>
         <source>Ctrl+Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Left</translation>
     </message>
     <message>
         <source>increaseBrushIntensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Aumentar intensidad del pincel</translation>
     </message>
     <message>
         <source>Ctrl+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Up</translation>
     </message>
     <message>
         <source>decreaseBrushIntensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducir intensidad del pincel</translation>
     </message>
     <message>
         <source>Ctrl+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Down</translation>
     </message>
     <message>
         <source>Transparency was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha perdido la transparencia</translation>
     </message>
     <message>
         <source>You&apos;ve selected a transparent background color but saving as jpeg. Transparency of the color was lost. Please choose .png to save transparent backgrounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha seleccionado un color de fondo transparente, pero guarda en formato JPEG. La transparencia del color se ha perdido. Elija .png para guardar fondos transparentes.</translation>
     </message>
     <message>
         <source>Ornevo cuts objects out of photographs.
 Made by the Ornevo developers, 2026.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo recorta objetos de fotografías.
+Creado por The Ornevo developers, 2026.</translation>
     </message>
     <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
     <message>
         <source>Ornevo Pro 2.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo Pro 2.5</translation>
     </message>
     <message>
         <source>More tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Más herramientas</translation>
     </message>
     <message>
         <source>Isolating object</source>
-        <translation type="unfinished"></translation>
+        <translation>Aislando el objeto</translation>
     </message>
     <message>
         <source>Displaying image</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrando la imagen</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>Open Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir imagen</translation>
     </message>
     <message>
         <source>Image Files (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif);;All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de imagen (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif);;Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>No file selected</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha seleccionado ningún archivo</translation>
     </message>
     <message>
         <source>Failed to read image</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer la imagen</translation>
     </message>
     <message>
         <source>image opened</source>
-        <translation type="unfinished"></translation>
+        <translation>imagen abierta</translation>
     </message>
     <message>
         <source>Image loaded. Preprocessing image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen cargada. Preprocesando la imagen.</translation>
     </message>
     <message>
         <source>Not enough memory for a preview</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para la vista previa</translation>
     </message>
     <message>
         <source>getting inversed mask</source>
-        <translation type="unfinished"></translation>
+        <translation>obteniendo la máscara invertida</translation>
     </message>
     <message>
         <source>painting alpha channel</source>
-        <translation type="unfinished"></translation>
+        <translation>pintando el canal alfa</translation>
     </message>
     <message>
         <source>painting alpha channel done, now feather</source>
-        <translation type="unfinished"></translation>
+        <translation>canal alfa pintado, ahora se suaviza el borde</translation>
     </message>
     <message>
         <source>feather done</source>
-        <translation type="unfinished"></translation>
+        <translation>borde suavizado</translation>
     </message>
     <message>
         <source>Save file?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar el archivo?</translation>
     </message>
     <message>
         <source>You are going to overwrite your original file.
 Are you sure you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Va a sobrescribir el archivo original.
+¿Seguro que desea continuar?</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>JPG Files (*.jpg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos JPG (*.jpg)</translation>
     </message>
     <message>
         <source>Foreground marker size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del marcador de primer plano: %1</translation>
     </message>
     <message>
         <source>Tool size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de la herramienta: %1</translation>
     </message>
     <message>
         <source>Background marker size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del marcador de fondo: %1</translation>
     </message>
     <message>
         <source>Background brush size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del pincel de fondo: %1</translation>
     </message>
     <message>
         <source>Foreground brush size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del pincel de primer plano: %1</translation>
     </message>
     <message>
         <source>Background brush intensity is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad del pincel de fondo: %1</translation>
     </message>
     <message>
         <source>Foreground brush intensity is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad del pincel de primer plano: %1</translation>
     </message>
 </context>
 <context>
     <name>OptionsDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>Foreground Marker width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura del marcador de primer plano</translation>
     </message>
     <message>
         <source>Same size for all tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Mismo tamaño para todas las herramientas</translation>
     </message>
     <message>
         <source>Background Marker width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura del marcador de fondo</translation>
     </message>
     <message>
         <source>Smooth Edges</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizar bordes</translation>
     </message>
     <message>
         <source>Smooth Edges kernel size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del núcleo de suavizado de bordes</translation>
     </message>
     <message>
         <source>Eraser width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura del borrador</translation>
     </message>
     <message>
         <source>Mask opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidad de la máscara</translation>
     </message>
     <message>
         <source>Foreground Brush width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura del pincel de primer plano</translation>
     </message>
     <message>
         <source>Foreground Brush Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad del pincel de primer plano</translation>
     </message>
     <message>
         <source>Background Brush width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura del pincel de fondo</translation>
     </message>
     <message>
         <source>Background Brush Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad del pincel de fondo</translation>
     </message>
     <message>
         <source>Blue Marker width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura del marcador azul</translation>
     </message>
 </context>
 </TS>

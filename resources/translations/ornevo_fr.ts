@@ -5,503 +5,506 @@
     <name>BackgroundDialog</name>
     <message>
         <source>Select Background Color or Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une couleur ou une image d’arrière-plan</translation>
     </message>
     <message>
         <source>Use picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser une image</translation>
     </message>
     <message>
         <source>Use color</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser une couleur</translation>
     </message>
     <message>
         <source>Chosen picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image choisie</translation>
     </message>
     <message>
         <source>Chosen color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur choisie</translation>
     </message>
     <message>
         <source>Choose the color</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la couleur</translation>
     </message>
     <message>
         <source>&quot;...&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;...&quot;</translation>
     </message>
     <message>
         <source>Choose the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l’image</translation>
     </message>
     <message>
         <source>Use White</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser le blanc</translation>
     </message>
     <message>
         <source>Use Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser la transparence</translation>
     </message>
     <message>
         <source>Please select the background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez choisir la couleur d’arrière-plan</translation>
     </message>
     <message>
         <source>Open Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une image</translation>
     </message>
     <message>
         <source>Image Files (*.png *.jpg *.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers image (*.png *.jpg *.bmp)</translation>
     </message>
 </context>
 <context>
     <name>ExportDialog</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter</translation>
     </message>
     <message>
         <source>FileName</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier</translation>
     </message>
     <message>
         <source>Chosen file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier choisi</translation>
     </message>
     <message>
         <source>Choose the file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le nom du fichier</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur</translation>
     </message>
     <message>
         <source>Keep Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les proportions</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier</translation>
     </message>
     <message>
         <source>JPG Files (*.jpg);;PNG Files (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers JPG (*.jpg);;Fichiers PNG (*.png)</translation>
     </message>
 </context>
 <context>
     <name>HelpDialog</name>
     <message>
         <source>Ornevo Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide d’Ornevo</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>:/help/help_en.html</source>
         <extracomment>The help in this language: &quot;:/help/help_&quot; and the catalogue&apos;s language, then &quot;.html&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>:/help/help_fr.html</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Ornevo Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo Pro</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Actions</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&quot;Keep&quot; Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marqueur «&#xa0;Conserver&#xa0;»</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;&amp;quot;Keep&amp;quot; Marker&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Used to mark the areas of image you want to keep.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Marqueur «&#xa0;Conserver&#xa0;»&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Sert à marquer les zones de l’image que vous voulez conserver.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&quot;Remove&quot; Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marqueur «&#xa0;Retirer&#xa0;»</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;&amp;quot;Remove&amp;quot; Marker&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Used to mark the areas of image you want to remove. They will become background.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Marqueur «&#xa0;Retirer&#xa0;»&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Sert à marquer les zones de l’image que vous voulez retirer. Elles deviendront l’arrière-plan.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Sommaire</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>Zoom Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Preview&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Switch to preview mode to see how your final picture will look. Some tools are only available in this mode.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Aperçu&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Passe en mode aperçu pour voir à quoi ressemblera l’image finale. Certains outils ne sont disponibles que dans ce mode.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>Masque</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Mask Tool&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Preview your foreground and background highlighted with colors.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Outil Masque&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Affiche le premier plan et l’arrière-plan mis en évidence par des couleurs.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Select Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l’arrière-plan</translation>
     </message>
     <message>
         <source>HandTool</source>
-        <translation type="unfinished"></translation>
+        <translation>Outil Main</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Gomme</translation>
     </message>
     <message>
         <source>Background Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Gomme d’arrière-plan</translation>
     </message>
     <message>
         <source>Background Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinceau d’arrière-plan</translation>
     </message>
     <message>
         <source>Foreground Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinceau de premier plan</translation>
     </message>
     <message>
         <source>backgroundZoomPlus</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandir l’arrière-plan</translation>
     </message>
     <message>
         <source>Background Zoom
 Scales the background when it is a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom de l’arrière-plan
+Met l’arrière-plan à l’échelle lorsqu’il s’agit d’une image.</translation>
     </message>
     <message>
         <source>backgroundZoomMinus</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire l’arrière-plan</translation>
     </message>
     <message>
         <source>finematt</source>
-        <translation type="unfinished"></translation>
+        <translation>Masque fin</translation>
     </message>
     <message>
         <source>BlueMarker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marqueur bleu</translation>
     </message>
     <message>
         <source>Blue marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marqueur bleu</translation>
     </message>
     <message>
         <source>Contact Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Nous contacter</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Talk to us!&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Have a question?&lt;/p&gt;&lt;p&gt;Don&apos;t know how to use the product?&lt;/p&gt;&lt;p&gt;Want a new feature?&lt;/p&gt;&lt;p&gt;Think our product sucks?&lt;/p&gt;&lt;p&gt;Want to negotiate price?&lt;/p&gt;&lt;p&gt;&lt;b&gt;Tell us about that! Your opinion matters to us.&lt;/b&gt;&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Parlez-nous&#xa0;!&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Vous avez une question&#xa0;?&lt;/p&gt;&lt;p&gt;Vous ne savez pas comment utiliser le produit&#xa0;?&lt;/p&gt;&lt;p&gt;Vous souhaitez une nouvelle fonction&#xa0;?&lt;/p&gt;&lt;p&gt;Vous trouvez notre produit nul&#xa0;?&lt;/p&gt;&lt;p&gt;Vous voulez négocier le prix&#xa0;?&lt;/p&gt;&lt;p&gt;&lt;b&gt;Dites-le-nous&#xa0;! Votre avis compte pour nous.&lt;/b&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>increaseToolSize</source>
-        <translation type="unfinished"></translation>
+        <translation>Augmenter la taille de l’outil</translation>
     </message>
     <message>
         <source>Ctrl+Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Right</translation>
     </message>
     <message>
         <source>decreaseToolSize</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire la taille de l’outil</translation>
     </message>
     <message>
         <source>Ctrl+Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Left</translation>
     </message>
     <message>
         <source>increaseBrushIntensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Augmenter l’intensité du pinceau</translation>
     </message>
     <message>
         <source>Ctrl+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Up</translation>
     </message>
     <message>
         <source>decreaseBrushIntensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire l’intensité du pinceau</translation>
     </message>
     <message>
         <source>Ctrl+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Down</translation>
     </message>
     <message>
         <source>Transparency was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>La transparence a été perdue</translation>
     </message>
     <message>
         <source>You&apos;ve selected a transparent background color but saving as jpeg. Transparency of the color was lost. Please choose .png to save transparent backgrounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous avez choisi une couleur d’arrière-plan transparente, mais vous enregistrez au format JPEG. La transparence de la couleur a été perdue. Veuillez choisir .png pour enregistrer des arrière-plans transparents.</translation>
     </message>
     <message>
         <source>Ornevo cuts objects out of photographs.
 Made by the Ornevo developers, 2026.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo détoure des objets dans des photos.
+Réalisé par The Ornevo developers, 2026.</translation>
     </message>
     <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
     <message>
         <source>Ornevo Pro 2.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Ornevo Pro 2.5</translation>
     </message>
     <message>
         <source>More tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus d’outils</translation>
     </message>
     <message>
         <source>Isolating object</source>
-        <translation type="unfinished"></translation>
+        <translation>Détourage de l’objet</translation>
     </message>
     <message>
         <source>Displaying image</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage de l’image</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>Open Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une image</translation>
     </message>
     <message>
         <source>Image Files (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif);;All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers image (*.png *.jpg *.bmp *.jpeg *.tiff *.tif *.gif);;Tous les fichiers (*.*)</translation>
     </message>
     <message>
         <source>No file selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier sélectionné</translation>
     </message>
     <message>
         <source>Failed to read image</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire l’image</translation>
     </message>
     <message>
         <source>image opened</source>
-        <translation type="unfinished"></translation>
+        <translation>image ouverte</translation>
     </message>
     <message>
         <source>Image loaded. Preprocessing image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image chargée. Prétraitement de l’image.</translation>
     </message>
     <message>
         <source>Not enough memory for a preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante pour un aperçu</translation>
     </message>
     <message>
         <source>getting inversed mask</source>
-        <translation type="unfinished"></translation>
+        <translation>calcul du masque inversé</translation>
     </message>
     <message>
         <source>painting alpha channel</source>
-        <translation type="unfinished"></translation>
+        <translation>dessin de la couche alpha</translation>
     </message>
     <message>
         <source>painting alpha channel done, now feather</source>
-        <translation type="unfinished"></translation>
+        <translation>couche alpha dessinée, adoucissement du contour</translation>
     </message>
     <message>
         <source>feather done</source>
-        <translation type="unfinished"></translation>
+        <translation>contour adouci</translation>
     </message>
     <message>
         <source>Save file?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>You are going to overwrite your original file.
 Are you sure you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous êtes sur le point d’écraser votre fichier original.
+Voulez-vous vraiment continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier</translation>
     </message>
     <message>
         <source>JPG Files (*.jpg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers JPG (*.jpg)</translation>
     </message>
     <message>
         <source>Foreground marker size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du marqueur de premier plan&#xa0;: %1</translation>
     </message>
     <message>
         <source>Tool size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille de l’outil&#xa0;: %1</translation>
     </message>
     <message>
         <source>Background marker size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du marqueur d’arrière-plan&#xa0;: %1</translation>
     </message>
     <message>
         <source>Background brush size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du pinceau d’arrière-plan&#xa0;: %1</translation>
     </message>
     <message>
         <source>Foreground brush size is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du pinceau de premier plan&#xa0;: %1</translation>
     </message>
     <message>
         <source>Background brush intensity is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensité du pinceau d’arrière-plan&#xa0;: %1</translation>
     </message>
     <message>
         <source>Foreground brush intensity is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensité du pinceau de premier plan&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>OptionsDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Foreground Marker width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du marqueur de premier plan</translation>
     </message>
     <message>
         <source>Same size for all tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Même taille pour tous les outils</translation>
     </message>
     <message>
         <source>Background Marker width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du marqueur d’arrière-plan</translation>
     </message>
     <message>
         <source>Smooth Edges</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisser les contours</translation>
     </message>
     <message>
         <source>Smooth Edges kernel size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du noyau de lissage des contours</translation>
     </message>
     <message>
         <source>Eraser width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de la gomme</translation>
     </message>
     <message>
         <source>Mask opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité du masque</translation>
     </message>
     <message>
         <source>Foreground Brush width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du pinceau de premier plan</translation>
     </message>
     <message>
         <source>Foreground Brush Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensité du pinceau de premier plan</translation>
     </message>
     <message>
         <source>Background Brush width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du pinceau d’arrière-plan</translation>
     </message>
     <message>
         <source>Background Brush Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensité du pinceau d’arrière-plan</translation>
     </message>
     <message>
         <source>Blue Marker width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du marqueur bleu</translation>
     </message>
 </context>
 </TS>
