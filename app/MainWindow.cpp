@@ -63,6 +63,10 @@ void MainWindow::setUpActions()
     undoStack.setUndoLimit(undoLimit);
     QAction *undo = undoStack.createUndoAction(this);
     undo->setShortcut(QKeySequence::Undo);
+    // The stack words it once and for all; in another language it is to be worded anew.
+    connect(&undoStack, &QUndoStack::undoTextChanged, undo, [undo] {
+        undo->setText(QCoreApplication::translate("QUndoStack", "Undo", "Default text for undo action"));
+    });
     form->menuActions->addAction(undo);
     // Redo has no place in the menus; its keys work all the same.
     QAction *redo = undoStack.createRedoAction(this);

@@ -17,8 +17,8 @@ QStringList languages();
 /// QLocale::uiLanguages() gives them, the preferred language first.
 QString languageFor(const QStringList &preferred);
 
-/// Makes the running application speak that language, its dialogs by Qt included; nothing is English. What was
-/// installed before goes. Windows that are open hear of it by QEvent::LanguageChange.
+/// Makes the running application speak that language, its dialogs by Qt included; nothing is English. What
+/// was installed before goes. Windows that are open hear of it by QEvent::LanguageChange.
 void install(const QString &language);
 
 /// Installs the language of the desktop.

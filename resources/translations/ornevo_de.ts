@@ -507,4 +507,12 @@ Möchten Sie wirklich fortfahren?</translation>
         <translation>Breite des blauen Markers</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>Rückgängig</translation>
+    </message>
+</context>
 </TS>

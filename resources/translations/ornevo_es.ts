@@ -507,4 +507,12 @@ Are you sure you want to continue?</source>
         <translation>Anchura del marcador azul</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>Deshacer</translation>
+    </message>
+</context>
 </TS>

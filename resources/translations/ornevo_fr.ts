@@ -507,4 +507,12 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <translation>Largeur du marqueur bleu</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>Annuler</translation>
+    </message>
+</context>
 </TS>

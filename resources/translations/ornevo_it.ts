@@ -507,4 +507,12 @@ Continuare?</translation>
         <translation>Larghezza marcatore blu</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>Annulla</translation>
+    </message>
+</context>
 </TS>

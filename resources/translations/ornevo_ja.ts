@@ -507,4 +507,12 @@ Are you sure you want to continue?</source>
         <translation>青マーカーの幅</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>元に戻す</translation>
+    </message>
+</context>
 </TS>

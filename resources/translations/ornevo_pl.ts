@@ -507,4 +507,12 @@ Czy na pewno kontynuować?</translation>
         <translation>Szerokość niebieskiego znacznika</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>Cofnij</translation>
+    </message>
+</context>
 </TS>

@@ -507,4 +507,12 @@ Tem certeza de que deseja continuar?</translation>
         <translation>Largura do marcador azul</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>Desfazer</translation>
+    </message>
+</context>
 </TS>

@@ -507,4 +507,12 @@ Are you sure you want to continue?</source>
         <translation>蓝色标记笔宽度</translation>
     </message>
 </context>
+<context>
+    <name>QUndoStack</name>
+    <message>
+        <source>Undo</source>
+        <comment>Default text for undo action</comment>
+        <translation>撤销</translation>
+    </message>
+</context>
 </TS>
