@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "app/dialogs/BackgroundDialog.h"
 #include "cutout/PictureFile.h"
 
@@ -21,6 +22,8 @@ void MainWindow::on_actionSelect_Background_triggered()
     dialog.exec();
     if (!dialog.accepted)
         return;
+    const WaitCursor busy;
+    repaintAfterDialog();
     if (dialog.useColor) {
         backgroundColor = dialog.color;
         backgroundImage = QImage();

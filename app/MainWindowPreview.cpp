@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
 #include "cutout/BackgroundLayer.h"
@@ -23,41 +24,27 @@ constexpr double sizeToSigma = 5.0;
 
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
+    const WaitCursor busy;
     if (checked) {
         updatemask();
         setEditingActionsEnabled(false);
-        form->graphicsView->SetTool(ToolNone);
-        form->actionBackground_Brush->setChecked(false);
-        form->actionForeground_Brush->setChecked(false);
-        form->actionHandTool->setChecked(false);
+        putToolsDown(false);
         previewImage = QImage();
         updatepreview();
         form->graphicsView->setScene(&previewScene);
     } else {
         setEditingActionsEnabled(true);
         form->graphicsView->setScene(&imageScene);
-        form->graphicsView->SetTool(ToolNone);
-        form->actionKeep_arker->setChecked(false);
-        form->action_Remove_Marker->setChecked(false);
-        form->actionEraser->setChecked(false);
+        putToolsDown(true);
     }
-}
-
-void MainWindow::setEditingActionsEnabled(bool editing)
-{
-    for (QAction *action :
-         {form->actionMask, form->actionKeep_arker, form->action_Remove_Marker, form->actionEraser})
-        action->setEnabled(editing);
-    for (QAction *action :
-         {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool,
-          form->actionSelect_Background, form->actionBackgroundZoomMinus, form->actionBackgroundZoomPlus})
-        action->setEnabled(!editing);
 }
 
 void MainWindow::updatepreview()
 {
+    const WaitCursor busy;
     updatepreviewmask();
-    if (maskImage.isNull() && !workingImage.isNull()) { // without a mask all of the photo would be shown
+    // Without a mask all of the photo would be shown, or nothing of it.
+    if (memoryRanOut || (maskImage.isNull() && !workingImage.isNull())) {
         previewScene.clear();
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
@@ -72,10 +59,8 @@ void MainWindow::updatepreviewmask()
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
     QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
-    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : QImage();
-    if (maskImage.isNull())
-        maskImage = sharp; // not to be smoothed, or no room for that
-    else
+    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : sharp;
+    if (smoothEdges && !maskImage.isNull())
         blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
 }
 
@@ -85,7 +70,7 @@ void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
         blurFourChannels(*src, *dst, size, sigma,
                          [this](int percent) { form->progressBar->setValue(percent); });
     } catch (const std::bad_alloc &) {
-        *dst = src->copy(); // short of memory, the border stays hard; the program goes on
+        *dst = QImage(); // a hard border for a soft one would go unnoticed
     }
 }
 
@@ -94,7 +79,15 @@ void MainWindow::applypreviewmask()
     previewScene.clear(); // first, so that its pictures and the new ones are never there together
     QPixmap background;
     QPixmap object;
-    applypreviewmasktopixmap(&background, &object);
+    try {
+        applypreviewmasktopixmap(&background, &object);
+    } catch (const std::bad_alloc &) { // what could not be made is null
+    }
+    const bool photoShown = topmostPicture() != nullptr && !workingImage.isNull();
+    if (photoShown && (background.isNull() || object.isNull())) { // nothing there, nothing to export
+        form->statusBar->showMessage(tr("Not enough memory for a preview"));
+        return;
+    }
     backgroundItem = new PictureItem(background);
     previewItem = new PictureItem(object);
     previewScene.addItem(backgroundItem);

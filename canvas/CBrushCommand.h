@@ -3,20 +3,20 @@
 
 #pragma once
 
+#include "canvas/UndoSnapshot.h"
+
 #include <QGraphicsPixmapItem>
 #include <QImage>
 #include <QPixmap>
 #include <QRect>
-#include <QTemporaryFile>
 #include <QUndoCommand>
 
 #include <functional>
 
-/// Undo of one batch of brush dabs: keeps the pixels of the box around them from before and after.
-///
-/// With the first redo() the pixels move into a temporary file, so that a long history costs disk and not
-/// memory; where no file can be written they stay in memory. The file goes with the command. The first
-/// redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the picture already.
+/// Undo of one batch of brush dabs: keeps the pixels of the box around them as they were before, and once
+/// they are undone as they were after. With the first redo() they move into a temporary file, which goes with
+/// the command. The first redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the
+/// picture already.
 class CBrushCommand : public QUndoCommand
 {
 public:
@@ -44,15 +44,12 @@ public:
     void redo() override;
 
 private:
-    void moveToDisk();
-    void loadFromDisk();
-    void putBack(const QImage &pixels);
+    void swapPixels();
 
     Show m_show;
     std::function<void()> m_showFirst; ///< for the first redo(); empty afterwards
     QRect m_area;
     QImage *m_image;
-    QImage m_before;
-    QImage m_after;
-    QTemporaryFile m_store;
+    UndoSnapshot m_snapshot;
+    bool m_holdsBefore = true; ///< what the snapshot is of
 };

@@ -345,7 +345,7 @@ void PreviewTest::withoutAPicture()
     for (const char *name : {"actionForeground_Brush", "actionBackground_Brush", "actionHandTool"}) {
         t.trigger(name);
         t.mouse.stroke({QPoint(50, 50), QPoint(60, 60), QPoint(70, 70)});
-        QTest::qWait(60);
+        QTRY_VERIFY(!t.probe.brushTimer().isActive());
     }
     t.trigger("actionBackgroundZoomPlus");
     t.trigger("actionPreview");
@@ -469,7 +469,7 @@ void PreviewTest::brushBatchAfterThePreviewWent()
     t.mouse.stroke({t.at(30, 20), t.at(32, 20)});
     QVERIFY(!t.probe.pendingBrushRects().isEmpty());
     t.openPicture(file()); // before the batch is due
-    QTest::qWait(80);
+    QTRY_VERIFY(!t.probe.brushTimer().isActive());
     QVERIFY(t.probe.pendingBrushRects().isEmpty());
     QCOMPARE(t.probe.undoStack().count(), 0);
     QVERIFY(t.probe.previewImage().isNull());
@@ -565,7 +565,7 @@ void PreviewTest::switchingInAnyOrder()
             QEvent leave(QEvent::Leave);
             QApplication::sendEvent(&t.view, &leave);
         } else if (step == "wait") {
-            QTest::qWait(1);
+            QCoreApplication::processEvents();
         } else {
             t.trigger(step.toLatin1());
         }

@@ -24,6 +24,18 @@ constexpr QSize pictureSize(900, 700);
 // is a hundredth of a pixel off after the 640 of the view, which makes so much from black to white.
 constexpr int roundingOfParts = 3;
 
+/// What stands on the screen now, without anything being painted for it.
+QImage shownBy(QWidget &widget)
+{
+    return widget.screen()->grabWindow(widget.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// What would stand there if everything were painted.
+QImage wantedBy(QWidget &widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 /// A background and a cut-out over it in a window.
 struct ShownPicture
 {
@@ -47,19 +59,14 @@ struct ShownPicture
     {
         if (!QTest::qWaitForWindowExposed(&view))
             return false;
-        QTest::qWait(20);
+        if (!QTest::qWaitFor([this] { return onScreen() == expected(); }))
+            return false;
         painted.take();
         return true;
     }
 
-    /// What stands on the screen now, without anything being painted for it.
-    QImage onScreen() const
-    {
-        return view.screen()->grabWindow(view.winId()).toImage().convertToFormat(QImage::Format_RGB32);
-    }
-
-    /// What would stand there if everything were painted.
-    QImage expected() { return view.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    QImage onScreen() { return shownBy(view); }
+    QImage expected() { return wantedBy(view); }
 
     void whiten(const QRect &area)
     {
@@ -117,14 +124,13 @@ private slots:
 
         shown.whiten(area);
         updatePixmap(*shown.item, shown.image, area);
-        QTest::qWait(30);
+        QTRY_VERIFY(shown.onScreen() != before);
 
         const QRect seen = shown.view.mapFromScene(QRectF(area.translated(position))).boundingRect();
         const QRect painted = shown.painted.take().boundingRect();
         QVERIFY(painted.contains(seen.intersected(shown.view.viewport()->rect())));
         QVERIFY2(seen.adjusted(-10, -10, 10, 10).contains(painted),
                  qPrintable(QStringLiteral("%1 x %2 repainted").arg(painted.width()).arg(painted.height())));
-        QVERIFY(shown.onScreen() != before);
         QVERIFY(largestDifference(shown.onScreen(), shown.expected()) <= roundingOfParts);
     }
 
@@ -141,16 +147,14 @@ private slots:
         QPixmap after = shown.item->pixmap();
         QUndoStack stack;
         stack.push(new CBrushCommand(shown.item, area, &after, &shown.image, old));
-        QTest::qWait(30);
+        QTRY_VERIFY(shown.onScreen() != before);
         const QRect painted = shown.painted.take().boundingRect();
         QVERIFY(!painted.isEmpty());
         QVERIFY(painted.width() < 60 && painted.height() < 60);
-        QVERIFY(shown.onScreen() != before);
 
         stack.undo();
-        QTest::qWait(30);
+        QTRY_VERIFY(largestDifference(shown.onScreen(), before) <= roundingOfParts);
         QVERIFY(!shown.painted.take().isEmpty());
-        QVERIFY(largestDifference(shown.onScreen(), before) <= roundingOfParts);
     }
 
     /// What else was due when the change came is painted all the same.
@@ -162,14 +166,12 @@ private slots:
         const QRect area(100, 100, 10, 10);
         shown.whiten(area);
         updatePixmap(*shown.item, shown.image, area);
-        QTest::qWait(30);
-        QCOMPARE(shown.onScreen(), shown.expected());
+        QTRY_COMPARE(shown.onScreen(), shown.expected());
 
         shown.whiten(area.translated(40, 0));
         updatePixmap(*shown.item, shown.image, area.translated(40, 0));
         shown.item->setOpacity(0.5);
-        QTest::qWait(30);
-        QCOMPARE(shown.onScreen(), shown.expected());
+        QTRY_COMPARE(shown.onScreen(), shown.expected());
     }
 
     /// Whoever presses a button asks every item at that place for its shape.
@@ -197,15 +199,13 @@ private slots:
         other.show();
         QVERIFY(shown.waitUntilShown());
         QVERIFY(QTest::qWaitForWindowExposed(&other));
-        QTest::qWait(20);
+        QTRY_COMPARE(shownBy(other), wantedBy(other));
         const QRect area(300, 300, 50, 50);
         shown.whiten(area);
         updatePixmap(*shown.item, shown.image, area);
-        QTest::qWait(30);
+        QTRY_COMPARE(shownBy(other), wantedBy(other));
         QCOMPARE(other.viewportUpdateMode(), QGraphicsView::FullViewportUpdate);
-        QCOMPARE(other.screen()->grabWindow(other.winId()).toImage().convertToFormat(QImage::Format_RGB32),
-                 other.grab().toImage().convertToFormat(QImage::Format_RGB32));
-        QCOMPARE(shown.onScreen(), shown.expected());
+        QTRY_COMPARE(shown.onScreen(), shown.expected());
     }
 };
 
