@@ -126,7 +126,7 @@ private:
     void letTabIntoTheToolBar();
     void connectCanvas();
     void repaintAfterDialog();
-    void saveAndReopen();
+    void saveAndReopen(const QString &path);
     void chooseTool(DrawingTools tool, bool checked);
     void setEditingActionsEnabled(bool editing);
     void putToolsDown(bool editing);

@@ -28,12 +28,13 @@ void MainWindow::save(const QString &path)
     cutout::writePicture(flat, path, "JPG");
 }
 
-void MainWindow::saveAndReopen()
+void MainWindow::saveAndReopen(const QString &path)
 {
     const WaitCursor busy;
     repaintAfterDialog();
     form->actionPreview->setChecked(false); // as opening does: the cut-out goes with the photo
-    save(currentFile);
+    save(path);
+    currentFile = path;
     open();
 }
 
@@ -47,7 +48,7 @@ void MainWindow::on_actionSave_triggered()
         if (answer != QMessageBox::Yes)
             return;
     }
-    saveAndReopen();
+    saveAndReopen(currentFile);
 }
 
 void MainWindow::on_actionSave_As_triggered()
@@ -58,7 +59,6 @@ void MainWindow::on_actionSave_As_triggered()
         form->statusBar->showMessage(tr("No file selected"));
         return;
     }
-    currentFile = name;
-    saveAndReopen();
+    saveAndReopen(name);
     isOriginalFile = false;
 }
