@@ -45,7 +45,8 @@ void MainWindow::on_actionBackgroundZoomMinus_triggered()
 
 void MainWindow::scaleBackground(double factor)
 {
-    if (backgroundImage.isNull() || backgroundItem == nullptr)
+    if (backgroundImage.isNull() || backgroundItem == nullptr || previewItem == nullptr)
         return;
     backgroundItem->setTransform(QTransform::fromScale(factor, factor), true);
+    framePreview();
 }

@@ -8,11 +8,14 @@
 #include "cutout/ExportComposition.h"
 #include "cutout/PictureFile.h"
 #include "imaging/Truncation.h"
+#include "ui_MainWindow.h"
 
 #include <QDebug>
 #include <QFileInfo>
 #include <QGraphicsPixmapItem>
 #include <QMessageBox>
+
+#include <new>
 
 namespace {
 
@@ -61,17 +64,21 @@ bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSi
     repaintAfterDialog();
     if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
         return false;
-    const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
-    cutout::writePicture(cutout::composeExport(layers, size).toImage(), fileName, format);
+    try {
+        const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset,
+                                          extentOf(*backgroundItem)};
+        cutout::writePicture(cutout::composeExport(layers, size).toImage(), fileName, format);
+    } catch (const std::bad_alloc &) {
+        form->statusBar->showMessage(tr("Not enough memory to export"));
+        return false;
+    }
     return true;
 }
 
 QPixmap MainWindow::exportCanvas() const
 {
     if (!backgroundImage.isNull())
-        return QPixmap::fromImage(backgroundImage);
+        return cutout::asPixmap(backgroundImage);
     // The colour alone: the chessboard of the preview only stands for what is transparent.
-    QImage canvas(backgroundItem->pixmap().size(), QImage::Format_ARGB32);
-    canvas.fill(backgroundColor);
-    return QPixmap::fromImage(std::move(canvas));
+    return cutout::colourCanvas(backgroundItem->pixmap().size(), backgroundColor);
 }

@@ -7,6 +7,7 @@
 #include "app/WaitCursor.h"
 #include "canvas/MarkerDabs.h"
 #include "canvas/PictureItem.h"
+#include "canvas/SceneLayers.h"
 #include "cutout/IndexPicture.h"
 #include "segmentation/FrWatershed.h"
 #include "ui_MainWindow.h"
@@ -27,6 +28,7 @@ void MainWindow::updatemask()
 {
     delete maskItem.get(); // takes it off the scene as well
     maskItem = nullptr;
+    memoryRanOut = false;
     if (topmostPicture() == nullptr)
         return;
 
@@ -39,7 +41,8 @@ void MainWindow::updatemask()
         markers::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
         FrWatershed(&workingImage, seeds.keep, seeds.remove, outmask, edgeMap.get(), form->progressBar);
     } catch (const std::bad_alloc &) {
-        outmask = {}; // short of memory, the picture has no mask; the program goes on
+        outmask = {}; // the picture has no mask; the program goes on
+        memoryRanOut = true;
     }
     qWarning() << "outmask size after watd is" << outmask.size();
 }
@@ -49,12 +52,22 @@ void MainWindow::on_actionMask_triggered()
     constexpr QRgb green = qRgb(0, 255, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
     const WaitCursor busy;
+    const QString noMemory = tr("Not enough memory for a mask");
     updatemask();
+    if (memoryRanOut) {
+        form->statusBar->showMessage(noMemory);
+        return;
+    }
     form->statusBar->showMessage(tr("Displaying image"));
-    const QImage overlay = cutout::paintIndices(workingImage.size(), outmask, green, white);
-    maskItem = new PictureItem(QPixmap::fromImage(overlay));
+    const QPixmap overlay =
+        QPixmap::fromImage(cutout::paintIndices(workingImage.size(), outmask, green, white));
+    if (overlay.isNull() && !workingImage.isNull()) {
+        form->statusBar->showMessage(noMemory);
+        return;
+    }
+    maskItem = new PictureItem(overlay);
     imageScene.addItem(maskItem);
-    maskItem->setZValue(markers::maskOverlayZ);
+    maskItem->setZValue(layers::maskOverlayZ);
     maskItem->setOpacity(maskOpacity);
     maskItem->setVisible(true);
     form->statusBar->showMessage(tr("Ready"));

@@ -82,6 +82,9 @@ void MainWindow::open()
     imagePixmap = pixmap;
     imageScene.addItem(new PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
+    // The canvas scales with its size: scroll bars that come later, with the first zoom, would scale it too.
+    form->graphicsView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    form->graphicsView->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     form->graphicsView->setScene(&imageScene);
     form->graphicsView->fitInView(imageScene.sceneRect(), Qt::KeepAspectRatio);
     form->graphicsView->setCacheMode(QGraphicsView::CacheBackground);
@@ -94,16 +97,18 @@ void MainWindow::open()
         edgeMap = std::move(edges);
         colorsobel();
     }
-    form->statusBar->showMessage(tr("Ready"));
+    form->statusBar->showMessage(memoryRanOut ? tr("Not enough memory to find the edges") : tr("Ready"));
 }
 
 void MainWindow::colorsobel()
 {
+    memoryRanOut = false;
     if (edgeMap == nullptr)
         return;
     try {
         computeEdgeMap(workingImage, edgeMap.get());
     } catch (const std::bad_alloc &) { // short of memory, there are no edges; differences of colour remain
+        memoryRanOut = true;
         std::fill_n(edgeMap.get(), workingImage.sizeInBytes() / 4, std::uint8_t{0});
     }
 }
