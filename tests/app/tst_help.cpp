@@ -343,6 +343,7 @@ void TestHelp::aboutBoxes()
     QCOMPARE(parent, window.get());
     QCOMPARE(text.split('\n').size(), 2);
     QVERIFY(text.contains("Ornevo developers"));
+    QVERIFY(text.contains("https://ornevo.example"));
 }
 
 void TestHelp::contact()

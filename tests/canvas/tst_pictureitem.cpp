@@ -4,15 +4,17 @@
 #include "canvas/CBrushCommand.h"
 #include "canvas/PictureItem.h"
 #include "tests/reference/TestPictures.h"
+#include "tests/support/PaintedArea.h"
 #include "tests/support/TestMain.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsView>
-#include <QPaintEvent>
 #include <QScreen>
 #include <QUndoStack>
 
 #include <cstdlib>
+
+using testsupport::PaintedArea;
 
 namespace {
 
@@ -21,23 +23,6 @@ constexpr QSize pictureSize(900, 700);
 // Qt's drawing of a scaled picture counts in 1 / 65536 of a pixel from where it begins: begun elsewhere, it
 // is a hundredth of a pixel off after the 640 of the view, which makes so much from black to white.
 constexpr int roundingOfParts = 3;
-
-/// What of a widget was painted.
-class PaintedArea : public QObject
-{
-public:
-    explicit PaintedArea(QWidget *widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            m_region += static_cast<QPaintEvent *>(event)->region();
-        return false;
-    }
-    QRegion take() { return std::exchange(m_region, QRegion()); }
-
-private:
-    QRegion m_region;
-};
 
 /// What stands on the screen now, without anything being painted for it.
 QImage shownBy(QWidget &widget)
@@ -245,6 +230,20 @@ private slots:
         updatePixmap(*shown.item, shown.image, area.translated(40, 0));
         shown.item->setOpacity(0.5);
         QTRY_COMPARE(shown.onScreen(), shown.expected());
+    }
+
+    /// Whoever presses a button asks every item at that place for its shape.
+    void shapeIsNotMadeFromThePixels()
+    {
+        QImage holes(64, 48, QImage::Format_ARGB32_Premultiplied);
+        holes.fill(Qt::transparent);
+        for (int x = 0; x < holes.width(); x += 2)
+            holes.setPixel(x, 20, 0xFFFF0000);
+        const PictureItem item(QPixmap::fromImage(holes));
+        QPainterPath all;
+        all.addRect(QRectF(holes.rect()));
+        QCOMPARE(item.shape(), all);
+        QVERIFY(item.contains(QPointF(31, 5)));
     }
 
     void everyViewOfTheSceneFollows()
