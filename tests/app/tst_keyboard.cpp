@@ -198,7 +198,12 @@ void KeyboardTest::focusCanBeSeen()
     QWidget &button = buttonOf(t, action);
     driver::settle();
     const QImage before = button.grab().toImage();
+    const auto *flat = qobject_cast<const QToolButton *>(&button);
+    QVERIFY(flat->autoRaise()); // a frame only where the pointer or the focus is
     QVERIFY(tabTo(t, action));
+    for (QAction *other : toolBar(t).actions())
+        if (const auto *beside = qobject_cast<QToolButton *>(toolBar(t).widgetForAction(other)))
+            QCOMPARE(beside->autoRaise(), beside != flat);
     const QImage focused = button.grab().toImage();
     QCOMPARE(focused.size(), before.size());
     int changed = 0;
