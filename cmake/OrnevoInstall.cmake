@@ -36,6 +36,11 @@ if(NOT APPLE AND NOT WIN32)
     ornevo_compress(${files}/ornevo.1 ornevo.1.gz)
     install(FILES ${PROJECT_BINARY_DIR}/ornevo.1.gz
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ornevo)
+    foreach(language de es fr it ja pl pt_BR zh_CN)
+        ornevo_compress(${files}/ornevo.${language}.1 ornevo.${language}.1.gz)
+        install(FILES ${PROJECT_BINARY_DIR}/ornevo.${language}.1.gz
+            DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}/man1 RENAME ornevo.1.gz COMPONENT ornevo)
+    endforeach()
     if(ORNEVO_DEBIAN)
         ornevo_compress(${files}/changelog.Debian changelog.Debian.gz)
         ornevo_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
