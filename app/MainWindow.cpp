@@ -77,6 +77,8 @@ void MainWindow::letTabIntoTheToolBar()
     QList<QWidget *> buttons;
     for (QAction *action : form->mainToolBar->actions())
         buttons << form->mainToolBar->widgetForAction(action);
+    // Not every Qt tells the screen reader the title of a tool bar.
+    form->mainToolBar->setAccessibleName(form->mainToolBar->windowTitle());
     // Qt gives this one no name for the screen reader.
     if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button")) {
         overflow->setAccessibleName(tr("More tools"));

@@ -4,7 +4,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev l
 # qt6-image-formats-plugins reads TIFF; the fonts are for machines that have none yet.
 run_packages=(qt6-image-formats-plugins fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
-check_packages=(clang libclang-rt-14-dev clang-format clang-tidy git)
+check_packages=(clang libclang-rt-dev clang-format clang-tidy git)
 # For scripts/docs, scripts/package and scripts/check-package.
 package_packages=(doxygen dpkg-dev gzip man-db lintian desktop-file-utils appstream mmdebstrap xvfb x11-utils)
 
