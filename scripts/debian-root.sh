@@ -21,8 +21,8 @@ make_root() {
     as_root mkdir -p "$root"
     # A root of last week installs most of its packages twice.
     if [ -z "$(find "$keep" -mtime -7 2> /dev/null)" ]; then
-        as_root mmdebstrap --quiet --variant=minbase --include=git,ca-certificates "$suite" "$keep.new"
-        as_root mv "$keep.new" "$keep"
+        as_root mmdebstrap --quiet --variant=minbase --include=git,ca-certificates "$suite" "${keep%.tar}-new.tar"
+        as_root mv "${keep%.tar}-new.tar" "$keep"
     fi
     as_root tar -C "$root" -xf "$keep"
     as_root cp -L /etc/resolv.conf "$root/etc/resolv.conf"
@@ -31,11 +31,11 @@ make_root() {
 }
 
 # in_root SUITE FOLDER COMMAND ...: as root of that Debian, with processes and mounts of its own, which end with the
-# command. Names of variables in ROOT_ENV are handed on, everything else in the environment is not.
+# command. Of the environment it gets ORNEVO_WERROR and ccache's settings.
 in_root() {
     local suite=$1 root=$2 name handed=()
     shift 2
-    for name in ${ROOT_ENV:-}; do
+    for name in ORNEVO_WERROR CCACHE_BASEDIR CCACHE_NOHASHDIR; do
         [ -z "${!name:-}" ] || handed+=("$name=${!name}")
     done
     # shellcheck disable=SC2016 # the inner shell's own parameters
@@ -49,14 +49,13 @@ in_root() {
         mount --bind "$packages" "$root/var/cache/apt/archives"
         mount --bind "$objects" "$root/var/cache/ccache"
         exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
-            DEBIAN_FRONTEND=noninteractive CCACHE_DIR=/var/cache/ccache CCACHE_COMPILERCHECK=content "$@"' \
+            DEBIAN_FRONTEND=noninteractive CCACHE_DIR=/var/cache/ccache "$@"' \
         in_root "$root" "$ORNEVO_CACHE/apt-$suite" "$ORNEVO_CCACHE" "${handed[@]}" "$@"
 }
 
-# copy_tree FOLDER: the sources as they are now, with what was not committed yet and without what was built.
+# copy_tree FOLDER: the sources as they are now go to the Debian in FOLDER, under the same path as here, so that ccache
+# knows what was compiled here.
 copy_tree() {
-    as_root mkdir -p "$1"
-    git ls-files -z --cached --others --exclude-standard | while IFS= read -r -d '' file; do
-        [ ! -e "$file" ] || printf '%s\0' "$file"
-    done | tar --null --files-from=- -cf - | as_root tar -C "$1" --no-same-owner -xf -
+    as_root mkdir -p "$1$PWD"
+    source_files | tar --null --files-from=- -cf - | as_root tar -C "$1$PWD" --no-same-owner -xf -
 }

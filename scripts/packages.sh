@@ -5,8 +5,9 @@ build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev l
 run_packages=(qt6-image-formats-plugins fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
 check_packages=(clang libclang-rt-dev clang-format clang-tidy git)
-# For scripts/docs, scripts/package and scripts/check-package.
-package_packages=(doxygen dpkg-dev gzip man-db lintian desktop-file-utils appstream mmdebstrap xvfb x11-utils)
+debian_packages=(debhelper dpkg-dev git)
+# For scripts/check-package.
+package_packages=(man-db lintian desktop-file-utils appstream mmdebstrap xvfb x11-utils)
 
 say() { printf '== %s\n' "$*"; }
 
@@ -35,4 +36,12 @@ build_preset() {
     say "configuring and building: $1"
     cmake --preset "$1"
     cmake --build --preset "$1"
+}
+
+# Names, each followed by a zero byte, of all source files: with what was not committed yet, without what was built.
+source_files() {
+    local file
+    git ls-files -z --cached --others --exclude-standard | while IFS= read -r -d '' file; do
+        [ ! -e "$file" ] || printf '%s\0' "$file"
+    done
 }
