@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "canvas/DrawingTools.h"
 #include "canvas/ItemPointer.h"
 #include "imaging/LargeMemory.h"
 
@@ -113,21 +114,35 @@ private slots:
 private:
     friend class MainWindowProbe; // the tests' look at the state below
 
+    // In ToolActions.h.
+    struct ToolSetting;
+    struct ToolAction;
+    struct ToolTable;
+
     void setUpProgress();
-    void setUpActions();
+    void setUpHint();
+    void setUpTools();
+    void setUpUndo();
     void letTabIntoTheToolBar();
     void connectCanvas();
-    void chooseTool(int tool, bool checked);
+    void repaintAfterDialog();
+    bool saveAndReopen(const QString &path);
+    void chooseTool(DrawingTools tool, bool checked);
     void setEditingActionsEnabled(bool editing);
+    void putToolsDown(bool editing);
     [[nodiscard]] QString lastDirectory() const;
     [[nodiscard]] QGraphicsPixmapItem *topmostPicture() const;
     void stepToolSize(int step);
     void stepBrushIntensity(int step);
-    void changeToolSize(unsigned char &size, const QString &message, const char *key, int step);
+    [[nodiscard]] const ToolAction *toolInUse(ToolSetting ToolAction::*setting) const;
+    void changeByte(const ToolSetting &setting, const QString &message, int step);
     void applyBrush(const QList<QRect> &rects, int alphaChange);
-    void showChangeByOlderEntry(int undoIndex);
+    void showCutOut(const QRect &area);
+    void framePreview();
     void scaleBackground(double factor);
+    bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
     [[nodiscard]] QPixmap exportCanvas() const;
+    bool writeScene(const QString &path);
 
     std::unique_ptr<Ui_MainWindow> form;
     QSettings settings;
@@ -140,6 +155,7 @@ private:
     QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
     LargeArray<unsigned char> edgeMap;         ///< of workingImage, a byte a pixel
     ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
+    bool memoryRanOut = false;                 ///< in the last finding of edges or of the mask
     QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order
     QPoint previewOffset;                      ///< where the object lies on the preview, in pixels
     ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's
@@ -150,7 +166,6 @@ private:
     bool skipLastRect = true; ///< false: lastBrushRect is left out of the next batch; never in this program
     QList<QRect> pendingBrushRects; ///< the batch that is being collected
     QUndoStack undoStack;
-    int entriesOlderThanPreviewItem = 0; ///< of undoStack; their own item is gone, previewItem must follow
     QPixmap imagePixmap;
     // Bytes, as the settings hold them; for units see SettingsKeys.h. The view has sizes of its own.
     unsigned char keepMarkerSize = 0;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/MainWindow.h"
+#include "app/SettingsFile.h"
+#include "canvas/UndoSnapshot.h"
 
 #include <QApplication>
 
@@ -11,6 +13,8 @@ int main(int argc, char *argv[])
     // These two words scope the settings store.
     QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
     QApplication::setOrganizationName("Tirelo software");
+    avoidSpecialSettingsFiles();
+    removeAbandonedSnapshots();
     MainWindow window(nullptr);
     QObject::connect(&window, SIGNAL(mwquit()), &application, SLOT(quit()));
     window.show();

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "canvas/MarkerDabs.h"
 #include "canvas/ZelGraphicsView.h"
 #include "imaging/Truncation.h"
 
@@ -56,10 +55,10 @@ void ZelGraphicsView::showBrushOutline(const QRect &square)
         return;
     }
     if (brushOutline == nullptr) {
-        brushOutline = scene()->addEllipse(square);
-        brushOutline->setZValue(markers::brushOutlineZ);
+        brushOutline = new BrushOutline;
+        scene()->addItem(brushOutline);
     }
-    brushOutline->setRect(square);
+    brushOutline->showAt(square, pixelInScene());
 }
 
 void ZelGraphicsView::removeBrushOutline()
