@@ -1,6 +1,8 @@
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libhwy-dev)
+# For core/ and its tests alone, which need no Qt.
+core_packages=(g++ cmake ninja-build ccache libhwy-dev libgtest-dev)
 # qt6-image-formats-plugins reads TIFF; the fonts are for machines that have none yet.
 run_packages=(qt6-image-formats-plugins fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
