@@ -10,6 +10,11 @@ set(icons ${PROJECT_SOURCE_DIR}/resources/icons)
 install(TARGETS ornevo
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ornevo
     BUNDLE DESTINATION . COMPONENT ornevo)
+# Where Qt is not a part of the system, it goes along.
+if(APPLE OR WIN32)
+    qt_generate_deploy_app_script(TARGET ornevo FILENAME_VARIABLE deploy_script NO_UNSUPPORTED_PLATFORM_ERROR)
+    install(SCRIPT ${deploy_script} COMPONENT ornevo)
+endif()
 
 if(NOT APPLE AND NOT WIN32)
     install(FILES ${files}/ornevo.desktop
