@@ -65,6 +65,10 @@ void MainWindow::setUpUndo()
     undoStack.setUndoLimit(undoLimit);
     QAction *undo = undoStack.createUndoAction(this);
     undo->setShortcut(QKeySequence::Undo);
+    // The stack words it once and for all; in another language it is to be worded anew.
+    connect(&undoStack, &QUndoStack::undoTextChanged, undo, [undo] {
+        undo->setText(QCoreApplication::translate("QUndoStack", "Undo", "Default text for undo action"));
+    });
     form->menuActions->addAction(undo);
     // Redo has no place in the menus; its keys work all the same.
     QAction *redo = undoStack.createRedoAction(this);
@@ -79,13 +83,9 @@ void MainWindow::letTabIntoTheToolBar()
     QList<QWidget *> buttons;
     for (QAction *action : form->mainToolBar->actions())
         buttons << form->mainToolBar->widgetForAction(action);
-    // Not every Qt tells the screen reader the title of a tool bar.
-    form->mainToolBar->setAccessibleName(form->mainToolBar->windowTitle());
-    // Qt gives this one no name for the screen reader.
-    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button")) {
-        overflow->setAccessibleName(tr("More tools"));
+    nameToolBar();
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
         buttons << overflow;
-    }
     QWidget *previous = form->graphicsView;
     for (QWidget *button : buttons) {
         button->setFocusPolicy(Qt::TabFocus);

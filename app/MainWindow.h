@@ -72,6 +72,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void on_actionTestMenu_triggered();
@@ -123,6 +124,8 @@ private:
     void setUpHint();
     void setUpTools();
     void setUpUndo();
+    void retranslate();
+    void nameToolBar();
     void letTabIntoTheToolBar();
     void connectCanvas();
     void repaintAfterDialog();

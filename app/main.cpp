@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 #include "app/SettingsFile.h"
+#include "app/Translations.h"
 #include "canvas/UndoSnapshot.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName("Tirelo software");
     avoidSpecialSettingsFiles();
     removeAbandonedSnapshots();
+    translations::installForDesktop();
     MainWindow window(nullptr);
     QObject::connect(&window, SIGNAL(mwquit()), &application, SLOT(quit()));
     window.show();

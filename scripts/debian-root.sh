@@ -16,7 +16,7 @@ suite_of() {
 # make_root SUITE FOLDER: a bare Debian; besides what is essential it has git and the certificates that it needs.
 make_root() {
     local suite=$1 root=$2 keep=$ORNEVO_CACHE/$1.tar
-    mkdir -p "$ORNEVO_CACHE/apt-$suite/partial" "$ORNEVO_CCACHE"
+    mkdir -p "$ORNEVO_CACHE"
     as_root rm -rf "$root"
     as_root mkdir -p "$root"
     # A root of last week installs most of its packages twice.
@@ -35,6 +35,7 @@ make_root() {
 in_root() {
     local suite=$1 root=$2 name handed=()
     shift 2
+    mkdir -p "$ORNEVO_CACHE/apt-$suite/partial" "$ORNEVO_CCACHE"
     for name in ORNEVO_WERROR CCACHE_BASEDIR CCACHE_NOHASHDIR; do
         [ -z "${!name:-}" ] || handed+=("$name=${!name}")
     done

@@ -1,10 +1,12 @@
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libhwy-dev)
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
+    qt6-l10n-tools libgl-dev libhwy-dev)
 # For core/ and its tests alone, which need no Qt.
 core_packages=(g++ cmake ninja-build ccache libhwy-dev libgtest-dev)
-# qt6-image-formats-plugins reads TIFF; the fonts are for machines that have none yet.
-run_packages=(qt6-image-formats-plugins fontconfig fonts-dejavu-core)
+# qt6-image-formats-plugins reads TIFF; qt6-translations-l10n has Qt's own dialogs in other languages; the fonts are for
+# machines that have none yet.
+run_packages=(qt6-image-formats-plugins qt6-translations-l10n fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
 check_packages=(clang libclang-rt-dev clang-format clang-tidy git)
 debian_packages=(debhelper dpkg-dev git)

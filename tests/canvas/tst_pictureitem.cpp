@@ -24,6 +24,18 @@ constexpr QSize pictureSize(900, 700);
 // is a hundredth of a pixel off after the 640 of the view, which makes so much from black to white.
 constexpr int roundingOfParts = 3;
 
+/// What stands on the screen now, without anything being painted for it.
+QImage shownBy(QWidget &widget)
+{
+    return widget.screen()->grabWindow(widget.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// What would stand there if everything were painted.
+QImage wantedBy(QWidget &widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 /// A background and a cut-out over it in a window.
 struct ShownPicture
 {
