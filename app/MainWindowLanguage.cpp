@@ -26,7 +26,8 @@ void MainWindow::retranslate()
 
 void MainWindow::nameToolBar()
 {
-    // Not every Qt tells the screen reader the title of a tool bar, and none has a name for its overflow button.
+    // Not every Qt tells the screen reader the title of a tool bar, and none has a name for its overflow
+    // button.
     form->mainToolBar->setAccessibleName(form->mainToolBar->windowTitle());
     if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
         overflow->setAccessibleName(tr("More tools"));
