@@ -3,8 +3,8 @@
 
 #include "cutout/AlphaBrush.h"
 
+#include "core/Truncation.h"
 #include "cutout/WindingRegion.h"
-#include "imaging/Truncation.h"
 
 #include <QPainterPath>
 #include <QPolygon>
@@ -63,8 +63,8 @@ BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size)
         outline = cutAround(outline, size);
         bounds = outline.boundingRect();
     }
-    const QRect box(roundToInt(bounds.x()), roundToInt(bounds.y()), roundToInt(bounds.width()),
-                    roundToInt(bounds.height()));
+    const QRect box(ornevo::roundToInt(bounds.x()), ornevo::roundToInt(bounds.y()), ornevo::roundToInt(bounds.width()),
+                    ornevo::roundToInt(bounds.height()));
     // By winding, so that overlapping dabs are one area and no pixel is counted twice.
     return {windingRegion(outline.toPolygon(), QRect(QPoint(0, 0), size)), box};
 }
