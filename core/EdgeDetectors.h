@@ -17,14 +17,16 @@ namespace ornevo {
 /// A plane of 16-bit elements; rows begin `elementsPerRow` elements apart.
 template <typename Element> struct WordPlaneView
 {
-    Element *elements = nullptr;
-    int width = 0;
-    int height = 0;
+    Element *elements = nullptr;       ///< the first element of the first row
+    int width = 0;                     ///< elements a row
+    int height = 0;                    ///< rows
     std::ptrdiff_t elementsPerRow = 0; ///< at least width
 
+    /// The first element of row `y`.
     [[nodiscard]] Element *row(int y) const { return elements + y * elementsPerRow; }
 };
 
+/// Along which direction a plane is derived.
 enum class Derivative {
     horizontal, ///< right minus left
     vertical    ///< the row above minus the row below

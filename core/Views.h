@@ -21,12 +21,13 @@ namespace ornevo {
 /// Four bytes a pixel: blue, green, red, and one that only the functions look at which say so.
 template <typename Byte> struct BasicPictureView
 {
-    Byte *pixels = nullptr;
-    int width = 0;
-    int height = 0;
+    Byte *pixels = nullptr;         ///< the first byte of the first row
+    int width = 0;                  ///< pixels a row
+    int height = 0;                 ///< rows
     std::ptrdiff_t bytesPerRow = 0; ///< at least 4 · width
 
-    BasicPictureView() = default;
+    BasicPictureView() = default; ///< without pixels
+    /// Rows that begin `bytesPerRow_` bytes apart.
     BasicPictureView(Byte *pixels_, int width_, int height_, std::ptrdiff_t bytesPerRow_)
         : pixels(pixels_), width(width_), height(height_), bytesPerRow(bytesPerRow_)
     {
@@ -43,47 +44,56 @@ template <typename Byte> struct BasicPictureView
     {
     }
 
+    /// The first byte of row `y`.
     [[nodiscard]] Byte *row(int y) const { return pixels + y * bytesPerRow; }
 };
 
+/// A picture to be read.
 using PictureView = BasicPictureView<const std::uint8_t>;
+/// A picture to be written.
 using MutablePictureView = BasicPictureView<std::uint8_t>;
 
 /// One byte a pixel; several, of as many channels, where a function takes them.
 template <typename Byte> struct BasicPlaneView
 {
-    Byte *bytes = nullptr;
-    int width = 0;
-    int height = 0;
+    Byte *bytes = nullptr;          ///< the first byte of the first row
+    int width = 0;                  ///< pixels a row
+    int height = 0;                 ///< rows
     std::ptrdiff_t bytesPerRow = 0; ///< at least width · channels
     int channels = 1;               ///< interleaved bytes of a pixel
 
-    BasicPlaneView() = default;
+    BasicPlaneView() = default; ///< without pixels
+    /// Rows that begin `bytesPerRow_` bytes apart.
     BasicPlaneView(Byte *bytes_, int width_, int height_, std::ptrdiff_t bytesPerRow_, int channels_ = 1)
         : bytes(bytes_), width(width_), height(height_), bytesPerRow(bytesPerRow_), channels(channels_)
     {
     }
     /// Rows without padding.
     BasicPlaneView(Byte *bytes_, int width_, int height_) : BasicPlaneView(bytes_, width_, height_, width_) {}
+    /// What can be written can be read.
     template <typename Other, typename = std::enable_if_t<std::is_same_v<const Other, Byte>>>
     BasicPlaneView(const BasicPlaneView<Other> &other) // NOLINT(google-explicit-constructor)
         : BasicPlaneView(other.bytes, other.width, other.height, other.bytesPerRow, other.channels)
     {
     }
 
+    /// The first byte of row `y`.
     [[nodiscard]] Byte *row(int y) const { return bytes + y * bytesPerRow; }
 };
 
+/// A plane to be read.
 using PlaneView = BasicPlaneView<const std::uint8_t>;
+/// A plane to be written.
 using MutablePlaneView = BasicPlaneView<std::uint8_t>;
 
 /// A list of pixels, each named by its index y · width + x.
 struct PixelIndices
 {
-    const int *indices = nullptr;
-    std::size_t count = 0;
+    const int *indices = nullptr; ///< the first of them
+    std::size_t count = 0;        ///< how many there are
 
-    PixelIndices() = default;
+    PixelIndices() = default; ///< none
+    /// `count_` of them.
     PixelIndices(const int *indices_, std::size_t count_) : indices(indices_), count(count_) {}
     /// Of a vector or any other container of `int` that keeps its elements side by side.
     template <typename Container, typename = std::enable_if_t<std::is_convertible_v<
@@ -93,7 +103,9 @@ struct PixelIndices
     {
     }
 
+    /// For loops over them.
     [[nodiscard]] const int *begin() const { return indices; }
+    /// Behind the last one.
     [[nodiscard]] const int *end() const { return indices + count; }
 };
 

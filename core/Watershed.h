@@ -36,10 +36,10 @@ class ORNEVO_CORE_EXPORT Regions
 public:
     class Labels; ///< the label plane; not part of the interface
 
-    Regions(); ///< no regions
-    explicit Regions(std::unique_ptr<const Labels> labels);
-    Regions(Regions &&other) noexcept;
-    Regions &operator=(Regions &&other) noexcept;
+    Regions();                                              ///< no regions
+    explicit Regions(std::unique_ptr<const Labels> labels); ///< made by the flooding
+    Regions(Regions &&other) noexcept;                      ///< moves
+    Regions &operator=(Regions &&other) noexcept;           ///< moves
     Regions(const Regions &) = delete;
     Regions &operator=(const Regions &) = delete;
     ~Regions();
