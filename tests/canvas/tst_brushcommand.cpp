@@ -5,6 +5,7 @@
 #include "canvas/PictureItem.h"
 #include "canvas/UndoSnapshot.h"
 #include "tests/reference/TestPictures.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestMain.h"
 
 #include <QDir>
@@ -13,7 +14,6 @@
 #include <QMap>
 #include <QUndoStack>
 
-#include <csignal>
 #include <memory>
 #include <vector>
 
@@ -26,28 +26,6 @@
 using testpictures::randomArgbImage;
 
 namespace {
-
-/// For its life no file can grow beyond so many bytes, as on a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
-};
 
 /// For its life temporary files go to another folder.
 class OtherTemporaryFolder
@@ -305,7 +283,7 @@ void TestBrushCommand::fullDisk()
     QFETCH(int, bytes);
     const QImage before = image.copy();
     {
-        const FileSizeLimit full(static_cast<rlim_t>(bytes));
+        const FullDisk full(static_cast<rlim_t>(bytes));
         push(QRect(5, 4, 20, 15), 2);
     }
     QCOMPARE(temporaryFiles().size(), 0); // a part of the picture is of no use
