@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "tests/support/Activation.h"
 #include "tests/support/ModalDialog.h"
 
 #include <QAction>
@@ -120,7 +121,7 @@ inline void show(QMainWindow &window, QSize size = {640, 560})
     window.resize(size);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QApplication::setActiveWindow(&window);
+    testsupport::activate(window);
     canvas(window)->setFocus();
     settle();
 }
@@ -137,7 +138,7 @@ inline void openPhoto(QMainWindow &window, const QString &path)
 /// Presses a key with the canvas in front.
 inline void key(QMainWindow &window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
 {
-    QApplication::setActiveWindow(&window);
+    testsupport::activate(window);
     canvas(window)->setFocus();
     QTest::keyClick(canvas(window), key, modifiers);
 }
