@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QApplication>
+#include "tests/support/Activation.h"
+
 #include <QWindow>
 
 namespace testsupport {
@@ -16,7 +17,7 @@ inline bool takesKeys(QWidget &modal)
     if (window == nullptr || !window->isExposed())
         return false;
     if (!modal.isActiveWindow())
-        QApplication::setActiveWindow(&modal);
+        activate(modal);
     return modal.isActiveWindow();
 }
 
