@@ -778,7 +778,9 @@ void TestBrushes::dialogEndsTheStroke()
     action(*window, tool)->trigger();
     const auto lay = [&](int x, Qt::MouseButtons held) {
         driver::move(*view, view->mapFromScene(x, 60), held);
-        QTest::qWait(50); // the brush waits for more dabs
+        // The brush waits for more dabs.
+        if (!QTest::qWaitFor([&] { return probe->pendingBrushRects().isEmpty(); }))
+            qFatal("the batch does not come");
         return std::pair(stack().count(), probe->previewOffset());
     };
     driver::press(*view, view->mapFromScene(60, 60));
