@@ -783,8 +783,9 @@ void TestBrushes::dialogEndsTheStroke()
     action(*window, tool)->trigger();
     const auto lay = [&](int x, Qt::MouseButtons held) {
         driver::move(*view, view->mapFromScene(x, 60), held);
-        if (!QTest::qWaitFor([&] { return !probe->brushTimer().isActive(); })) // it waits for more dabs
-            qFatal("the batch is not due");
+        // The brush waits for more dabs.
+        if (!QTest::qWaitFor([&] { return probe->pendingBrushRects().isEmpty(); }))
+            qFatal("the batch does not come");
         return std::pair(stack().count(), probe->previewOffset());
     };
     driver::press(*view, view->mapFromScene(60, 60));
