@@ -5,7 +5,7 @@
 
 #include "canvas/DrawingTools.h"
 #include "canvas/ItemPointer.h"
-#include "imaging/LargeMemory.h"
+#include "core/LargeMemory.h"
 
 #include <QBitmap>
 #include <QGraphicsScene>
@@ -47,7 +47,7 @@ public:
 
     /// Fills `edgeMap` from `workingImage`.
     void colorsobel();
-    /// Smooths the four-byte pixels of `src` into `dst`, with progress; see blurFourChannels().
+    /// Smooths the four-byte pixels of `src` into `dst`, with progress; see cutout::blurFourChannels().
     void blur(QImage *src, QImage *dst, int size, double sigma);
     /// Recomputes `outmask` from the marker dabs on the editing scene and takes the overlay off it.
     void updatemask();
@@ -156,7 +156,7 @@ private:
     QString currentFile;                       ///< path of the photo; empty once a file dialog was cancelled
     bool isOriginalFile = false;               ///< currentFile is the user's photo: saving over it asks first
     QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
-    LargeArray<unsigned char> edgeMap;         ///< of workingImage, a byte a pixel
+    ornevo::LargeArray<unsigned char> edgeMap; ///< of workingImage, a byte a pixel
     ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
     bool memoryRanOut = false;                 ///< in the last finding of edges or of the mask
     QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order

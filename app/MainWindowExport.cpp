@@ -5,9 +5,9 @@
 
 #include "app/WaitCursor.h"
 #include "app/dialogs/ExportDialog.h"
+#include "core/Truncation.h"
 #include "cutout/ExportComposition.h"
 #include "cutout/PictureFile.h"
-#include "imaging/Truncation.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -30,7 +30,8 @@ QSize extentOf(const QGraphicsPixmapItem &item)
 {
     const QSizeF size = item.boundingRect().size();
     const QTransform zoom = item.transform();
-    return {truncateToInt(size.width() * zoom.m11()), truncateToInt(size.height() * zoom.m22())};
+    return {ornevo::truncateToInt(size.width() * zoom.m11()),
+            ornevo::truncateToInt(size.height() * zoom.m22())};
 }
 
 } // namespace

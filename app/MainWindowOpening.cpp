@@ -9,7 +9,6 @@
 #include "canvas/SettingsKeys.h"
 #include "cutout/PictureFile.h"
 #include "imaging/EdgeMap.h"
-#include "imaging/LargeMemory.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
@@ -22,10 +21,10 @@
 namespace {
 
 /// Null when memory is short.
-LargeArray<unsigned char> bytesFor(const QImage &picture)
+ornevo::LargeArray<unsigned char> bytesFor(const QImage &picture)
 {
-    return makeLargeArray<unsigned char>(static_cast<std::size_t>(picture.width()) *
-                                         static_cast<std::size_t>(picture.height()));
+    return ornevo::makeLargeArray<unsigned char>(static_cast<std::size_t>(picture.width()) *
+                                                 static_cast<std::size_t>(picture.height()));
 }
 
 } // namespace
@@ -70,7 +69,7 @@ void MainWindow::open()
     const QImage picture = cutout::readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
     // All the memory that the picture takes is got before anything refers to the picture.
     const QPixmap pixmap = QPixmap::fromImage(picture);
-    LargeArray<unsigned char> edges = bytesFor(picture);
+    ornevo::LargeArray<unsigned char> edges = bytesFor(picture);
     if (pixmap.isNull() || edges == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;
@@ -106,7 +105,7 @@ void MainWindow::colorsobel()
     if (edgeMap == nullptr)
         return;
     try {
-        computeEdgeMap(workingImage, edgeMap.get());
+        imaging::computeEdgeMap(workingImage, edgeMap.get());
     } catch (const std::bad_alloc &) { // short of memory, there are no edges; differences of colour remain
         memoryRanOut = true;
         std::fill_n(edgeMap.get(), workingImage.sizeInBytes() / 4, std::uint8_t{0});

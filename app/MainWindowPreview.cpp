@@ -8,8 +8,8 @@
 #include "canvas/SceneLayers.h"
 #include "cutout/BackgroundLayer.h"
 #include "cutout/CutOut.h"
+#include "cutout/FourChannelBlur.h"
 #include "cutout/IndexPicture.h"
-#include "imaging/FourChannelBlur.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -59,7 +59,7 @@ void MainWindow::updatepreviewmask()
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
     QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
-    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : sharp;
+    maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : sharp;
     if (smoothEdges && !maskImage.isNull())
         blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
 }
@@ -67,8 +67,8 @@ void MainWindow::updatepreviewmask()
 void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
 {
     try {
-        blurFourChannels(*src, *dst, size, sigma,
-                         [this](int percent) { form->progressBar->setValue(percent); });
+        cutout::blurFourChannels(*src, *dst, size, sigma,
+                                 [this](int percent) { form->progressBar->setValue(percent); });
     } catch (const std::bad_alloc &) {
         *dst = QImage(); // a hard border for a soft one would go unnoticed
     }

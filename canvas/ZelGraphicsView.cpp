@@ -4,7 +4,7 @@
 #include "canvas/ZelGraphicsView.h"
 
 #include "canvas/SettingsKeys.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 #include "resources/Resources.h"
 
 #include <QMouseEvent>
@@ -83,7 +83,8 @@ void ZelGraphicsView::updateellipse(int size)
         return;
     // Not mapFromScene(): zoomed far in, the circle can lie where no int reaches.
     const QPointF centre = viewportTransform().map(brushOutline->rect().center());
-    const QRect square = squareAround(QPoint(roundToInt(centre.x()), roundToInt(centre.y())), size / 2);
+    const QRect square =
+        squareAround(QPoint(ornevo::roundToInt(centre.x()), ornevo::roundToInt(centre.y())), size / 2);
     if (scene() != nullptr && scene()->sceneRect().contains(square))
         brushOutline->showAt(square, pixelInScene());
 }
@@ -177,6 +178,6 @@ QRect ZelGraphicsView::squareAround(QPoint viewPosition, int half) const
 {
     const QPointF first = mapToScene(viewPosition - QPoint(half, half));
     const QPointF second = mapToScene(viewPosition + QPoint(half, half));
-    return {truncateToInt(first.x()), truncateToInt(first.y()), truncateToInt(second.x() - first.x()),
-            truncateToInt(second.y() - first.y())};
+    return {ornevo::truncateToInt(first.x()), ornevo::truncateToInt(first.y()),
+            ornevo::truncateToInt(second.x() - first.x()), ornevo::truncateToInt(second.y() - first.y())};
 }

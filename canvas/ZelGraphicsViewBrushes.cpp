@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "canvas/ZelGraphicsView.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 
 #include <QMouseEvent>
 
@@ -81,7 +81,7 @@ void ZelGraphicsView::HandMouseMoved(QMouseEvent *event)
     // Where the view is zoomed far out, a step of the pointer can be longer than an int holds.
     const auto scenePoint = [this](QPoint viewPosition) {
         const QPointF there = mapToScene(viewPosition);
-        return QPoint(roundToInt(there.x()), roundToInt(there.y()));
+        return QPoint(ornevo::roundToInt(there.x()), ornevo::roundToInt(there.y()));
     };
     emit HandTool(scenePoint(lastMousePos), scenePoint(position));
     lastMousePos = position;

@@ -5,7 +5,7 @@
 #include "canvas/MarkerDabs.h"
 #include "canvas/SceneLayers.h"
 #include "canvas/ZelGraphicsView.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 
 #include <QMouseEvent>
 #include <QPainterPath>
@@ -28,8 +28,8 @@ void ZelGraphicsView::RemoveMarkerMouseReleased(QMouseEvent * /*event*/) {}
 
 bool ZelGraphicsView::acceptsDabAt(QPointF position) const
 {
-    const int x = truncateToInt(position.x());
-    const int y = truncateToInt(position.y());
+    const int x = ornevo::truncateToInt(position.x());
+    const int y = ornevo::truncateToInt(position.y());
     const QRectF picture = scene()->sceneRect();
     return x >= 1 && y >= 1 && x < picture.width() && y < picture.height();
 }

@@ -1,7 +1,6 @@
 # What `cmake --install` puts where. Two components: `ornevo` is the program with all that a desktop wants to know of
-# it; `ornevo-dev` the imaging and segmentation libraries with their headers, for find_package(Ornevo).
+# it; `ornevo-dev` the libraries with their headers, for find_package(Ornevo).
 
-include(CMakePackageConfigHelpers)
 
 set(files ${PROJECT_SOURCE_DIR}/resources/install)
 set(icons ${PROJECT_SOURCE_DIR}/resources/icons)
@@ -40,6 +39,11 @@ if(NOT APPLE AND NOT WIN32)
     ornevo_compress(${files}/ornevo.1 ornevo.1.gz)
     install(FILES ${PROJECT_BINARY_DIR}/ornevo.1.gz
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ornevo)
+    foreach(language de es fr it ja pl pt_BR zh_CN)
+        ornevo_compress(${files}/ornevo.${language}.1 ornevo.${language}.1.gz)
+        install(FILES ${PROJECT_BINARY_DIR}/ornevo.${language}.1.gz
+            DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}/man1 RENAME ornevo.1.gz COMPONENT ornevo)
+    endforeach()
     get_property(compressed GLOBAL PROPERTY ORNEVO_COMPRESSED)
     add_custom_target(ornevo_documents ALL DEPENDS ${compressed})
 endif()
@@ -47,30 +51,13 @@ install(FILES LICENSE README.md CHANGELOG.md
     DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ornevo COMPONENT ornevo)
 
 # The libraries.
+include(cmake/OrnevoInstallCore.cmake)
 set_target_properties(ornevo_imaging PROPERTIES EXPORT_NAME imaging)
 set_target_properties(ornevo_segmentation PROPERTIES EXPORT_NAME segmentation)
 install(TARGETS ornevo_imaging ornevo_segmentation
     EXPORT OrnevoTargets
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ornevo-dev
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ornevo COMPONENT ornevo-dev)
-
-# A private library of a static one is needed at the link of the program that uses it.
-get_target_property(imaging_libraries ornevo_imaging LINK_LIBRARIES)
-get_target_property(segmentation_libraries ornevo_segmentation LINK_LIBRARIES)
-if("${imaging_libraries};${segmentation_libraries}" MATCHES "hwy::")
-    set(ORNEVO_NEEDS_HWY TRUE)
-else()
-    set(ORNEVO_NEEDS_HWY FALSE)
-endif()
-set(ORNEVO_QT_VERSION 6.4)
-
-set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Ornevo)
-configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/OrnevoConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/OrnevoConfig.cmake INSTALL_DESTINATION ${package})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/OrnevoConfigVersion.cmake
-    VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/OrnevoConfig.cmake ${PROJECT_BINARY_DIR}/OrnevoConfigVersion.cmake
-    DESTINATION ${package} COMPONENT ornevo-dev)
 install(EXPORT OrnevoTargets NAMESPACE Ornevo:: DESTINATION ${package} COMPONENT ornevo-dev)
 
 # Inside of this project by the same names as outside.

@@ -3,11 +3,11 @@
 
 #include "cutout/PictureFile.h"
 
+#include "cutout/LargePicture.h"
 #include "cutout/LeanPicture.h"
 #include "cutout/RasterFormat.h"
 #include "cutout/RegularFile.h"
 #include "cutout/TimedDevice.h"
-#include "imaging/LargeMemory.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -1,7 +1,7 @@
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
-    qt6-l10n-tools libgl-dev libhwy-dev)
+    qt6-l10n-tools libgl-dev libhwy-dev libgtest-dev)
 # For core/ and its tests alone, which need no Qt.
 core_packages=(g++ cmake ninja-build ccache libhwy-dev libgtest-dev)
 # qt6-image-formats-plugins reads TIFF; qt6-translations-l10n has Qt's own dialogs in other languages; the fonts are for

@@ -4,7 +4,7 @@
 #include "app/dialogs/ExportDialog.h"
 
 #include "canvas/SettingsKeys.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 #include "ui_ExportDialog.h"
 
 #include <QEvent>
@@ -66,7 +66,7 @@ void ExportDialog::GetSettings(int *width, int *height, QString *fileName)
 void ExportDialog::heightFollowsWidth()
 {
     const float height = static_cast<float>(m_form->spinBox->value()) * m_aspect;
-    m_form->spinBox_2->setValue(truncateToInt(static_cast<double>(height)));
+    m_form->spinBox_2->setValue(ornevo::truncateToInt(static_cast<double>(height)));
 }
 
 void ExportDialog::on_spinBox_valueChanged(int /*width*/)

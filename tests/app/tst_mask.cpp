@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
-#include "tests/reference/WatershedReference.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
