@@ -9,7 +9,11 @@
 
 CBrushCommand::CBrushCommand(QGraphicsPixmapItem *item, const QRect &area, QPixmap *afterPixmap,
                              QImage *image, const QImage &before)
-    : m_item(item), m_area(area), m_afterPixmap(afterPixmap), m_image(image), m_snapshot(before)
+    : m_item(item),
+      m_area(area),
+      m_afterPixmap(afterPixmap),
+      m_image(image),
+      m_snapshot(before, area.isEmpty() ? QImage() : image->copy(area))
 {
 }
 
@@ -20,14 +24,12 @@ void CBrushCommand::redo()
         m_snapshot.store();
         return;
     }
-    if (!m_holdsBefore)
-        swapPixels();
+    putBack(m_snapshot.after());
 }
 
 void CBrushCommand::undo()
 {
-    if (m_holdsBefore)
-        swapPixels();
+    putBack(m_snapshot.before());
 }
 
 void CBrushCommand::showFirstTime()
@@ -38,11 +40,9 @@ void CBrushCommand::showFirstTime()
     m_afterPixmap = nullptr; // it is the caller's, and soon gone
 }
 
-// What the picture loses, the snapshot gets: one of the two states is in the picture, the other on the disk.
-void CBrushCommand::swapPixels()
+void CBrushCommand::putBack(QImage pixels)
 {
     const QRect area = m_area.intersected(m_image->rect());
-    QImage pixels = m_snapshot.pixels();
     if (pixels.isNull() || m_image->depth() != 32)
         return;
     pixels.convertTo(m_image->format());
@@ -53,12 +53,10 @@ void CBrushCommand::swapPixels()
     if (columns <= 0 || rows <= 0)
         return;
     for (int y = 0; y < rows; ++y) {
-        auto *ours = reinterpret_cast<QRgb *>(pixels.scanLine(top + y)) + left;
+        const auto *ours = reinterpret_cast<const QRgb *>(pixels.constScanLine(top + y)) + left;
         auto *theirs = reinterpret_cast<QRgb *>(m_image->scanLine(area.top() + y)) + area.left();
-        std::swap_ranges(ours, ours + columns, theirs);
+        std::copy_n(ours, columns, theirs);
     }
-    m_holdsBefore = !m_holdsBefore;
     if (m_item != nullptr)
         updatePixmap(*m_item, *m_image, area);
-    m_snapshot.replace(pixels);
 }

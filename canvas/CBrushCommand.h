@@ -12,10 +12,9 @@
 #include <QRect>
 #include <QUndoCommand>
 
-/// Undo of one batch of brush dabs: keeps the pixels of the box around them as they were before, and once
-/// they are undone as they were after. With the first redo() they move into a temporary file, which goes with
-/// the command. The first redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the
-/// picture already.
+/// Undo of one batch of brush dabs: keeps the pixels of the box around them from before and after. With the
+/// first redo() they move into a temporary file, which goes with the command. The first redo(), which
+/// QUndoStack::push() calls, changes no pixel: the batch is in the picture already.
 class CBrushCommand : public QUndoCommand
 {
 public:
@@ -32,12 +31,11 @@ public:
 
 private:
     void showFirstTime();
-    void swapPixels();
+    void putBack(QImage pixels);
 
     ItemPointer<QGraphicsPixmapItem> m_item;
     QRect m_area;
     QPixmap *m_afterPixmap;
     QImage *m_image;
     UndoSnapshot m_snapshot;
-    bool m_holdsBefore = true; ///< what the snapshot is of
 };
