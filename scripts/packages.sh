@@ -1,6 +1,7 @@
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libhwy-dev)
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libhwy-dev
+    python3-dev pybind11-dev python3-numpy python3-pil python3-pytest python3-mypy mypy)
 # qt6-image-formats-plugins reads TIFF; the fonts are for machines that have none yet.
 run_packages=(qt6-image-formats-plugins fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
