@@ -27,8 +27,7 @@ class Arguments
 {
 public:
     /// Raises TypeError for arguments that are missing, surplus, unknown or given twice.
-    Arguments(const Signature &signature, const pybind11::args &byPosition,
-              const pybind11::kwargs &byName);
+    Arguments(const Signature &signature, const pybind11::args &byPosition, const pybind11::kwargs &byName);
 
     /// None where the argument was not given.
     [[nodiscard]] pybind11::handle operator[](std::size_t parameter) const { return m_values.at(parameter); }

@@ -69,15 +69,16 @@ void checkSize(const py::array &array, const char *name)
     const py::ssize_t height = array.shape(0);
     const py::ssize_t width = array.shape(1);
     if (height > most || width > most || (height > 0 && width > most / height))
-        raise(PyExc_ValueError, "%s has more pixels than can be worked on: %zd x %zd, at most %d in all", name,
-              width, height, INT_MAX);
+        raise(PyExc_ValueError, "%s has more pixels than can be worked on: %zd x %zd, at most %d in all",
+              name, width, height, INT_MAX);
 }
 
 void checkPlane(const py::array &array, const char *name, const StridedView &picture)
 {
     if (array.ndim() != 2 || array.shape(0) != picture.height || array.shape(1) != picture.width)
-        raise(PyExc_ValueError, "%s must have the height and width of the picture, (%d, %d), not the shape %S",
-              name, picture.height, picture.width, shapeOf(array).ptr());
+        raise(PyExc_ValueError,
+              "%s must have the height and width of the picture, (%d, %d), not the shape %S", name,
+              picture.height, picture.width, shapeOf(array).ptr());
 }
 
 } // namespace

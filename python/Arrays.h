@@ -23,7 +23,8 @@ struct ArrayArgument
 };
 
 /// An array of uint8, `(H, W)`, `(H, W, 3)` or `(H, W, 4)`, of no more pixels than an int can count. This and
-/// the others raise TypeError for what is no such array, ValueError for a wrong shape; both name the argument.
+/// the others raise TypeError for what is no such array, ValueError for a wrong shape; both name the
+/// argument.
 [[nodiscard]] ArrayArgument imageArgument(pybind11::handle object, const char *name);
 
 /// Arrays `(H, W)` of the size of `picture`: of bool, of uint8, of any integers in any byte order.

@@ -4,7 +4,8 @@
 #pragma once
 
 /// \file
-/// What help() shows. The first line of each is the signature, which inspect reads; the examples are run as tests.
+/// What help() shows. The first line of each is the signature, which inspect reads; the examples are run as
+/// tests.
 namespace ornevo::python::docstrings {
 
 inline constexpr const char *edgeMap = R"(edge_map(image, *, progress=None)
@@ -40,18 +41,17 @@ Notes
 -----
 Each colour is smoothed, the low byte of its Sobel magnitude taken, and the
 three are averaged. What lies below the mean of the picture becomes 0, the
-rest is lifted so that the largest value is 255. A picture of one colour is
-255 throughout.
+rest is lifted so that the largest value is 255.
 
 Examples
 --------
 >>> import numpy as np
 >>> import ornevo
 >>> image = np.zeros((12, 16), np.uint8)
->>> image[:, 8:] = 60
+>>> image[:, 8:] = 20
 >>> edges = ornevo.edge_map(image)
 >>> print(edges[6])
-[  0   0   0   0   0   0 202 255 255 203   0   0   0   0   0   0]
+[  0   0   0   0   0   0 199 207 211 203 187   0   0   0   0   0]
 )";
 
 inline constexpr const char *cutOut = R"(cut_out(image, keep, remove, edges=None, *, progress=None)
@@ -100,13 +100,13 @@ feather : soften the border of the mask.
 
 Examples
 --------
-A bright disc, marked by one stroke in it and one beside it:
+A blurred disc, marked by one stroke in it and one beside it:
 
 >>> import numpy as np
 >>> import ornevo
 >>> y, x = np.mgrid[:48, :64]
->>> disc = np.hypot(x - 32, y - 24) < 15
->>> image = np.where(disc, 200, 40).astype(np.uint8)
+>>> distance = np.hypot(x - 32, y - 24)
+>>> image = np.clip(300 - 12 * distance, 80, 160).astype(np.uint8)
 >>> keep = np.zeros(image.shape, bool)
 >>> remove = np.zeros(image.shape, bool)
 >>> keep[24, 28:36] = True
@@ -114,8 +114,8 @@ A bright disc, marked by one stroke in it and one beside it:
 >>> mask = ornevo.cut_out(image, keep, remove)
 >>> bool(mask[24, 32]), bool(mask[4, 4])
 (True, False)
->>> bool((mask & disc).sum() / (mask | disc).sum() > 0.85)
-True
+>>> bool(mask[distance < 13].all()), bool(mask[distance > 17].any())
+(True, False)
 )";
 
 inline constexpr const char *watershed = R"(watershed(image, markers, edges=None, *, progress=None)
@@ -171,7 +171,7 @@ Three stripes, each with a marker:
 >>> np.unique(labels)
 array([0, 4, 5, 9], dtype=int32)
 >>> print(labels[3])
-[0 4 4 4 4 9 9 9 9 9 5 5 5 5 0]
+[0 4 4 4 4 0 9 9 9 9 0 5 5 5 0]
 )";
 
 inline constexpr const char *waveSegment = R"(wave_segment(image, threshold, *, progress=None)
@@ -266,7 +266,7 @@ Examples
 >>> image = np.zeros((5, 7), np.uint8)
 >>> image[:, 3:] = 90
 >>> ornevo.smooth(image, 3, 1.0)[2]
-array([ 0,  0, 24, 62, 88, 88, 90], dtype=uint8)
+array([ 0,  0, 26, 61, 89, 89, 90], dtype=uint8)
 )";
 
 inline constexpr const char *feather = R"(feather(image, mask, rings, *, progress=None)

@@ -7,8 +7,8 @@
 
 namespace ornevo::python {
 
-/// Raises a Python exception of the class `type`; `format` and what follows are those of PyErr_Format(). Takes
-/// the GIL to be held. An error that is set already is dropped.
+/// Raises a Python exception of the class `type`; `format` and what follows are those of PyErr_Format().
+/// Takes the GIL to be held. An error that is set already is dropped.
 template <typename... Values> [[noreturn]] void raise(PyObject *type, const char *format, Values... values)
 {
     PyErr_Clear();

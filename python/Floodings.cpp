@@ -117,7 +117,7 @@ py::array cutOut(const Args &byPosition, const Kwargs &byName)
             .writeMask(1, out);
     }
     progress.finish();
-    return std::move(mask);
+    return mask;
 }
 
 py::array watershed(const Args &byPosition, const Kwargs &byName)
@@ -139,7 +139,7 @@ py::array watershed(const Args &byPosition, const Kwargs &byName)
             .writeLabels(out, image.view.width, image.view.height, seeds.names());
     }
     progress.finish();
-    return std::move(labels);
+    return labels;
 }
 
 } // namespace ornevo::python

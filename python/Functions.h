@@ -7,8 +7,8 @@
 #include <pybind11/pybind11.h>
 
 /// \file
-/// The functions of the module. Each takes its arguments apart and checks them all, makes its result, and works
-/// without the GIL. docs/python.md and Docstrings.h say what they do.
+/// The functions of the module. Each takes its arguments apart and checks them all, makes its result, and
+/// works without the GIL. docs/python.md and Docstrings.h say what they do.
 namespace ornevo::python {
 
 using Args = pybind11::args;

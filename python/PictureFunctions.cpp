@@ -11,8 +11,6 @@
 #include "python/Picture.h"
 #include "python/Progress.h"
 
-#include <utility>
-
 namespace py = pybind11;
 
 namespace ornevo::python {
@@ -31,7 +29,7 @@ py::array edgeMap(const Args &byPosition, const Kwargs &byName)
         computeEdgeMap(Picture::inAnyOrder(image.view).view(), out, progress.callback());
     }
     progress.finish();
-    return std::move(edges);
+    return edges;
 }
 
 py::array smooth(const Args &byPosition, const Kwargs &byName)
@@ -58,7 +56,7 @@ py::array smooth(const Args &byPosition, const Kwargs &byName)
         }
     }
     progress.finish();
-    return std::move(smoothed);
+    return smoothed;
 }
 
 py::array feather(const Args &byPosition, const Kwargs &byName)
@@ -77,7 +75,7 @@ py::array feather(const Args &byPosition, const Kwargs &byName)
         featherEdge(out, Plane(mask.view).view(), rings);
     }
     progress.finish();
-    return std::move(feathered);
+    return feathered;
 }
 
 py::array waveSegment(const Args &byPosition, const Kwargs &byName)
@@ -95,7 +93,7 @@ py::array waveSegment(const Args &byPosition, const Kwargs &byName)
         labelWaves(Picture::inAnyOrder(image.view).view(), threshold, out, progress.callback());
     }
     progress.finish();
-    return std::move(labels);
+    return labels;
 }
 
 } // namespace ornevo::python

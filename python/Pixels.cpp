@@ -26,8 +26,7 @@ void writePixel(const std::uint8_t *in, std::ptrdiff_t stride, std::uint8_t *out
     out[3] = channels == 4 ? in[3 * stride] : std::uint8_t{255};
 }
 
-template <int channels, ChannelOrder order>
-void writeRows(const StridedView &image, std::uint8_t *out)
+template <int channels, ChannelOrder order> void writeRows(const StridedView &image, std::uint8_t *out)
 {
     const bool packed = image.columnStride == channels && (channels == 1 || image.channelStride == 1);
     for (int y = 0; y < image.height; ++y) {
@@ -35,7 +34,8 @@ void writeRows(const StridedView &image, std::uint8_t *out)
         std::uint8_t *to = out + std::ptrdiff_t{4} * image.width * y;
         if (packed) { // the usual case, with strides that the compiler knows
             for (int x = 0; x < image.width; ++x)
-                writePixel<channels, order>(row + std::ptrdiff_t{channels} * x, 1, to + std::ptrdiff_t{4} * x);
+                writePixel<channels, order>(row + std::ptrdiff_t{channels} * x, 1,
+                                            to + std::ptrdiff_t{4} * x);
         } else {
             for (int x = 0; x < image.width; ++x)
                 writePixel<channels, order>(row + image.columnStride * x, image.channelStride,
@@ -137,7 +137,8 @@ void writeFourChannels(const StridedView &image, ChannelOrder order, std::uint8_
 void writePacked(const StridedView &image, std::uint8_t *out)
 {
     const std::ptrdiff_t rowBytes = std::ptrdiff_t{image.channels} * image.width;
-    const bool packedRows = image.columnStride == image.channels && (image.channels == 1 || image.channelStride == 1);
+    const bool packedRows =
+        image.columnStride == image.channels && (image.channels == 1 || image.channelStride == 1);
     for (int y = 0; y < image.height; ++y, out += rowBytes) {
         const std::uint8_t *row = image.row(y);
         if (packedRows) {

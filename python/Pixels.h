@@ -9,12 +9,11 @@
 #include <vector>
 
 /// \file
-/// What is read out of arrays of any layout. Each element is read once, and without Python: another thread may
-/// change the arrays meanwhile.
+/// What is read out of arrays of any layout. Each element is read once, and without Python: another thread
+/// may change the arrays meanwhile.
 namespace ornevo::python {
 
-enum class ChannelOrder
-{
+enum class ChannelOrder {
     RedFirst, ///< red, green, blue, alpha
     BlueFirst ///< blue, green, red, alpha
 };

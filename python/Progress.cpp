@@ -22,7 +22,8 @@ ProgressCallback Progress::callback()
     if (m_callable.is_none())
         return {};
     return [this](int percent) {
-        // Asking for the GIL can take milliseconds while other threads work; the same percentage isn't worth it.
+        // Asking for the GIL can take milliseconds while other threads work; the same percentage isn't worth
+        // it.
         if (percent <= m_last)
             return;
         const py::gil_scoped_acquire held;

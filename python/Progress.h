@@ -9,7 +9,8 @@
 
 namespace ornevo::python {
 
-/// The `progress` argument of a call: a callable that is told each new percentage, and 100 at the end, or None.
+/// The `progress` argument of a call: a callable that is told each new percentage, and 100 at the end, or
+/// None.
 class Progress
 {
 public:

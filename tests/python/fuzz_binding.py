@@ -94,7 +94,12 @@ def array_for(choose, size, parameter):
     if choose.one_in(30):
         dtype = choose.of(DTYPES)
     shape = shape_for(choose, size, parameter)
-    large = np.prod(np.array(shape, float)) > 1e5
+    pixels = np.prod(np.maximum(np.array(shape, float), 1))
+    if pixels * dtype.itemsize > 2**62:  # more than numpy makes, even of one element
+        shape, pixels = (2**31, 2), 2**32
+    if 1e7 < pixels < 2**31:  # would be worked on, for minutes
+        shape = (2**31, *shape[1:])
+    large = pixels > 1e5
     if dtype.kind == "O" or large and dtype.kind == "V":
         return np.zeros((2, 2), dtype)
     if large:

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-// The plain versions of the algorithms as a Python module, which the tests compare the real one with. Pictures are
-// uint8 (H, W, 4), blue first, without gaps; nothing is checked beyond that.
+// The plain versions of the algorithms as a Python module, which the tests compare the real one with.
+// Pictures are uint8 (H, W, 4), blue first, without gaps; nothing is checked beyond that.
 
 #include "tests/reference/EdgeDetectorsReference.h"
 #include "tests/reference/FeatheringReference.h"
@@ -28,7 +28,8 @@ using Indices = std::vector<int>;
 
 QImage imageOf(const Bytes &picture)
 {
-    QImage image(static_cast<int>(picture.shape(1)), static_cast<int>(picture.shape(0)), QImage::Format_ARGB32);
+    QImage image(static_cast<int>(picture.shape(1)), static_cast<int>(picture.shape(0)),
+                 QImage::Format_ARGB32);
     const auto rowBytes = static_cast<std::size_t>(4 * image.width());
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(image.scanLine(y), picture.data(y, 0, 0), rowBytes);

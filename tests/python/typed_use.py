@@ -7,6 +7,7 @@ import numpy.typing as npt
 import ornevo
 
 image: npt.NDArray[np.uint8] = np.zeros((4, 4, 3), np.uint8)
+heights: npt.NDArray[np.float32] = np.zeros((4, 4), np.float32)
 mask: npt.NDArray[np.bool_] = np.zeros((4, 4), np.bool_)
 
 version: str = ornevo.__version__
@@ -19,6 +20,6 @@ feathered: npt.NDArray[np.uint8] = ornevo.feather(image, mask, rings=3)
 
 ornevo.cut_out(image, mask)  # type: ignore[call-arg]
 ornevo.cut_out(image, image, mask)  # type: ignore[arg-type]
-ornevo.watershed(image, np.zeros((4, 4), np.float32))  # type: ignore[arg-type]
+ornevo.watershed(image, heights)  # type: ignore[arg-type]
 ornevo.smooth(image, 5.5, 1.5)  # type: ignore[arg-type]
 ornevo.edge_map(image, None)  # type: ignore[misc]
