@@ -26,11 +26,18 @@ SIZES = [4, 24]
 TILE = 512
 
 
+def read_photo(path):
+    """None for what is too small, or broken: some of the files are."""
+    try:
+        photo = np.asarray(Image.open(path).convert("RGB"))
+    except OSError:
+        return None
+    return photo if min(photo.shape[:2]) >= TILE else None
+
+
 def mosaic(megapixels, folder):
     """Squares of photographs side by side: as much detail at any size."""
-    files = sorted(path for path in folder.iterdir() if path.suffix in (".jpg", ".png"))
-    photos = [np.asarray(Image.open(path).convert("RGB")) for path in files]
-    photos = [photo for photo in photos if min(photo.shape[:2]) >= TILE]
+    photos = [photo for photo in map(read_photo, sorted(folder.glob("*.jpg"))) if photo is not None]
     height = round((megapixels * 1e6 / 1.5) ** 0.5)
     picture = np.empty((height, height * 3 // 2, 3), np.uint8)
     random = np.random.default_rng(7)

@@ -14,6 +14,9 @@
 #include "core/Watershed.h"
 #include "core/WaveSegmentation.h"
 
+#include <algorithm>
+#include <memory>
+
 namespace {
 
 std::vector<int> indicesOf(const std::vector<std::int32_t> &markers, std::int32_t label)
@@ -23,6 +26,11 @@ std::vector<int> indicesOf(const std::vector<std::int32_t> &markers, std::int32_
         if (markers[i] == label)
             indices.push_back(static_cast<int>(i));
     return indices;
+}
+
+template <typename T> std::unique_ptr<T[]> newArray(std::size_t count)
+{
+    return std::unique_ptr<T[]>(new T[count]);
 }
 
 } // namespace
@@ -35,20 +43,35 @@ int main(int argc, char **argv)
     const std::vector<int> keep = indicesOf(scene.markers, 1);
     const std::vector<int> remove = indicesOf(scene.markers, 2);
 
-    std::vector<std::uint8_t> bytes(scene.edges.size());
-    const ornevo::MutablePlaneView plane(bytes.data(), scene.width, scene.height);
-    std::vector<std::int32_t> labels(scene.edges.size());
-    std::vector<std::uint8_t> pixels(scene.picture.size());
-    const ornevo::MutablePictureView result(pixels.data(), scene.width, scene.height);
+    // Results go to new memory, as from Python.
+    const std::size_t pixels = scene.edges.size();
+    const auto plane = [&](const std::unique_ptr<std::uint8_t[]> &memory) {
+        return ornevo::MutablePlaneView(memory.get(), scene.width, scene.height);
+    };
+    const auto fourBytes = [&](const std::unique_ptr<std::uint8_t[]> &memory) {
+        return ornevo::MutablePictureView(memory.get(), scene.width, scene.height);
+    };
 
-    printTime("edge_map", [&] { ornevo::computeEdgeMap(picture, plane); });
-    printTime("cut_out", [&] { ornevo::floodTwoRegions(picture, edges, keep, remove).writeMask(1, plane); });
+    printTime("edge_map", [&] { ornevo::computeEdgeMap(picture, plane(newArray<std::uint8_t>(pixels))); });
+    printTime("cut_out", [&] {
+        ornevo::floodTwoRegions(picture, edges, keep, remove)
+            .writeMask(1, plane(newArray<std::uint8_t>(pixels)));
+    });
     printTime("watershed", [&] {
         ornevo::floodRegions(picture, edges, {keep, remove})
-            .writeLabels(labels.data(), scene.width, scene.height, {1, 2});
+            .writeLabels(newArray<std::int32_t>(pixels).get(), scene.width, scene.height, {1, 2});
     });
-    printTime("wave_segment", [&] { ornevo::labelWaves(picture, 200, labels.data()); });
-    printTime("smooth", [&] { ornevo::blurFourChannels(picture, result, 5, 1.2); });
-    printTime("feather", [&] { ornevo::featherEdge(result, plane, 3); });
+    printTime("wave_segment",
+              [&] { ornevo::labelWaves(picture, 200, newArray<std::int32_t>(pixels).get()); });
+    printTime("smooth", [&] {
+        ornevo::blurFourChannels(picture, fourBytes(newArray<std::uint8_t>(4 * pixels)), 5, 1.2);
+    });
+    const auto mask = newArray<std::uint8_t>(pixels);
+    ornevo::floodTwoRegions(picture, edges, keep, remove).writeMask(1, plane(mask));
+    printTime("feather", [&] {
+        const auto copy = newArray<std::uint8_t>(4 * pixels);
+        std::copy(scene.picture.begin(), scene.picture.end(), copy.get());
+        ornevo::featherEdge(fourBytes(copy), plane(mask), 3);
+    });
     return 0;
 }

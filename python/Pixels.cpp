@@ -26,13 +26,31 @@ void writePixel(const std::uint8_t *in, std::ptrdiff_t stride, std::uint8_t *out
     out[3] = channels == 4 ? in[3 * stride] : std::uint8_t{255};
 }
 
+/// RGB pixels without gaps, of which all but the last have a byte behind them: four bytes at a time.
+template <ChannelOrder order> void writePackedRgb(const std::uint8_t *in, int width, std::uint8_t *out)
+{
+    for (int x = 0; x < width - 1; ++x) {
+        std::uint32_t pixel = 0;
+        std::memcpy(&pixel, in + std::ptrdiff_t{3} * x, sizeof pixel);
+        if constexpr (order == ChannelOrder::BlueFirst)
+            pixel = (pixel & 0xFF) << 16 | (pixel & 0xFF00) | (pixel >> 16 & 0xFF);
+        pixel |= 0xFF000000U;
+        std::memcpy(out + std::ptrdiff_t{4} * x, &pixel, sizeof pixel);
+    }
+    const std::ptrdiff_t last = width - 1;
+    writePixel<3, order>(in + 3 * last, 1, out + 4 * last);
+}
+
 template <int channels, ChannelOrder order> void writeRows(const StridedView &image, std::uint8_t *out)
 {
+    constexpr bool littleEndian = std::endian::native == std::endian::little;
     const bool packed = image.columnStride == channels && (channels == 1 || image.channelStride == 1);
     for (int y = 0; y < image.height; ++y) {
         const std::uint8_t *row = image.row(y);
         std::uint8_t *to = out + std::ptrdiff_t{4} * image.width * y;
-        if (packed) { // the usual case, with strides that the compiler knows
+        if (littleEndian && channels == 3 && packed && image.width > 0) {
+            writePackedRgb<order>(row, image.width, to);
+        } else if (packed) { // with strides that the compiler knows
             for (int x = 0; x < image.width; ++x)
                 writePixel<channels, order>(row + std::ptrdiff_t{channels} * x, 1,
                                             to + std::ptrdiff_t{4} * x);
