@@ -3,12 +3,14 @@
 
 #include "app/MainWindow.h"
 
-#include "app/ProgressPainter.h"
 #include "resources/Resources.h"
 #include "ui_MainWindow.h"
 
-#include <QActionGroup>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QEvent>
+#include <QGuiApplication>
+#include <QThread>
 #include <QToolButton>
 
 namespace {
@@ -23,9 +25,12 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
 {
     resources::registerAll();
     form->setupUi(this);
-    setUpActions();
+    setUpTools();
+    setUpUndo();
     letTabIntoTheToolBar();
     setUpProgress();
+    setUpHint();
+    QGuiApplication::setWindowIcon(windowIcon()); // which the dialogs take
     updatetoolssettings();
     form->graphicsView->settings = &settings;
     form->graphicsView->updatetoolssettings();
@@ -47,22 +52,23 @@ void MainWindow::setUpProgress()
     policy.setRetainSizeWhenHidden(true);
     form->progressBar->setSizePolicy(policy);
     form->progressBar->hide();
-    new ProgressPainter(form->progressBar);
 }
 
-void MainWindow::setUpActions()
+void MainWindow::setUpHint()
 {
-    auto *markerGroup = new QActionGroup(this);
-    for (QAction *action :
-         {form->actionKeep_arker, form->action_Remove_Marker, form->actionBlueMarker, form->actionEraser})
-        markerGroup->addAction(action);
-    auto *brushGroup = new QActionGroup(this);
-    for (QAction *action : {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool})
-        brushGroup->addAction(action);
+    form->hint->setAttribute(Qt::WA_TransparentForMouseEvents); // the canvas beneath is what is used
+    form->hint->setForegroundRole(QPalette::Text);              // to be read on the canvas, light or dark
+}
 
+void MainWindow::setUpUndo()
+{
     undoStack.setUndoLimit(undoLimit);
     QAction *undo = undoStack.createUndoAction(this);
     undo->setShortcut(QKeySequence::Undo);
+    // The stack words it once and for all; in another language it is to be worded anew.
+    connect(&undoStack, &QUndoStack::undoTextChanged, undo, [undo] {
+        undo->setText(QCoreApplication::translate("QUndoStack", "Undo", "Default text for undo action"));
+    });
     form->menuActions->addAction(undo);
     // Redo has no place in the menus; its keys work all the same.
     QAction *redo = undoStack.createRedoAction(this);
@@ -77,11 +83,9 @@ void MainWindow::letTabIntoTheToolBar()
     QList<QWidget *> buttons;
     for (QAction *action : form->mainToolBar->actions())
         buttons << form->mainToolBar->widgetForAction(action);
-    // Qt gives this one no name for the screen reader.
-    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button")) {
-        overflow->setAccessibleName(tr("More tools"));
+    nameOverflowButton();
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
         buttons << overflow;
-    }
     QWidget *previous = form->graphicsView;
     for (QWidget *button : buttons) {
         button->setFocusPolicy(Qt::TabFocus);
@@ -100,6 +104,22 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
     return QMainWindow::eventFilter(watched, event);
 }
 
+void MainWindow::repaintAfterDialog()
+{
+    // On an X server a dialog that was closed leaves its pixels on the screen until the window manager has
+    // given the place back, which is when this window is the active one again, and the window has painted it.
+    // Work that keeps the one thread busy waits for that, though not for long: there need not be a manager.
+    constexpr int patience = 100; // ms
+    const QDeadlineTimer deadline(QGuiApplication::platformName() == "xcb" && isVisible() ? patience : 0);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    while (!isActiveWindow() && !deadline.hasExpired()) {
+        QThread::msleep(1);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+    repaint();
+    form->graphicsView->viewport()->repaint(); // a window's repaint() leaves out its children
+}
+
 void MainWindow::connectCanvas()
 {
     brushTimer.setSingleShot(true);
@@ -109,42 +129,6 @@ void MainWindow::connectCanvas()
             SLOT(on_HandToolPressed(QPoint, QPoint)));
     connect(&brushTimer, SIGNAL(timeout()), this, SLOT(on_ProcessBrushMouseEvent()));
     connect(&skipLastRectTimer, SIGNAL(timeout()), this, SLOT(on_TimeToSkipLastRect()));
-    connect(&undoStack, &QUndoStack::indexChanged, this, &MainWindow::showChangeByOlderEntry);
-}
-
-void MainWindow::chooseTool(int tool, bool checked)
-{
-    if (checked) // the action that another one of its group unchecks has no say
-        form->graphicsView->SetTool(static_cast<DrawingTools>(tool));
-}
-
-void MainWindow::on_actionEraser_toggled(bool checked)
-{
-    chooseTool(ToolEraser, checked);
-}
-void MainWindow::on_actionKeep_arker_toggled(bool checked)
-{
-    chooseTool(ToolKeepMarker, checked);
-}
-void MainWindow::on_action_Remove_Marker_toggled(bool checked)
-{
-    chooseTool(ToolRemoveMarker, checked);
-}
-void MainWindow::on_actionForeground_Brush_toggled(bool checked)
-{
-    chooseTool(ToolKeepBrush, checked);
-}
-void MainWindow::on_actionBackground_Brush_toggled(bool checked)
-{
-    chooseTool(ToolRemoveBrush, checked);
-}
-void MainWindow::on_actionHandTool_toggled(bool checked)
-{
-    chooseTool(ToolHand, checked);
-}
-void MainWindow::on_actionBlueMarker_toggled(bool checked)
-{
-    chooseTool(ToolBlueMarker, checked);
 }
 
 void MainWindow::on_actionZoom_In_triggered()

@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "canvas/DrawingTools.h"
 #include "canvas/ItemPointer.h"
-#include "imaging/LargeMemory.h"
+#include "core/LargeMemory.h"
 
 #include <QBitmap>
 #include <QGraphicsScene>
@@ -46,7 +47,7 @@ public:
 
     /// Fills `edgeMap` from `workingImage`.
     void colorsobel();
-    /// Smooths the four-byte pixels of `src` into `dst`, with progress; see blurFourChannels().
+    /// Smooths the four-byte pixels of `src` into `dst`, with progress; see cutout::blurFourChannels().
     void blur(QImage *src, QImage *dst, int size, double sigma);
     /// Recomputes `outmask` from the marker dabs on the editing scene and takes the overlay off it.
     void updatemask();
@@ -71,6 +72,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void on_actionTestMenu_triggered();
@@ -113,21 +115,37 @@ private slots:
 private:
     friend class MainWindowProbe; // the tests' look at the state below
 
+    // In ToolActions.h.
+    struct ToolSetting;
+    struct ToolAction;
+    struct ToolTable;
+
     void setUpProgress();
-    void setUpActions();
+    void setUpHint();
+    void setUpTools();
+    void setUpUndo();
+    void retranslate();
+    void nameOverflowButton();
     void letTabIntoTheToolBar();
     void connectCanvas();
-    void chooseTool(int tool, bool checked);
+    void repaintAfterDialog();
+    bool saveAndReopen(const QString &path);
+    void chooseTool(DrawingTools tool, bool checked);
     void setEditingActionsEnabled(bool editing);
+    void putToolsDown(bool editing);
     [[nodiscard]] QString lastDirectory() const;
     [[nodiscard]] QGraphicsPixmapItem *topmostPicture() const;
     void stepToolSize(int step);
     void stepBrushIntensity(int step);
-    void changeToolSize(unsigned char &size, const QString &message, const char *key, int step);
+    [[nodiscard]] const ToolAction *toolInUse(ToolSetting ToolAction::*setting) const;
+    void changeByte(const ToolSetting &setting, const QString &message, int step);
     void applyBrush(const QList<QRect> &rects, int alphaChange);
-    void showChangeByOlderEntry(int undoIndex);
+    void showCutOut(const QRect &area);
+    void framePreview();
     void scaleBackground(double factor);
+    bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
     [[nodiscard]] QPixmap exportCanvas() const;
+    bool writeScene(const QString &path);
 
     std::unique_ptr<Ui_MainWindow> form;
     QSettings settings;
@@ -138,8 +156,9 @@ private:
     QString currentFile;                       ///< path of the photo; empty once a file dialog was cancelled
     bool isOriginalFile = false;               ///< currentFile is the user's photo: saving over it asks first
     QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
-    LargeArray<unsigned char> edgeMap;         ///< of workingImage, a byte a pixel
+    ornevo::LargeArray<unsigned char> edgeMap; ///< of workingImage, a byte a pixel
     ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
+    bool memoryRanOut = false;                 ///< in the last finding of edges or of the mask
     QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order
     QPoint previewOffset;                      ///< where the object lies on the preview, in pixels
     ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's
@@ -150,7 +169,6 @@ private:
     bool skipLastRect = true; ///< false: lastBrushRect is left out of the next batch; never in this program
     QList<QRect> pendingBrushRects; ///< the batch that is being collected
     QUndoStack undoStack;
-    int entriesOlderThanPreviewItem = 0; ///< of undoStack; their own item is gone, previewItem must follow
     QPixmap imagePixmap;
     // Bytes, as the settings hold them; for units see SettingsKeys.h. The view has sizes of its own.
     unsigned char keepMarkerSize = 0;

@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "app/dialogs/BackgroundDialog.h"
 #include "cutout/PictureFile.h"
 
@@ -21,6 +22,8 @@ void MainWindow::on_actionSelect_Background_triggered()
     dialog.exec();
     if (!dialog.accepted)
         return;
+    const WaitCursor busy;
+    repaintAfterDialog();
     if (dialog.useColor) {
         backgroundColor = dialog.color;
         backgroundImage = QImage();
@@ -42,7 +45,8 @@ void MainWindow::on_actionBackgroundZoomMinus_triggered()
 
 void MainWindow::scaleBackground(double factor)
 {
-    if (backgroundImage.isNull() || backgroundItem == nullptr)
+    if (backgroundImage.isNull() || backgroundItem == nullptr || previewItem == nullptr)
         return;
     backgroundItem->setTransform(QTransform::fromScale(factor, factor), true);
+    framePreview();
 }

@@ -69,18 +69,16 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
     // QImage::copy() takes an empty rectangle for the whole picture.
     const QImage before = batch.box.isEmpty() ? QImage() : previewImage.copy(batch.box);
     cutout::changeAlpha(previewImage, batch.pixels, alphaChange);
-    updatePixmap(*previewItem, previewImage, batch.box);
-    QPixmap after = previewItem->pixmap(); // up to date already; the entry's first redo shows it once more
-    undoStack.push(new CBrushCommand(previewItem, batch.box, &after, &previewImage, before));
+    const auto show = [this](const QRect &area) { showCutOut(area); };
+    undoStack.push(new CBrushCommand(show, batch.box, &previewImage, before));
 }
 
-// A brush entry changes the picture and shows that in the item it was made for. Once the preview has been
-// built anew that item is gone, and the one that took its place has to follow the picture.
-void MainWindow::showChangeByOlderEntry(int undoIndex)
+// All that changes the cut-out ends here, undo entries included, which outlive the item that they were made
+// for: every background choice brings another one.
+void MainWindow::showCutOut(const QRect &area)
 {
-    const bool older = entriesOlderThanPreviewItem > 0 && undoIndex <= entriesOlderThanPreviewItem;
-    if (older && previewItem != nullptr && !previewImage.isNull())
-        updatePixmap(*previewItem, previewImage, previewImage.rect());
+    if (previewItem != nullptr && !previewImage.isNull())
+        updatePixmap(*previewItem, previewImage, area);
 }
 
 void MainWindow::on_HandToolPressed(QPoint prevpos, QPoint pos)

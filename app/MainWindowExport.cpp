@@ -3,15 +3,19 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "app/dialogs/ExportDialog.h"
+#include "core/Truncation.h"
 #include "cutout/ExportComposition.h"
 #include "cutout/PictureFile.h"
-#include "imaging/Truncation.h"
+#include "ui_MainWindow.h"
 
 #include <QDebug>
 #include <QFileInfo>
 #include <QGraphicsPixmapItem>
 #include <QMessageBox>
+
+#include <new>
 
 namespace {
 
@@ -26,7 +30,8 @@ QSize extentOf(const QGraphicsPixmapItem &item)
 {
     const QSizeF size = item.boundingRect().size();
     const QTransform zoom = item.transform();
-    return {truncateToInt(size.width() * zoom.m11()), truncateToInt(size.height() * zoom.m22())};
+    return {ornevo::truncateToInt(size.width() * zoom.m11()),
+            ornevo::truncateToInt(size.height() * zoom.m22())};
 }
 
 } // namespace
@@ -43,13 +48,9 @@ void MainWindow::on_actionExport_triggered()
     int height = 0;
     QString fileName;
     dialog.GetSettings(&width, &height, &fileName); // a file that was chosen is written, Cancel or not
-    if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
-        return;
-
     const QString suffix = QFileInfo(fileName).suffix();
-    const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
-    cutout::writePicture(cutout::composeExport(layers, QSize(width, height)).toImage(), fileName,
-                         suffix.toLatin1());
+    if (!exportTo(fileName, suffix.toLatin1(), QSize(width, height)))
+        return;
     if (qAlpha(backgroundColor) != 255 && isJpeg(suffix))
         QMessageBox::warning(
             nullptr, tr("Transparency was lost"),
@@ -58,12 +59,27 @@ void MainWindow::on_actionExport_triggered()
             QMessageBox::Ok);
 }
 
+bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSize size)
+{
+    const WaitCursor busy;
+    repaintAfterDialog();
+    if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
+        return false;
+    try {
+        const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset,
+                                          extentOf(*backgroundItem)};
+        cutout::writePicture(cutout::composeExport(layers, size).toImage(), fileName, format);
+    } catch (const std::bad_alloc &) {
+        form->statusBar->showMessage(tr("Not enough memory to export"));
+        return false;
+    }
+    return true;
+}
+
 QPixmap MainWindow::exportCanvas() const
 {
     if (!backgroundImage.isNull())
-        return QPixmap::fromImage(backgroundImage);
+        return cutout::asPixmap(backgroundImage);
     // The colour alone: the chessboard of the preview only stands for what is transparent.
-    QImage canvas(backgroundItem->pixmap().size(), QImage::Format_ARGB32);
-    canvas.fill(backgroundColor);
-    return QPixmap::fromImage(std::move(canvas));
+    return cutout::colourCanvas(backgroundItem->pixmap().size(), backgroundColor);
 }

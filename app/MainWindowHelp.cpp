@@ -13,7 +13,8 @@ namespace {
 
 QString authorship()
 {
-    return MainWindow::tr("Ornevo cuts objects out of photographs.\nMade by the Ornevo developers, 2026.");
+    return MainWindow::tr("Ornevo cuts objects out of photographs.\n"
+                          "Made by the Ornevo developers, 2026. https://ornevo.example");
 }
 
 } // namespace

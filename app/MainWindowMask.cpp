@@ -3,8 +3,11 @@
 
 #include "app/MainWindow.h"
 
+#include "app/ProgressStep.h"
+#include "app/WaitCursor.h"
 #include "canvas/MarkerDabs.h"
 #include "canvas/PictureItem.h"
+#include "canvas/SceneLayers.h"
 #include "cutout/IndexPicture.h"
 #include "segmentation/FrWatershed.h"
 #include "ui_MainWindow.h"
@@ -25,33 +28,46 @@ void MainWindow::updatemask()
 {
     delete maskItem.get(); // takes it off the scene as well
     maskItem = nullptr;
+    memoryRanOut = false;
     if (topmostPicture() == nullptr)
         return;
 
+    const WaitCursor busy;
     form->statusBar->showMessage(tr("Isolating object"));
-    form->progressBar->show();
+    const ProgressStep progress(form->progressBar);
     outmask.clear();
     qWarning() << "outmask size before watd is" << outmask.size();
     try {
         markers::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
         FrWatershed(&workingImage, seeds.keep, seeds.remove, outmask, edgeMap.get(), form->progressBar);
     } catch (const std::bad_alloc &) {
-        outmask = {}; // short of memory, the picture has no mask; the program goes on
+        outmask = {}; // the picture has no mask; the program goes on
+        memoryRanOut = true;
     }
     qWarning() << "outmask size after watd is" << outmask.size();
-    form->progressBar->hide();
 }
 
 void MainWindow::on_actionMask_triggered()
 {
     constexpr QRgb green = qRgb(0, 255, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
+    const WaitCursor busy;
+    const QString noMemory = tr("Not enough memory for a mask");
     updatemask();
+    if (memoryRanOut) {
+        form->statusBar->showMessage(noMemory);
+        return;
+    }
     form->statusBar->showMessage(tr("Displaying image"));
-    const QImage overlay = cutout::paintIndices(workingImage.size(), outmask, green, white);
-    maskItem = new PictureItem(QPixmap::fromImage(overlay));
+    const QPixmap overlay =
+        QPixmap::fromImage(cutout::paintIndices(workingImage.size(), outmask, green, white));
+    if (overlay.isNull() && !workingImage.isNull()) {
+        form->statusBar->showMessage(noMemory);
+        return;
+    }
+    maskItem = new PictureItem(overlay);
     imageScene.addItem(maskItem);
-    maskItem->setZValue(markers::maskOverlayZ);
+    maskItem->setZValue(layers::maskOverlayZ);
     maskItem->setOpacity(maskOpacity);
     maskItem->setVisible(true);
     form->statusBar->showMessage(tr("Ready"));

@@ -3,11 +3,12 @@
 
 #include "app/MainWindow.h"
 
+#include "app/ProgressStep.h"
+#include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SettingsKeys.h"
 #include "cutout/PictureFile.h"
 #include "imaging/EdgeMap.h"
-#include "imaging/LargeMemory.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
@@ -20,10 +21,10 @@
 namespace {
 
 /// Null when memory is short.
-LargeArray<unsigned char> bytesFor(const QImage &picture)
+ornevo::LargeArray<unsigned char> bytesFor(const QImage &picture)
 {
-    return makeLargeArray<unsigned char>(static_cast<std::size_t>(picture.width()) *
-                                         static_cast<std::size_t>(picture.height()));
+    return ornevo::makeLargeArray<unsigned char>(static_cast<std::size_t>(picture.width()) *
+                                                 static_cast<std::size_t>(picture.height()));
 }
 
 } // namespace
@@ -43,6 +44,8 @@ void MainWindow::on_actionOpen_triggered()
         form->statusBar->showMessage(tr("No file selected"));
         return;
     }
+    const WaitCursor busy;
+    repaintAfterDialog();
     open();
     // Whether or not the picture could be read, what belonged to the one before goes.
     isOriginalFile = true;
@@ -56,6 +59,7 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::open()
 {
+    const WaitCursor busy;
     settings.setValue(settings::currentDirectory.name, QFileInfo(currentFile).canonicalPath());
     imageScene.clear();
     previewScene.clear();
@@ -65,38 +69,45 @@ void MainWindow::open()
     const QImage picture = cutout::readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
     // All the memory that the picture takes is got before anything refers to the picture.
     const QPixmap pixmap = QPixmap::fromImage(picture);
-    LargeArray<unsigned char> edges = bytesFor(picture);
+    ornevo::LargeArray<unsigned char> edges = bytesFor(picture);
     if (pixmap.isNull() || edges == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;
     }
+    form->hint->hide();
     setWindowTitle("Ornevo Pro - " + QFileInfo(currentFile).fileName());
     form->statusBar->showMessage(tr("image opened"));
 
     imagePixmap = pixmap;
     imageScene.addItem(new PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
+    // The canvas scales with its size: scroll bars that come later, with the first zoom, would scale it too.
+    form->graphicsView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    form->graphicsView->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     form->graphicsView->setScene(&imageScene);
     form->graphicsView->fitInView(imageScene.sceneRect(), Qt::KeepAspectRatio);
     form->graphicsView->setCacheMode(QGraphicsView::CacheBackground);
     form->graphicsView->show();
 
     form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
-    form->progressBar->show();
-    workingImage = picture;
-    edgeMap = std::move(edges);
-    colorsobel();
-    form->progressBar->hide();
-    form->statusBar->showMessage(tr("Ready"));
+    {
+        const ProgressStep progress(form->progressBar);
+        workingImage = picture;
+        edgeMap = std::move(edges);
+        colorsobel();
+    }
+    form->statusBar->showMessage(memoryRanOut ? tr("Not enough memory to find the edges") : tr("Ready"));
 }
 
 void MainWindow::colorsobel()
 {
+    memoryRanOut = false;
     if (edgeMap == nullptr)
         return;
     try {
-        computeEdgeMap(workingImage, edgeMap.get());
+        imaging::computeEdgeMap(workingImage, edgeMap.get());
     } catch (const std::bad_alloc &) { // short of memory, there are no edges; differences of colour remain
+        memoryRanOut = true;
         std::fill_n(edgeMap.get(), workingImage.sizeInBytes() / 4, std::uint8_t{0});
     }
 }

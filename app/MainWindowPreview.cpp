@@ -3,11 +3,13 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
+#include "canvas/SceneLayers.h"
 #include "cutout/BackgroundLayer.h"
 #include "cutout/CutOut.h"
+#include "cutout/FourChannelBlur.h"
 #include "cutout/IndexPicture.h"
-#include "imaging/FourChannelBlur.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -16,49 +18,33 @@
 
 namespace {
 
-constexpr qreal backgroundZ = 0.0;
-constexpr qreal objectZ = 10.0;
 constexpr double sizeToSigma = 5.0;
 
 } // namespace
 
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
+    const WaitCursor busy;
     if (checked) {
         updatemask();
         setEditingActionsEnabled(false);
-        form->graphicsView->SetTool(ToolNone);
-        form->actionBackground_Brush->setChecked(false);
-        form->actionForeground_Brush->setChecked(false);
-        form->actionHandTool->setChecked(false);
+        putToolsDown(false);
         previewImage = QImage();
         updatepreview();
         form->graphicsView->setScene(&previewScene);
     } else {
         setEditingActionsEnabled(true);
         form->graphicsView->setScene(&imageScene);
-        form->graphicsView->SetTool(ToolNone);
-        form->actionKeep_arker->setChecked(false);
-        form->action_Remove_Marker->setChecked(false);
-        form->actionEraser->setChecked(false);
+        putToolsDown(true);
     }
-}
-
-void MainWindow::setEditingActionsEnabled(bool editing)
-{
-    for (QAction *action :
-         {form->actionMask, form->actionKeep_arker, form->action_Remove_Marker, form->actionEraser})
-        action->setEnabled(editing);
-    for (QAction *action :
-         {form->actionForeground_Brush, form->actionBackground_Brush, form->actionHandTool,
-          form->actionSelect_Background, form->actionBackgroundZoomMinus, form->actionBackgroundZoomPlus})
-        action->setEnabled(!editing);
 }
 
 void MainWindow::updatepreview()
 {
+    const WaitCursor busy;
     updatepreviewmask();
-    if (maskImage.isNull() && !workingImage.isNull()) { // without a mask all of the photo would be shown
+    // Without a mask all of the photo would be shown, or nothing of it.
+    if (memoryRanOut || (maskImage.isNull() && !workingImage.isNull())) {
         previewScene.clear();
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
@@ -73,20 +59,18 @@ void MainWindow::updatepreviewmask()
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
     QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
-    maskImage = smoothEdges ? roomForBlur(sharp, gaussSize) : QImage();
-    if (maskImage.isNull())
-        maskImage = sharp; // not to be smoothed, or no room for that
-    else
+    maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : sharp;
+    if (smoothEdges && !maskImage.isNull())
         blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
 }
 
 void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
 {
     try {
-        blurFourChannels(*src, *dst, size, sigma,
-                         [this](int percent) { form->progressBar->setValue(percent); });
+        cutout::blurFourChannels(*src, *dst, size, sigma,
+                                 [this](int percent) { form->progressBar->setValue(percent); });
     } catch (const std::bad_alloc &) {
-        *dst = src->copy(); // short of memory, the border stays hard; the program goes on
+        *dst = QImage(); // a hard border for a soft one would go unnoticed
     }
 }
 
@@ -95,16 +79,32 @@ void MainWindow::applypreviewmask()
     previewScene.clear(); // first, so that its pictures and the new ones are never there together
     QPixmap background;
     QPixmap object;
-    applypreviewmasktopixmap(&background, &object);
+    try {
+        applypreviewmasktopixmap(&background, &object);
+    } catch (const std::bad_alloc &) { // what could not be made is null
+    }
+    const bool photoShown = topmostPicture() != nullptr && !workingImage.isNull();
+    if (photoShown && (background.isNull() || object.isNull())) { // nothing there, nothing to export
+        form->statusBar->showMessage(tr("Not enough memory for a preview"));
+        return;
+    }
     backgroundItem = new PictureItem(background);
     previewItem = new PictureItem(object);
-    entriesOlderThanPreviewItem = undoStack.count();
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);
-    backgroundItem->setZValue(backgroundZ);
-    previewItem->setZValue(objectZ);
+    backgroundItem->setZValue(layers::backgroundZ);
+    previewItem->setZValue(layers::objectZ);
     previewItem->setPos(previewOffset);
+    framePreview();
     form->statusBar->showMessage(tr("Ready"));
+}
+
+// Without a frame of its own the scene would grow with the object under the hand, and a centred view follow
+// it at half the pointer's speed; and it would never shrink for a smaller photo.
+void MainWindow::framePreview()
+{
+    const QRectF photo(previewItem->pixmap().rect()); // where it lies before any hand moves it
+    previewScene.setSceneRect(photo.united(backgroundItem->sceneBoundingRect()));
 }
 
 void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)

@@ -3,27 +3,52 @@
 
 #include "app/MainWindow.h"
 
+#include "app/WaitCursor.h"
+#include "cutout/FlatPicture.h"
 #include "cutout/PictureFile.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
 #include <QGraphicsPixmapItem>
 #include <QMessageBox>
-#include <QPainter>
+
+#include <new>
 
 void MainWindow::save(const QString &path)
 {
+    writeScene(path);
+}
+
+// False when there was no memory for what was to be written: then all that the user has is in the window, and
+// stays there.
+bool MainWindow::writeScene(const QString &path)
+{
     const QGraphicsPixmapItem *picture = topmostPicture();
     if (picture == nullptr || picture->pixmap().isNull())
-        return;
-    QPixmap pixmap = picture->pixmap();
-    pixmap.setMask(emptyMask); // an empty mask drops whatever transparency there was
-    QImage flat(pixmap.size(), QImage::Format_ARGB32);
-    flat.fill(0xFFFFFFFF);
-    QPainter painter(&flat);
-    painter.drawPixmap(0, 0, pixmap);
-    painter.end();
-    cutout::writePicture(flat, path, "JPG");
+        return true;
+    try {
+        const QImage flat = cutout::flattened(picture->pixmap(), emptyMask);
+        if (flat.isNull())
+            throw std::bad_alloc();
+        cutout::writePicture(flat, path, "JPG");
+        return true;
+    } catch (const std::bad_alloc &) {
+        form->statusBar->showMessage(tr("Not enough memory to save"));
+        return false;
+    }
+}
+
+// False when nothing was written for want of memory: the photo that is open stays.
+bool MainWindow::saveAndReopen(const QString &path)
+{
+    const WaitCursor busy;
+    repaintAfterDialog();
+    form->actionPreview->setChecked(false); // as opening does: the cut-out goes with the photo
+    if (!writeScene(path))
+        return false;
+    currentFile = path;
+    open();
+    return true;
 }
 
 void MainWindow::on_actionSave_triggered()
@@ -36,8 +61,7 @@ void MainWindow::on_actionSave_triggered()
         if (answer != QMessageBox::Yes)
             return;
     }
-    save(currentFile);
-    open();
+    saveAndReopen(currentFile);
 }
 
 void MainWindow::on_actionSave_As_triggered()
@@ -48,8 +72,6 @@ void MainWindow::on_actionSave_As_triggered()
         form->statusBar->showMessage(tr("No file selected"));
         return;
     }
-    currentFile = name;
-    save(currentFile);
-    open();
-    isOriginalFile = false;
+    if (saveAndReopen(name))
+        isOriginalFile = false;
 }

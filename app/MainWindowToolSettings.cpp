@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "app/MainWindow.h"
-
+#include "app/ToolActions.h"
 #include "app/dialogs/OptionsDialog.h"
-#include "canvas/SettingsKeys.h"
-#include "ui_MainWindow.h"
 
 namespace {
 
@@ -15,11 +12,6 @@ unsigned char byteFrom(int value)
     return static_cast<unsigned char>(value);
 }
 
-bool inUse(const QAction *tool)
-{
-    return tool->isEnabled() && tool->isChecked();
-}
-
 } // namespace
 
 void MainWindow::updatetoolssettings()
@@ -27,14 +19,11 @@ void MainWindow::updatetoolssettings()
     const auto stored = [this](const settings::Key &key) {
         return settings.value(key.name, key.windowDefault);
     };
-    keepMarkerSize = byteFrom(stored(settings::keepMarkerSize).toInt());
-    removeMarkerSize = byteFrom(stored(settings::removeMarkerSize).toInt());
-    keepBrushSize = byteFrom(stored(settings::keepBrushSize).toInt());
-    removeBrushSize = byteFrom(stored(settings::removeBrushSize).toInt());
-    eraserSize = byteFrom(stored(settings::eraserSize).toInt());
+    for (const ToolAction &row : ToolTable::rows)
+        for (const ToolSetting &setting : {row.size, row.intensity})
+            if (setting.key != nullptr)
+                this->*setting.member = byteFrom(stored(*setting.key).toInt());
     maskOpacity = static_cast<float>(stored(settings::maskOpacity).toDouble());
-    brushIntensityKeep = byteFrom(stored(settings::keepBrushIntensity).toInt());
-    brushIntensityRemove = byteFrom(stored(settings::removeBrushIntensity).toInt());
     smoothEdges = stored(settings::smoothEdges).toBool();
     gaussSize = stored(settings::gaussSize).toInt();
 }
@@ -56,46 +45,44 @@ void MainWindow::on_actionDecreaseBrushIntensity_triggered()
     stepBrushIntensity(-1);
 }
 
-void MainWindow::stepToolSize(int step)
+const MainWindow::ToolAction *MainWindow::toolInUse(ToolSetting ToolAction::*setting) const
 {
-    const bool keepInUse = form->actionKeep_arker->isChecked();
-    const bool sameSize = settings.value(settings::sameSize.name, settings::sameSize.windowDefault).toBool();
-    if (form->actionKeep_arker->isEnabled() && (keepInUse || sameSize)) {
-        changeToolSize(keepMarkerSize, keepInUse ? tr("Foreground marker size is %1") : tr("Tool size is %1"),
-                       settings::keepMarkerSize.name, step);
-    } else if (inUse(form->action_Remove_Marker)) {
-        changeToolSize(removeMarkerSize, tr("Background marker size is %1"), settings::removeMarkerSize.name,
-                       step);
-    } else if (inUse(form->actionBackground_Brush)) {
-        changeToolSize(removeBrushSize, tr("Background brush size is %1"), settings::removeBrushSize.name,
-                       step);
-        form->graphicsView->updateellipse(removeBrushSize);
-    } else if (inUse(form->actionForeground_Brush)) {
-        changeToolSize(keepBrushSize, tr("Foreground brush size is %1"), settings::keepBrushSize.name, step);
-        form->graphicsView->updateellipse(keepBrushSize);
+    for (const ToolAction &row : ToolTable::rows) {
+        const QAction *action = form.get()->*row.action;
+        if ((row.*setting).message != nullptr && action->isEnabled() && action->isChecked())
+            return &row;
     }
+    return nullptr;
 }
 
-void MainWindow::changeToolSize(unsigned char &size, const QString &message, const char *key, int step)
+void MainWindow::stepToolSize(int step)
 {
-    size = byteFrom(size + step);
-    form->statusBar->showMessage(message.arg(int{size}));
-    settings.setValue(key, int{size});
-    form->graphicsView->updatetoolssettings();
+    const ToolAction *used = toolInUse(&ToolAction::size);
+    const ToolAction &keepMarker = ToolTable::rows.front();
+    if (used != &keepMarker && form->actionKeep_arker->isEnabled() &&
+        settings.value(settings::sameSize.name, settings::sameSize.windowDefault).toBool()) {
+        changeByte(keepMarker.size, tr("Tool size is %1"), step); // which is that of every tool
+        form->graphicsView->updatetoolssettings();
+    } else if (used != nullptr) {
+        changeByte(used->size, tr(used->size.message), step);
+        form->graphicsView->updatetoolssettings();
+        if (used->mode == ToolAction::Mode::Previewing)
+            form->graphicsView->updateellipse(this->*used->size.member);
+    }
 }
 
 void MainWindow::stepBrushIntensity(int step)
 {
-    const auto change = [this, step](unsigned char &intensity, const QString &message, const char *key) {
-        intensity = byteFrom(intensity + step);
-        form->statusBar->showMessage(message.arg(int{intensity}));
-        settings.setValue(key, int{intensity});
-    };
-    if (inUse(form->actionBackground_Brush))
-        change(brushIntensityRemove, tr("Background brush intensity is %1"),
-               settings::removeBrushIntensity.name);
-    else if (inUse(form->actionForeground_Brush))
-        change(brushIntensityKeep, tr("Foreground brush intensity is %1"), settings::keepBrushIntensity.name);
+    if (const ToolAction *used = toolInUse(&ToolAction::intensity))
+        changeByte(used->intensity, tr(used->intensity.message), step);
+}
+
+void MainWindow::changeByte(const ToolSetting &setting, const QString &message, int step)
+{
+    unsigned char &value = this->*setting.member;
+    value = byteFrom(value + step);
+    form->statusBar->showMessage(message.arg(int{value}));
+    settings.setValue(setting.key->name, int{value});
 }
 
 void MainWindow::on_actionPreferences_triggered()

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/MainWindow.h"
+#include "app/SettingsFile.h"
+#include "app/Translations.h"
+#include "canvas/UndoSnapshot.h"
 
 #include <QApplication>
 
@@ -11,6 +14,9 @@ int main(int argc, char *argv[])
     // These two words scope the settings store.
     QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
     QApplication::setOrganizationName("Tirelo software");
+    avoidSpecialSettingsFiles();
+    removeAbandonedSnapshots();
+    translations::installForDesktop();
     MainWindow window(nullptr);
     QObject::connect(&window, SIGNAL(mwquit()), &application, SLOT(quit()));
     window.show();

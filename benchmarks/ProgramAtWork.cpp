@@ -5,6 +5,7 @@
 
 #include "benchmarks/BenchmarkPictures.h"
 #include "canvas/MarkerDabs.h"
+#include "canvas/SceneLayers.h"
 
 #include <QAction>
 #include <QGraphicsRectItem>
@@ -53,9 +54,9 @@ void ProgramAtWork::layMarks()
         for (double x = dabSide; x < size().width() - 2.0 * dabSide; x += 1.5 * dabSide) {
             const QRectF dab(x, middle + 3 * dabSide * std::sin(x / 400), dabSide, dabSide);
             if (stroke % 2 == 0)
-                m_state.imageScene().addRect(dab)->setZValue(markers::dabZ);
+                m_state.imageScene().addRect(dab)->setZValue(layers::dabZ);
             else
-                m_state.imageScene().addEllipse(dab, QPen(removeColour))->setZValue(markers::dabZ);
+                m_state.imageScene().addEllipse(dab, QPen(removeColour))->setZValue(layers::dabZ);
         }
     }
 }

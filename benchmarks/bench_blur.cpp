@@ -5,7 +5,7 @@
 
 #include "benchmarks/BenchmarkPictures.h"
 #include "benchmarks/Measuring.h"
-#include "imaging/FourChannelBlur.h"
+#include "cutout/FourChannelBlur.h"
 
 #include <benchmark/benchmark.h>
 
@@ -53,7 +53,7 @@ void blur(benchmark::State &state, QImage (*pictureOf)(int), int size)
 {
     const QImage picture = pictureOf(measuring::megapixelsOf(state));
     QImage smooth = picture.copy();
-    measuring::repeat(state, [&] { blurFourChannels(picture, smooth, size, size / 5.0, {}); });
+    measuring::repeat(state, [&] { cutout::blurFourChannels(picture, smooth, size, size / 5.0, {}); });
     measuring::perPixel(state, picture.size());
 }
 

@@ -23,7 +23,7 @@ void edgeMap(benchmark::State &state, const QImage &picture)
 {
     const auto edges = std::make_unique<std::uint8_t[]>(static_cast<std::size_t>(picture.sizeInBytes() / 4));
     measuring::repeat(state, [&] {
-        computeEdgeMap(picture, edges.get());
+        imaging::computeEdgeMap(picture, edges.get());
         benchmark::DoNotOptimize(edges.get()[0]);
     });
     measuring::perPixel(state, picture.size());

@@ -7,8 +7,8 @@
 #include "benchmarks/Measuring.h"
 #include "cutout/BackgroundLayer.h"
 #include "cutout/CutOut.h"
+#include "cutout/FourChannelBlur.h"
 #include "cutout/IndexPicture.h"
-#include "imaging/FourChannelBlur.h"
 
 #include <benchmark/benchmark.h>
 
@@ -70,7 +70,7 @@ void roomForMask(benchmark::State &state)
 {
     const Subject &subject = subjectOf(state);
     const QImage mask = cutout::paintIndices(subject.photo.size(), subject.indices, black, white);
-    oneStep(state, [&](const Subject &) { return roomForBlur(mask, 5); });
+    oneStep(state, [&](const Subject &) { return cutout::blurDestination(mask, 5); });
 }
 
 void maskToCutOut(benchmark::State &state)

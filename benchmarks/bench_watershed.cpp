@@ -40,7 +40,7 @@ Scene &scene(int megapixels)
         on.picture = benchmarkpictures::photoMosaic(megapixels);
         on.edges.resize(static_cast<std::size_t>(on.picture.width()) *
                         static_cast<std::size_t>(on.picture.height()));
-        computeEdgeMap(on.picture, on.edges.data());
+        imaging::computeEdgeMap(on.picture, on.edges.data());
     }
     return on;
 }

@@ -3,28 +3,40 @@
 
 #pragma once
 
-#include "canvas/ItemPointer.h"
+#include "canvas/UndoSnapshot.h"
 
 #include <QGraphicsPixmapItem>
 #include <QImage>
 #include <QPixmap>
 #include <QRect>
-#include <QTemporaryFile>
 #include <QUndoCommand>
 
-/// Undo of one batch of brush dabs: keeps the pixels of the box around them from before and after.
-///
-/// With the first redo() the pixels move into a temporary file, so that a long history costs disk and not
-/// memory; where no file can be written they stay in memory. The file goes with the command. The first
-/// redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the picture already.
+#include <functional>
+
+/// Undo of one batch of brush dabs: keeps the pixels of the box around them as they were before, and once
+/// they are undone as they were after. With the first redo() they move into a temporary file, which goes with
+/// the command. The first redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the
+/// picture already.
 class CBrushCommand : public QUndoCommand
 {
 public:
-    /// \param item        shows the picture; borrowed, and left alone once it is gone
-    /// \param area        the box around the dabs, in pixels of the picture; may reach outside it
+    /// Has whatever shows the picture now show what has changed in `area`.
+    using Show = std::function<void(const QRect &area)>;
+
+    /// \param show   called after every change, the first redo() included; what it borrows
+    ///               must outlive the command
+    /// \param area   the box around the dabs, in pixels of the picture; may reach outside it
+    /// \param image  the picture, already brushed; borrowed, must outlive the command
+    /// \param before the pixels of `area` before the batch; null when `area` is empty
+    CBrushCommand(Show show, const QRect &area, QImage *image, const QImage &before);
+
+    /// For one item that shows the picture as long as it lives.
+    ///
+    /// \param item        borrowed, and left alone once it is gone
+    /// \param area        as above
     /// \param afterPixmap the whole picture as it is after the batch; need only live until the first redo()
-    /// \param image       the picture, already brushed; borrowed, must outlive the command
-    /// \param before      the pixels of `area` before the batch; null when `area` is empty
+    /// \param image       as above
+    /// \param before      as above
     CBrushCommand(QGraphicsPixmapItem *item, const QRect &area, QPixmap *afterPixmap, QImage *image,
                   const QImage &before);
 
@@ -32,16 +44,12 @@ public:
     void redo() override;
 
 private:
-    void showFirstTime();
-    void moveToDisk();
-    void loadFromDisk();
-    void putBack(const QImage &pixels);
+    void swapPixels();
 
-    ItemPointer<QGraphicsPixmapItem> m_item;
+    Show m_show;
+    std::function<void()> m_showFirst; ///< for the first redo(); empty afterwards
     QRect m_area;
-    QPixmap *m_afterPixmap;
     QImage *m_image;
-    QImage m_before;
-    QImage m_after;
-    QTemporaryFile m_store;
+    UndoSnapshot m_snapshot;
+    bool m_holdsBefore = true; ///< what the snapshot is of
 };

@@ -16,3 +16,6 @@ enum DrawingTools {
     ToolHand = 7,         ///< actionHandTool
     ToolBlueMarker = 8    ///< actionBlueMarker, which has no button
 };
+
+inline constexpr int toolCount = ToolBlueMarker + 1;
+inline constexpr int toolsWithoutAction = 2; ///< ToolNone and ToolPen

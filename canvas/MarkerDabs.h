@@ -18,10 +18,6 @@ inline constexpr QRgb removeColour = qRgb(255, 10, 10); ///< for the eye only
 inline constexpr QRgb blueColour = qRgb(10, 10, 255);   ///< seedsOf() tells the Blue marker by it
 inline constexpr QRgb penColour = qRgb(255, 255, 10);   ///< for the eye only
 
-inline constexpr qreal dabZ = 10.0;
-inline constexpr qreal maskOverlayZ = 7.0; ///< above the photo, below the dabs
-inline constexpr qreal brushOutlineZ = 20.0;
-
 /// Pixel indices (y · width + x) under the dabs; see appendSeedSquare().
 struct Seeds
 {

@@ -82,7 +82,12 @@ int reachOfChange(const QGraphicsItem &item)
 
 } // namespace
 
-PictureItem::PictureItem(const QPixmap &pixmap) : QGraphicsPixmapItem(pixmap) {}
+PictureItem::PictureItem(const QPixmap &pixmap) : QGraphicsPixmapItem(pixmap)
+{
+    // By default the shape is made of all the pixels' alpha, after every change anew, as soon as somebody
+    // presses a button or asks what lies where.
+    setShapeMode(BoundingRectShape);
+}
 
 void PictureItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*option*/, QWidget * /*widget*/)
 {
@@ -126,33 +131,40 @@ void PictureItem::renewReduced(const QRect &area)
     m_reducedFrom = pixmap().cacheKey();
 }
 
-void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area)
+void PictureItem::renew(const QImage &image, const QRect &area)
 {
-    QPixmap pixmap = item.pixmap();
-    if (pixmap.size() != image.size() || !pixmap.hasAlphaChannel()) {
+    QPixmap shown = pixmap();
+    if (shown.size() != image.size() || !shown.hasAlphaChannel()) {
         // An opaque picture stays convertible piece by piece once its pixmap has room for alpha.
-        item.setPixmap(QPixmap::fromImage(image, Qt::NoOpaqueDetection));
+        setPixmap(QPixmap::fromImage(image, Qt::NoOpaqueDetection));
         return;
     }
     const QRect changed = area.intersected(image.rect());
     if (changed.isEmpty())
         return;
-    auto *picture = dynamic_cast<PictureItem *>(&item);
-    const bool reducedIsCurrent = picture != nullptr && picture->m_reducedFrom == pixmap.cacheKey();
+    const bool reducedIsCurrent = m_reducedFrom == shown.cacheKey();
     {
-        const RepaintsHeldBack held(item.scene());
-        item.setPixmap(QPixmap()); // painting on a shared pixmap would copy all of it
-        QPainter painter(&pixmap);
+        const RepaintsHeldBack held(scene());
+        setPixmap(QPixmap()); // painting on a shared pixmap would copy all of it
+        QPainter painter(&shown);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
         painter.drawImage(changed.topLeft(),
                           image.copy(changed).convertToFormat(QImage::Format_ARGB32_Premultiplied));
         painter.end();
-        item.setPixmap(pixmap);
+        setPixmap(shown);
         if (reducedIsCurrent)
-            picture->renewReduced(changed);
+            renewReduced(changed);
     }
-    if (item.scene() != nullptr) {
-        const int reach = reachOfChange(item);
-        item.update(QRectF(changed.adjusted(-reach, -reach, reach, reach)));
+    if (scene() != nullptr) {
+        const int reach = reachOfChange(*this);
+        update(QRectF(changed.adjusted(-reach, -reach, reach, reach)));
     }
+}
+
+void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area)
+{
+    if (auto *picture = dynamic_cast<PictureItem *>(&item))
+        picture->renew(image, area);
+    else
+        item.setPixmap(QPixmap::fromImage(image));
 }

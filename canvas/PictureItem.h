@@ -20,9 +20,12 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
-private:
-    friend void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area);
+    /// Brings the pixels of `area` in the pixmap up to date with `image`, a picture in Format_ARGB32 of the
+    /// same size. Only these are converted and repainted; a pixmap of another size or without alpha is
+    /// replaced as a whole.
+    void renew(const QImage &image, const QRect &area);
 
+private:
     [[nodiscard]] const QImage *reducedFor(qreal scale);
     void renewReduced(const QRect &area);
 
@@ -30,7 +33,6 @@ private:
     qint64 m_reducedFrom = 0;      ///< cache key of the pixmap that m_reduced was made from
 };
 
-/// Brings the pixels of `area` in the pixmap of `item` up to date with `image`, a picture in Format_ARGB32 of
-/// the same size. Only these are converted and repainted; a pixmap of another size or without alpha is
-/// replaced as a whole.
+/// Has `item` show `image`, of which `area` has changed: a PictureItem renews that alone, any other item gets
+/// a new pixmap.
 void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area);

@@ -3,7 +3,7 @@
 
 #include "canvas/SeedSquare.h"
 
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -13,9 +13,9 @@ namespace markers {
 
 void appendSeedSquare(const QRectF &rect, QSize size, QList<int> &seeds)
 {
-    const std::int64_t left = truncateToInt(rect.x());
-    const std::int64_t top = truncateToInt(rect.y());
-    const std::int64_t side = truncateToInt(rect.width());
+    const std::int64_t left = ornevo::truncateToInt(rect.x());
+    const std::int64_t top = ornevo::truncateToInt(rect.y());
+    const std::int64_t side = ornevo::truncateToInt(rect.width());
     const std::int64_t columns = std::min<std::int64_t>(side, size.width() - left);
     const std::int64_t rows = std::min<std::int64_t>(side, size.height() - top);
     if (columns <= 0 || rows <= 0)

@@ -3,11 +3,16 @@
 
 #pragma once
 
+#include <array>
+
 /// \file
 /// The settings that the program keeps, and what each of its readers takes for a key that is not stored.
 /// Defaults are texts, as a settings file holds them; null means that the reader does not read the key. On
 /// Linux the file is ~/.config/Tirelo software/Ornevo Pro 2.7 for Mac OS X.conf, by the names in
 /// app/main.cpp.
+///
+/// A new setting needs its key here, in `all` as well, a widget with that key as its `settingsKey` in
+/// OptionsDialog.ui, and whoever reads it.
 ///
 /// To change a default, change it in every column that is not null, unless the columns differ: the window
 /// brushes with the intensities of its own column until OK in the preferences, or a key that steps them,
@@ -38,10 +43,16 @@ inline constexpr Key maskOpacity{"MOPACITY", "0.6", "0.6", "0.6"};
 // What a batch of brush dabs adds to the alpha, or takes from it; 0 .. 254.
 inline constexpr Key keepBrushIntensity{"KEEPBINTEN", "150", nullptr, "50"};
 inline constexpr Key removeBrushIntensity{"REMOVEBINTEN", "100", nullptr, "20"};
-/// Whether the border of the cut-out is smoothed, and with how many taps, 1 .. 15; see blurFourChannels().
+/// Whether the border of the cut-out is smoothed, and with how many taps, 1 .. 15; see cutout::blurFourChannels().
 inline constexpr Key smoothEdges{"SMOOTHEDGESCHECKED", "true", nullptr, "true"};
 inline constexpr Key gaussSize{"GOUSSIZE", "5", nullptr, "5"};
 /// The folder of the photo that was opened last, where file dialogs begin.
 inline constexpr Key currentDirectory{"CurrDir", "", nullptr, ""};
+
+/// Every key, in the order in which the preferences write theirs.
+inline constexpr std::array all{
+    &sameSize,        &smoothEdges, &keepMarkerSize,  &removeMarkerSize,   &keepBrushSize,
+    &removeBrushSize, &eraserSize,  &maskOpacity,     &keepBrushIntensity, &removeBrushIntensity,
+    &blueMarkerSize,  &gaussSize,   &currentDirectory};
 
 } // namespace settings

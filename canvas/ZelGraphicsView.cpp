@@ -3,26 +3,18 @@
 
 #include "canvas/ZelGraphicsView.h"
 
-#include "canvas/MarkerDabs.h"
 #include "canvas/SettingsKeys.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 #include "resources/Resources.h"
 
-#include <QGuiApplication>
 #include <QMouseEvent>
-#include <QPixmap>
 #include <QResizeEvent>
 #include <QSettings>
+#include <QStyleOptionGraphicsItem>
 
 #include <algorithm>
 
 namespace {
-
-// The pencils are drawn so that their tip lies there at this width.
-constexpr int pencilWidth = 8;
-constexpr QPoint pencilTip(4, 21);
-constexpr int penWidth = 32;
-constexpr QPoint penTip(0, 26);
 
 double deviationFromOne(double factor)
 {
@@ -35,19 +27,6 @@ double resizeFactor(double shown, double newLength, double oldLength)
     if (newLength > shown)
         return newLength / oldLength;
     return newLength >= oldLength ? 1.0 : newLength / oldLength;
-}
-
-/// How many units of a cursor's hot spot make a point of the view. Qt 6.4 hands the hot spot to an X server
-/// as if it were in pixels of the drawing; other platforms take it in points, as QCursor does.
-qreal hotSpotScale(qreal pixelRatio)
-{
-    return QGuiApplication::platformName() == "xcb" ? pixelRatio : 1.0;
-}
-
-/// The name of the same drawing with twice the pixels, which QPixmap does not look for by itself.
-QString densePath(QString path)
-{
-    return path.insert(path.lastIndexOf('.'), "@2x");
 }
 
 } // namespace
@@ -70,53 +49,17 @@ void ZelGraphicsView::SetTool(DrawingTools tool)
     viewport()->setCursor(cursorOf(tool));
 }
 
-QCursor ZelGraphicsView::cursorOf(DrawingTools tool) const
-{
-    switch (tool) {
-    case ToolPen:
-        return pixmapCursor(":/cursors/pen_cursor.png", penWidth, penTip);
-    case ToolEraser:
-        return pixmapCursor(":/icons/eraser.ico", eraserSize, QPoint(eraserSize / 2, eraserSize / 2));
-    case ToolKeepMarker:
-        return pixmapCursor(":/icons/greenpencil.PNG", pencilWidth, pencilTip);
-    case ToolRemoveMarker:
-        return pixmapCursor(":/icons/redpencilv.PNG", pencilWidth, pencilTip);
-    case ToolKeepBrush:
-    case ToolRemoveBrush:
-    case ToolBlueMarker:
-        return Qt::BlankCursor; // the brush circle takes its place
-    case ToolHand:
-        return Qt::OpenHandCursor;
-    case ToolNone:
-        break;
-    }
-    return Qt::ArrowCursor;
-}
-
-QCursor ZelGraphicsView::pixmapCursor(const QString &path, int width, QPoint hotSpot) const
-{
-    // Scaled in device pixels, so that the cursor is as sharp as the screen allows.
-    const qreal ratio = devicePixelRatioF();
-    const int deviceWidth = qRound(width * ratio);
-    QPixmap drawing(path);
-    if (drawing.width() < deviceWidth) {
-        QPixmap dense(densePath(path));
-        if (!dense.isNull())
-            drawing = dense;
-    }
-    drawing.setDevicePixelRatio(1.0);
-    QPixmap pixmap = width > 0 ? drawing.scaledToWidth(deviceWidth, Qt::SmoothTransformation) : QPixmap();
-    if (pixmap.isNull())
-        return Qt::ArrowCursor;
-    pixmap.setDevicePixelRatio(ratio);
-    const QPoint spot = hotSpot * hotSpotScale(ratio);
-    return QCursor(pixmap, spot.x(), spot.y());
-}
-
 void ZelGraphicsView::updatetoolssettings()
 {
     if (settings == nullptr)
         return;
+    readSizes();
+    if (currentTool != ToolHand) // which has no size, and may be closed around the object
+        viewport()->setCursor(cursorOf(currentTool));
+}
+
+void ZelGraphicsView::readSizes()
+{
     const auto sizeOf = [this](const settings::Key &key) {
         return static_cast<unsigned char>(settings->value(key.name, key.viewDefault).toInt());
     };
@@ -140,9 +83,10 @@ void ZelGraphicsView::updateellipse(int size)
         return;
     // Not mapFromScene(): zoomed far in, the circle can lie where no int reaches.
     const QPointF centre = viewportTransform().map(brushOutline->rect().center());
-    const QRect square = squareAround(QPoint(roundToInt(centre.x()), roundToInt(centre.y())), size / 2);
+    const QRect square =
+        squareAround(QPoint(ornevo::roundToInt(centre.x()), ornevo::roundToInt(centre.y())), size / 2);
     if (scene() != nullptr && scene()->sceneRect().contains(square))
-        brushOutline->setRect(square);
+        brushOutline->showAt(square, pixelInScene());
 }
 
 void ZelGraphicsView::mousePressEvent(QMouseEvent *event)
@@ -150,25 +94,7 @@ void ZelGraphicsView::mousePressEvent(QMouseEvent *event)
     mousePressed = true;
     if (scene() == nullptr)
         return;
-    switch (currentTool) {
-    case ToolPen:
-        PenMousePressed(event);
-        break;
-    case ToolEraser:
-        EraserMousePressed(event);
-        break;
-    case ToolKeepBrush:
-        KeepBrushMousePressed(event);
-        break;
-    case ToolRemoveBrush:
-        RemoveBrushMousePressed(event);
-        break;
-    case ToolHand:
-        HandMousePressed(event);
-        break;
-    default: // a marker's first dab is laid by the first move
-        break;
-    }
+    handle(rowOf(currentTool).press, event);
     QGraphicsView::mousePressEvent(event);
 }
 
@@ -176,31 +102,10 @@ void ZelGraphicsView::mouseMoveEvent(QMouseEvent *event)
 {
     if (scene() == nullptr)
         return;
-    switch (currentTool) {
-    case ToolPen:
-        PenMouseMoved(event);
-        break;
-    case ToolKeepMarker:
-        KeepMarkerMouseMoved(event);
-        break;
-    case ToolRemoveMarker:
-        RemoveMarkerMouseMoved(event);
-        break;
-    case ToolKeepBrush:
-        KeepBrushMouseMoved(event);
-        break;
-    case ToolRemoveBrush:
-        RemoveBrushMouseMoved(event);
-        break;
-    case ToolHand:
-        HandMouseMoved(event);
-        break;
-    case ToolBlueMarker:
-        BlueMarkerMouseMoved(event);
-        break;
-    default: // the eraser erases on a press only
-        break;
-    }
+    // The release went elsewhere. Only the window system knows which buttons are down.
+    if (mousePressed && event->spontaneous() && event->buttons() == Qt::NoButton)
+        endStroke();
+    handle(rowOf(currentTool).move, event);
     QGraphicsView::mouseMoveEvent(event);
 }
 
@@ -209,11 +114,25 @@ void ZelGraphicsView::mouseReleaseEvent(QMouseEvent *event)
     mousePressed = false;
     if (scene() == nullptr)
         return;
-    if (currentTool == ToolPen)
-        PenMouseReleased(event);
-    else if (currentTool == ToolHand)
-        HandMouseReleased(event);
+    handle(rowOf(currentTool).release, event);
     QGraphicsView::mouseReleaseEvent(event);
+}
+
+bool ZelGraphicsView::event(QEvent *event)
+{
+    // A dialog that comes up, or another program, gets the release.
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowDeactivate)
+        endStroke();
+    return QGraphicsView::event(event);
+}
+
+void ZelGraphicsView::endStroke()
+{
+    if (!mousePressed)
+        return;
+    QMouseEvent release(QEvent::MouseButtonRelease, lastMousePos, viewport()->mapToGlobal(lastMousePos),
+                        Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    mouseReleaseEvent(&release);
 }
 
 void ZelGraphicsView::leaveEvent(QEvent * /*event*/)
@@ -248,10 +167,17 @@ void ZelGraphicsView::scrollContentsBy(int dx, int dy)
     QGraphicsView::scrollContentsBy(std::clamp(dx, -farthest, farthest), std::clamp(dy, -farthest, farthest));
 }
 
+qreal ZelGraphicsView::pixelInScene() const
+{
+    constexpr qreal smallestScale = 1e-9; // at no scale at all there is nothing to see
+    return 1.0 /
+           std::max(QStyleOptionGraphicsItem::levelOfDetailFromTransform(viewportTransform()), smallestScale);
+}
+
 QRect ZelGraphicsView::squareAround(QPoint viewPosition, int half) const
 {
     const QPointF first = mapToScene(viewPosition - QPoint(half, half));
     const QPointF second = mapToScene(viewPosition + QPoint(half, half));
-    return {truncateToInt(first.x()), truncateToInt(first.y()), truncateToInt(second.x() - first.x()),
-            truncateToInt(second.y() - first.y())};
+    return {ornevo::truncateToInt(first.x()), ornevo::truncateToInt(first.y()),
+            ornevo::truncateToInt(second.x() - first.x()), ornevo::truncateToInt(second.y() - first.y())};
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "canvas/BrushOutline.h"
 #include "canvas/DrawingTools.h"
 #include "canvas/ItemPointer.h"
 
@@ -20,7 +21,8 @@ class QUndoStack;
 /// Marker dabs it lays into the scene itself; for brushes and the hand tool it only computes the geometry and
 /// emits signals. It owns the dabs that the eraser took off a scene; the scene's items it only borrows.
 ///
-/// ZelGraphicsView.cpp hands the mouse events to the tool in use; the pen, the eraser and the markers are in
+/// ZelGraphicsView.cpp hands the mouse events to the tool in use. What each tool does with them, and its
+/// cursor, is a row of the table in ZelGraphicsViewTools.cpp; the pen, the eraser and the markers are in
 /// ZelGraphicsViewMarkers.cpp, the brushes and the hand in ZelGraphicsViewBrushes.cpp.
 class ZelGraphicsView : public QGraphicsView
 {
@@ -36,7 +38,7 @@ public:
     /// Gives the brush circle, if it is shown, another diameter, in view pixels, about its centre.
     void updateellipse(int size);
 
-    /// Reads the tool sizes and the marker opacity anew from `settings`.
+    /// Reads the tool sizes and the marker opacity anew from `settings`; the cursor follows.
     void updatetoolssettings();
 
     /// Deletes the dabs that the eraser took off a scene. An undo command that still names one finds it gone.
@@ -59,6 +61,7 @@ signals:
     void HandTool(QPoint, QPoint);
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -88,8 +91,22 @@ private:
     void HandMouseMoved(QMouseEvent *event);
     void HandMouseReleased(QMouseEvent *event);
 
+    using MouseHandler = void (ZelGraphicsView::*)(QMouseEvent *);
+    /// What a tool does with the mouse, null for nothing, and how the pointer looks before a press.
+    struct Tool
+    {
+        MouseHandler press;
+        MouseHandler move;
+        MouseHandler release;
+        QCursor (*cursor)(const ZelGraphicsView &view);
+    };
+    [[nodiscard]] static Tool rowOf(DrawingTools tool);
+    void handle(MouseHandler handler, QMouseEvent *event);
     [[nodiscard]] QCursor cursorOf(DrawingTools tool) const;
-    [[nodiscard]] QCursor pixmapCursor(const QString &path, int width, QPoint hotSpot) const;
+
+    void readSizes();
+    void endStroke();
+    [[nodiscard]] qreal pixelInScene() const;
     [[nodiscard]] QRect squareAround(QPoint viewPosition, int half) const;
     [[nodiscard]] bool acceptsDabAt(QPointF scenePosition) const;
     void pushMarkerCommand(QGraphicsItem *dab);
@@ -99,11 +116,11 @@ private:
     void removeBrushOutline();
 
     DrawingTools currentTool = ToolNone;
-    ItemPointer<QGraphicsPathItem> penPathItem;     ///< the line being drawn
-    ItemPointer<QGraphicsEllipseItem> brushOutline; ///< the brush circle
-    QMutex toolMutex;                               // unused
-    QPoint lastMousePos;                            ///< in view pixels
-    unsigned char keepMarkerSize = 0;               // units: SettingsKeys.h
+    ItemPointer<QGraphicsPathItem> penPathItem; ///< the line being drawn
+    ItemPointer<BrushOutline> brushOutline;     ///< the brush circle
+    QMutex toolMutex;                           // unused
+    QPoint lastMousePos;                        ///< in view pixels
+    unsigned char keepMarkerSize = 0;           // units: SettingsKeys.h
     unsigned char removeMarkerSize = 0;
     unsigned char keepBrushSize = 0;
     unsigned char removeBrushSize = 0;

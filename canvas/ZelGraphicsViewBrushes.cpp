@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "canvas/MarkerDabs.h"
 #include "canvas/ZelGraphicsView.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 
 #include <QMouseEvent>
 
@@ -56,10 +55,10 @@ void ZelGraphicsView::showBrushOutline(const QRect &square)
         return;
     }
     if (brushOutline == nullptr) {
-        brushOutline = scene()->addEllipse(square);
-        brushOutline->setZValue(markers::brushOutlineZ);
+        brushOutline = new BrushOutline;
+        scene()->addItem(brushOutline);
     }
-    brushOutline->setRect(square);
+    brushOutline->showAt(square, pixelInScene());
 }
 
 void ZelGraphicsView::removeBrushOutline()
@@ -82,7 +81,7 @@ void ZelGraphicsView::HandMouseMoved(QMouseEvent *event)
     // Where the view is zoomed far out, a step of the pointer can be longer than an int holds.
     const auto scenePoint = [this](QPoint viewPosition) {
         const QPointF there = mapToScene(viewPosition);
-        return QPoint(roundToInt(there.x()), roundToInt(there.y()));
+        return QPoint(ornevo::roundToInt(there.x()), ornevo::roundToInt(there.y()));
     };
     emit HandTool(scenePoint(lastMousePos), scenePoint(position));
     lastMousePos = position;

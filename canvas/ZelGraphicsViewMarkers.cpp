@@ -3,8 +3,9 @@
 
 #include "canvas/CMarkerCommand.h"
 #include "canvas/MarkerDabs.h"
+#include "canvas/SceneLayers.h"
 #include "canvas/ZelGraphicsView.h"
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 
 #include <QMouseEvent>
 #include <QPainterPath>
@@ -27,8 +28,8 @@ void ZelGraphicsView::RemoveMarkerMouseReleased(QMouseEvent * /*event*/) {}
 
 bool ZelGraphicsView::acceptsDabAt(QPointF position) const
 {
-    const int x = truncateToInt(position.x());
-    const int y = truncateToInt(position.y());
+    const int x = ornevo::truncateToInt(position.x());
+    const int y = ornevo::truncateToInt(position.y());
     const QRectF picture = scene()->sceneRect();
     return x >= 1 && y >= 1 && x < picture.width() && y < picture.height();
 }
@@ -55,7 +56,7 @@ void ZelGraphicsView::RemoveMarkerMouseMoved(QMouseEvent *event)
 
 void ZelGraphicsView::pushMarkerCommand(QGraphicsItem *dab)
 {
-    dab->setZValue(markers::dabZ);
+    dab->setZValue(layers::dabZ);
     if (undoStack != nullptr)
         undoStack->push(new CMarkerCommand(scene(), dab));
 }
@@ -68,7 +69,7 @@ void ZelGraphicsView::BlueMarkerMouseMoved(QMouseEvent *event)
         return;
     const QColor colour(markers::blueColour);
     QGraphicsItem *dab = scene()->addEllipse(square, QPen(colour), QBrush(colour));
-    dab->setZValue(markers::dabZ);
+    dab->setZValue(layers::dabZ);
     dab->setOpacity(markerOpacity / 10.0); // barely tinted, so that what lies under it stays visible
 }
 
@@ -119,7 +120,7 @@ void ZelGraphicsView::PenMouseMoved(QMouseEvent *event)
     path.lineTo(scenePosition(*this, *event));
     penPathItem->setPath(path);
     penPathItem->setPen(QPen(QColor(markers::penColour), 0));
-    penPathItem->setZValue(markers::dabZ);
+    penPathItem->setZValue(layers::dabZ);
     emit ProgressStage(QStringLiteral("path z is %1").arg(int{penPathItem->isClipped()}).toLatin1().data());
 }
 

@@ -1,7 +1,6 @@
 # What `cmake --install` puts where. Two components: `ornevo` is the program with all that a desktop wants to know of
-# it; `ornevo-dev` the imaging and segmentation libraries with their headers, for find_package(Ornevo).
+# it; `ornevo-dev` the libraries with their headers, for find_package(Ornevo).
 
-include(CMakePackageConfigHelpers)
 option(ORNEVO_DEBIAN "Install the documents of a Debian package instead of the plain ones" OFF)
 
 set(files ${PROJECT_SOURCE_DIR}/resources/install)
@@ -56,30 +55,13 @@ if(NOT ORNEVO_DEBIAN)
 endif()
 
 # The libraries.
+include(cmake/OrnevoInstallCore.cmake)
 set_target_properties(ornevo_imaging PROPERTIES EXPORT_NAME imaging)
 set_target_properties(ornevo_segmentation PROPERTIES EXPORT_NAME segmentation)
 install(TARGETS ornevo_imaging ornevo_segmentation
     EXPORT OrnevoTargets
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ornevo-dev
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ornevo COMPONENT ornevo-dev)
-
-# A private library of a static one is needed at the link of the program that uses it.
-get_target_property(imaging_libraries ornevo_imaging LINK_LIBRARIES)
-get_target_property(segmentation_libraries ornevo_segmentation LINK_LIBRARIES)
-if("${imaging_libraries};${segmentation_libraries}" MATCHES "hwy::")
-    set(ORNEVO_NEEDS_HWY TRUE)
-else()
-    set(ORNEVO_NEEDS_HWY FALSE)
-endif()
-set(ORNEVO_QT_VERSION 6.4)
-
-set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Ornevo)
-configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/OrnevoConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/OrnevoConfig.cmake INSTALL_DESTINATION ${package})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/OrnevoConfigVersion.cmake
-    VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/OrnevoConfig.cmake ${PROJECT_BINARY_DIR}/OrnevoConfigVersion.cmake
-    DESTINATION ${package} COMPONENT ornevo-dev)
 install(EXPORT OrnevoTargets NAMESPACE Ornevo:: DESTINATION ${package} COMPONENT ornevo-dev)
 
 # Inside of this project by the same names as outside.

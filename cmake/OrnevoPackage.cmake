@@ -32,10 +32,7 @@ touched up with brushes, and exported as PNG or JPEG.")
 
 set(CPACK_DEBIAN_ORNEVO-DEV_PACKAGE_NAME ornevo-dev)
 set(CPACK_DEBIAN_ORNEVO-DEV_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_ORNEVO-DEV_PACKAGE_DEPENDS qt6-base-dev)
-if(ORNEVO_NEEDS_HWY)
-    string(APPEND CPACK_DEBIAN_ORNEVO-DEV_PACKAGE_DEPENDS ", libhwy-dev")
-endif()
+set(CPACK_DEBIAN_ORNEVO-DEV_PACKAGE_DEPENDS "qt6-base-dev, libhwy-dev")
 set(CPACK_COMPONENT_ORNEVO-DEV_DESCRIPTION
 "libraries for cutting objects out of photographs
 The imaging and segmentation libraries of Ornevo with their headers and a

@@ -3,7 +3,7 @@
 
 #include "cutout/AlphaBrush.h"
 
-#include "imaging/Truncation.h"
+#include "core/Truncation.h"
 
 #include <QPainterPath>
 #include <QPolygon>
@@ -64,8 +64,8 @@ BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size)
     }
     // Winding, so that overlapping dabs are one area and no pixel is counted twice.
     const QRegion dabs(outline.toPolygon(), Qt::WindingFill);
-    const QRect box(roundToInt(bounds.x()), roundToInt(bounds.y()), roundToInt(bounds.width()),
-                    roundToInt(bounds.height()));
+    const QRect box(ornevo::roundToInt(bounds.x()), ornevo::roundToInt(bounds.y()),
+                    ornevo::roundToInt(bounds.width()), ornevo::roundToInt(bounds.height()));
     return {dabs.intersected(QRect(QPoint(0, 0), size)), box};
 }
 

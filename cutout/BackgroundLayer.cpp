@@ -3,7 +3,7 @@
 
 #include "cutout/BackgroundLayer.h"
 
-#include "imaging/LargeMemory.h"
+#include "cutout/LargePicture.h"
 
 #include <QPainter>
 

@@ -3,7 +3,7 @@
 
 #include "cutout/CutOut.h"
 
-#include "imaging/LargeMemory.h"
+#include "cutout/LargePicture.h"
 
 #include <QColorSpace>
 

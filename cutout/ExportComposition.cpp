@@ -6,6 +6,8 @@
 #include <QPainter>
 
 #include <cmath>
+#include <new>
+#include <utility>
 
 namespace cutout {
 
@@ -18,6 +20,8 @@ void drawObject(QPainter &painter, const ExportLayers &layers, double scaleX, do
     const QPointF corner(std::trunc(layers.offset.x() * scaleX), std::trunc(layers.offset.y() * scaleY));
     const QSizeF extent(std::trunc(layers.cutOut.width() * scaleX),
                         std::trunc(layers.cutOut.height() * scaleY));
+    if (extent.isEmpty())
+        return;
     if (extent.width() * extent.height() > mostPixels) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QRectF(corner, extent), layers.cutOut);
@@ -25,19 +29,45 @@ void drawObject(QPainter &painter, const ExportLayers &layers, double scaleX, do
     }
     const QImage object =
         layers.cutOut.scaled(extent.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (object.isNull())
+        throw std::bad_alloc();
     painter.drawImage(corner, object);
 }
 
 } // namespace
+
+QPixmap asPixmap(QImage picture)
+{
+    const bool empty = picture.isNull();
+    QPixmap pixmap = QPixmap::fromImage(std::move(picture));
+    if (pixmap.isNull() && !empty)
+        throw std::bad_alloc();
+    return pixmap;
+}
+
+QPixmap colourCanvas(QSize size, QRgb colour)
+{
+    if (size.isEmpty())
+        return {};
+    QImage canvas(size, QImage::Format_ARGB32);
+    if (canvas.isNull())
+        throw std::bad_alloc();
+    canvas.fill(colour);
+    return asPixmap(std::move(canvas));
+}
 
 QPixmap composeExport(const ExportLayers &layers, QSize size)
 {
     if (size.isEmpty() || layers.canvas.isNull())
         return {};
     QPixmap result = layers.canvas.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (result.isNull() || layers.cutOut.isNull() || layers.background.isEmpty())
+    if (result.isNull())
+        throw std::bad_alloc();
+    if (layers.cutOut.isNull() || layers.background.isEmpty())
         return result;
-    QPainter painter(&result);
+    QPainter painter;
+    if (!painter.begin(&result))
+        throw std::bad_alloc();
     drawObject(painter, layers, double(size.width()) / layers.background.width(),
                double(size.height()) / layers.background.height());
     return result;

@@ -3,7 +3,7 @@
 
 #include "cutout/IndexPicture.h"
 
-#include "imaging/LargeMemory.h"
+#include "cutout/LargePicture.h"
 
 #include <algorithm>
 #include <cstddef>

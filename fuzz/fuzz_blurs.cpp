@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
+#include "cutout/FourChannelBlur.h"
 #include "fuzz/Input.h"
-#include "imaging/FourChannelBlur.h"
 #include "imaging/GaussianBlur.h"
-#include "tests/reference/GaussianBlurReference.h"
+#include "tests/reference/ImageReferences.h"
 
 #include <bit>
 
@@ -71,7 +71,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     QImage found = expected.copy();
     reference::fourChannelBlur(picture, expected, taps, sigma);
     int last = 0;
-    blurFourChannels(picture, found, taps, sigma, [&last](int percent) {
+    cutout::blurFourChannels(picture, found, taps, sigma, [&last](int percent) {
         require(percent >= last && percent <= 100, "progress does not fall");
         last = percent;
     });

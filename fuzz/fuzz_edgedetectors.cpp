@@ -4,7 +4,7 @@
 #include "fuzz/Input.h"
 #include "imaging/EdgeDetectors.h"
 #include "imaging/EdgeMap.h"
-#include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/ImageReferences.h"
 
 #include <memory>
 
@@ -60,7 +60,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 
     const QImage picture = input.picture(width, height, QImage::Format_RGB32);
     std::vector<std::uint8_t> edges(plane.data.size());
-    computeEdgeMap(picture, edges.data());
+    imaging::computeEdgeMap(picture, edges.data());
     require(edges == reference::edgeMap(picture), "the edge map is the reference to the byte");
     return 0;
 }

@@ -4,7 +4,7 @@
 #include "fuzz/Input.h"
 #include "fuzz/WindowHarness.h"
 #include "segmentation/OvDoFeathering.h"
-#include "tests/reference/FeatheringReference.h"
+#include "tests/reference/ImageReferences.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

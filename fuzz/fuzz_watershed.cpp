@@ -3,7 +3,7 @@
 
 #include "fuzz/Input.h"
 #include "segmentation/FrWatershed.h"
-#include "tests/reference/WatershedReference.h"
+#include "tests/reference/ImageReferences.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
+#include "canvas/SettingsKeys.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/reliability/PictureFiles.h"
 
@@ -57,10 +58,6 @@ int main(int argc, char *argv[])
             !bytes.isEmpty())
             put("fuzz_open", QStringLiteral("small.%1").arg(format), bytes);
 
-    const QByteArrayList keys = {"KEEPMSIZE",         "REMOVEMSIZE",  "KEEPBSIZE", "REMOVEBSIZE",
-                                 "ERASERMSIZE",       "BLUEMSIZE",    "MOPACITY",  "GOUSSIZE",
-                                 "KEEPBINTEN",        "REMOVEBINTEN", "CurrDir",   "SAMESIZECHECKED",
-                                 "SMOOTHEDGESCHECKED"};
     const QByteArrayList values = {"10",    "0",          "-1",         "300",
                                    "many",  "2147483648", "0.5",        "-4.5",
                                    "nan",   "inf",        "1e99",       "true",
@@ -68,8 +65,9 @@ int main(int argc, char *argv[])
                                    "",      "@Size(3 4)", "17",         "@Variant(\\0\\0\\0\\x7f)"};
     for (int i = 0; i < values.size(); ++i) {
         QByteArray file = "[General]\n";
-        for (int key = 0; key < keys.size(); ++key)
-            file += keys[key] + '=' + values[(i + key * (i % 3)) % values.size()] + '\n';
+        int row = 0;
+        for (const settings::Key *key : settings::all)
+            file += key->name + ('=' + values[(i + row++ * (i % 3)) % values.size()]) + '\n';
         put("fuzz_settings", QStringLiteral("values-%1").arg(i), file);
     }
     return 0;

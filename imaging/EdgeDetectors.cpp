@@ -3,34 +3,23 @@
 
 #include "imaging/EdgeDetectors.h"
 
-#include "imaging/RowFilters.h"
+#include "core/EdgeDetectors.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
+#include <memory>
 
 namespace {
 
-int colorDifference(const unsigned char *above, const unsigned char *here)
+template <typename Element, typename T>
+ornevo::WordPlaneView<Element> words(const CFrImage<T> &plane, int width, int height)
 {
-    int sum = 0;
-    for (int colour = 0; colour < 3; ++colour)
-        sum += std::abs(3 * above[colour] - above[colour + 4] - here[colour + 4] - here[colour]);
-    return sum;
+    return {plane.data, width, height, width};
 }
 
-template <int divisor, typename T> int colorDifferences(const CFrImage<unsigned char> &src, CFrImage<T> &dst)
+ornevo::PictureView colours(const CFrImage<unsigned char> &picture)
 {
-    for (int y = 1; y < src.height; ++y) {
-        const unsigned char *above = src.data + std::ptrdiff_t{y - 1} * src.width * 4;
-        const unsigned char *here = above + std::ptrdiff_t{src.width} * 4;
-        T *out = dst.data + std::ptrdiff_t{y - 1} * src.width;
-        for (int x = 1; x < src.width; ++x)
-            out[x - 1] = static_cast<T>(
-                colorDifference(above + std::ptrdiff_t{x - 1} * 4, here + std::ptrdiff_t{x - 1} * 4) /
-                divisor);
-    }
-    return 0;
+    return {picture.data, picture.width, picture.height};
 }
 
 } // namespace
@@ -38,24 +27,9 @@ template <int divisor, typename T> int colorDifferences(const CFrImage<unsigned 
 int cvSobel(CFrImage<unsigned char> const *src, CFrImage<short> *dst, int xOrder, int /*yOrder*/,
             int /*aperture*/)
 {
-    const int width = src->width;
-    const int height = src->height;
-    for (int y = 0; y < height; ++y) {
-        const unsigned char *mid = src->data + std::ptrdiff_t{y} * width;
-        short *out = dst->data + std::ptrdiff_t{y} * width;
-        std::fill(out, out + width, short{0});
-        if (y == 0 || y == height - 1)
-            continue;
-        const unsigned char *above = mid - width;
-        const unsigned char *below = mid + width;
-        for (int x = 1; x < width - 1; ++x) {
-            const int gradient = xOrder != 0 ? above[x + 1] + 2 * mid[x + 1] + below[x + 1] - above[x - 1] -
-                                                   2 * mid[x - 1] - below[x - 1]
-                                             : above[x - 1] + 2 * above[x] + above[x + 1] - below[x - 1] -
-                                                   2 * below[x] - below[x + 1];
-            out[x] = static_cast<short>(gradient);
-        }
-    }
+    ornevo::sobelDerivative({src->data, src->width, src->height},
+                            words<std::int16_t>(*dst, src->width, src->height),
+                            xOrder != 0 ? ornevo::Derivative::horizontal : ornevo::Derivative::vertical);
     return 0;
 }
 
@@ -63,25 +37,22 @@ int FrSobelEdgeDetector(CFrImage<unsigned char> *src, CFrImage<unsigned char> *d
 {
     const int width = src->width;
     const int height = src->height;
-    auto *magnitudes = new unsigned char[static_cast<std::size_t>(width) * static_cast<std::size_t>(height)];
-    for (int y = 0; y < height; ++y) {
-        unsigned char *out = magnitudes + std::ptrdiff_t{y} * width;
-        const unsigned char *mid = src->data + std::ptrdiff_t{y} * width;
-        if (y == 0 || y == height - 1 || width == 0)
-            std::fill(out, out + width, static_cast<unsigned char>(0));
-        else
-            rowfilters::sobelMagnitudeRow(mid - width, mid, mid + width, width, out);
-    }
-    *dst = {magnitudes, width, height, 1, 1};
+    const auto elements =
+        static_cast<std::size_t>(std::max(width, 0)) * static_cast<std::size_t>(std::max(height, 0));
+    std::unique_ptr<unsigned char[]> magnitudes(new unsigned char[elements]);
+    ornevo::sobelMagnitude({src->data, width, height}, {magnitudes.get(), width, height});
+    *dst = {magnitudes.release(), width, height, 1, 1};
     return 0;
 }
 
 int FrColorRCEdgeDetector(CFrImage<unsigned char> *src, CFrImage<unsigned short> *dst)
 {
-    return colorDifferences<1>(*src, *dst);
+    ornevo::colourDifference(colours(*src), words<std::uint16_t>(*dst, src->width, src->height));
+    return 0;
 }
 
 int FrColorRCEdgeDetector(CFrImage<unsigned char> *src, CFrImage<unsigned char> *dst)
 {
-    return colorDifferences<9>(*src, *dst);
+    ornevo::colourDifference(colours(*src), ornevo::MutablePlaneView(dst->data, src->width, src->height));
+    return 0;
 }

@@ -7,8 +7,8 @@
 
 /// \file
 /// Edge operators on planes of `width * height` elements. All return 0. The size is that of `src`; but for
-/// FrSobelEdgeDetector(), `dst->data` is made by the caller, with as many elements. Nothing of this is
-/// checked.
+/// FrSobelEdgeDetector(), `dst->data` is made by the caller, with as many elements. Where `data`
+/// is null although there are pixels, they throw std::invalid_argument.
 
 /// One Sobel derivative of a grey plane, exact, -1020 .. 1020. `xOrder` other than 0 gives the horizontal one
 /// (right minus left), 0 the vertical one (row above minus row below). `yOrder` and `aperture` are not

@@ -3,158 +3,16 @@
 
 #include "imaging/EdgeMap.h"
 
-#include "imaging/EdgeKernels.h"
-#include "imaging/RowFilters.h"
+#include "core/EdgeMap.h"
+#include "imaging/Views.h"
 
 #include <QImage>
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
-#include <cstring>
-#include <vector>
-
-using namespace edgekernels;
-using rowfilters::RowRing;
-
-namespace {
-
-constexpr double sigma = 1.4;
-
-/// The rows of one colour that the smoothing and the derivative reach.
-struct Channel
-{
-    explicit Channel(int width) : levels(width, rows + 1), smooth(width, rows + 1), blurred(width, 4) {}
-    RowRing<std::int16_t> levels;
-    RowRing<float> smooth;
-    RowRing<std::int16_t> blurred;
-};
-
-/// Gradients of the picture, row by row from the top. Only as many rows are kept as the filters reach, so
-/// that no plane of the picture's size is ever made. (Narrower strips, whose rows would fit into the
-/// innermost cache, were slower than whole rows.)
-class EdgeStrip
-{
-public:
-    explicit EdgeStrip(const QImage &picture)
-        : m_picture(picture),
-          m_width(picture.width()),
-          m_height(picture.height()),
-          m_weights(sigma),
-          m_channels{Channel(m_width + rowPadding), Channel(m_width + rowPadding),
-                     Channel(m_width + rowPadding)},
-          m_unused(static_cast<std::size_t>(m_width + rowPadding))
-    {
-    }
-
-    /// Writes the averaged gradient magnitudes of row `y`, neither the first nor the last; each row is asked
-    /// for once, in order. `out` has room for the padding.
-    void row(int y, std::uint8_t *out)
-    {
-        while (m_nextBlurred <= y + 1)
-            blurNext();
-        std::array<RowTriple, 3> triples;
-        for (std::size_t i = 0; i < triples.size(); ++i) {
-            RowRing<std::int16_t> &blurred = m_channels[i].blurred;
-            triples[i] = {blurred.row(y - 1), blurred.row(y), blurred.row(y + 1)};
-        }
-        gradientRow(triples, m_width, out);
-    }
-
-private:
-    void take(int y)
-    {
-        const std::uint8_t *ahead = m_picture.constScanLine(std::min(y + 2, m_height - 1));
-        splitRow(m_picture.constScanLine(y), ahead, m_width,
-                 {m_channels[0].levels.row(y), m_channels[1].levels.row(y), m_channels[2].levels.row(y)});
-        for (Channel &channel : m_channels)
-            smoothRow(channel.levels.row(y), m_width, m_weights, channel.smooth.row(y));
-    }
-
-    [[nodiscard]] bool isInner(int y) const
-    {
-        return y >= radius && y < m_height - radius && m_width > 2 * radius;
-    }
-
-    /// Blurs two rows, or a single one at the border.
-    void blurNext()
-    {
-        const int y = m_nextBlurred;
-        const bool both = isInner(y) && isInner(y + 1);
-        const int last = both ? y + 1 : y;
-        for (; m_nextTaken <= std::min(last + radius, m_height - 1); ++m_nextTaken)
-            take(m_nextTaken);
-        for (Channel &channel : m_channels) {
-            if (isInner(y))
-                blurInner(channel, y, both ? channel.blurred.row(y + 1) : m_unused.data());
-            else
-                std::copy_n(channel.levels.row(y), m_width, channel.blurred.row(y));
-        }
-        m_nextBlurred = last + 1;
-    }
-
-    void blurInner(Channel &channel, int y, std::int16_t *next)
-    {
-        Neighbourhood from;
-        for (int i = 0; i <= rows; ++i) {
-            const int row =
-                std::min(y - radius + i, m_nextTaken - 1); // a single row has no use for the last one
-            from.levels[static_cast<std::size_t>(i)] = channel.levels.row(row);
-            from.smooth[static_cast<std::size_t>(i)] = channel.smooth.row(row);
-        }
-        const std::array<std::int16_t *, 2> blurred{channel.blurred.row(y), next};
-        cutRows(from, m_width, m_weights, blurred);
-        for (std::size_t i = 0; i < blurred.size(); ++i) { // the border band stays
-            const std::int16_t *unchanged = from.levels[i + radius];
-            std::copy_n(unchanged, radius, blurred[i]);
-            std::copy_n(unchanged + m_width - radius, radius, blurred[i] + m_width - radius);
-        }
-    }
-
-    const QImage &m_picture;
-    int m_width;
-    int m_height;
-    Weights m_weights;
-    std::array<Channel, 3> m_channels;
-    std::vector<std::int16_t> m_unused; ///< where the second row goes of a single one
-    int m_nextTaken = 0;
-    int m_nextBlurred = 0;
-};
-
-RowStatistics averageGradients(const QImage &picture, std::uint8_t *edges)
-{
-    const int width = picture.width();
-    RowStatistics all;
-    EdgeStrip strip(picture);
-    std::vector<std::uint8_t> padded(static_cast<std::size_t>(width) + rowPadding);
-    const auto last = edges + static_cast<std::ptrdiff_t>(picture.height() - 1) * width;
-    for (int y = 0; y < picture.height(); ++y) {
-        std::uint8_t *out = edges + static_cast<std::ptrdiff_t>(y) * width;
-        if (y == 0 || y == picture.height() - 1) {
-            std::memset(out, 0, static_cast<std::size_t>(width));
-            continue;
-        }
-        // The padding of a row falls on rows that are yet to come, if there are any.
-        if (last - (out + width) >= rowPadding) {
-            strip.row(y, out);
-        } else {
-            strip.row(y, padded.data());
-            std::memcpy(out, padded.data(), static_cast<std::size_t>(width));
-        }
-        all.add(statisticsOf(out, width));
-    }
-    return all;
-}
-
-} // namespace
+namespace imaging {
 
 void computeEdgeMap(const QImage &picture, std::uint8_t *edges)
 {
-    const auto pixels =
-        static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height());
-    if (pixels == 0)
-        return;
-    const RowStatistics all = averageGradients(picture, edges);
-    const auto mean = static_cast<std::uint8_t>(all.sum / pixels);
-    liftAbove(edges, pixels, mean, static_cast<std::uint8_t>(255 - all.largest));
+    ornevo::computeEdgeMap(viewOf(picture), {edges, picture.width(), picture.height()});
 }
+
+} // namespace imaging

@@ -10,6 +10,7 @@
 static void registerCompiledInFiles()
 {
     Q_INIT_RESOURCE(ornevo);
+    Q_INIT_RESOURCE(translations);
 }
 
 namespace resources {

@@ -5,8 +5,8 @@
 
 namespace resources {
 
-/// Makes the pictures that are compiled in known to Qt, under ":/icons" and ":/cursors". May be called any
-/// number of times.
+/// Makes what is compiled in known to Qt: pictures under ":/icons" and ":/cursors", the help under ":/help",
+/// the catalogues under ":/translations". May be called any number of times.
 void registerAll();
 
 } // namespace resources

@@ -1,9 +1,11 @@
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libhwy-dev
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
+    qt6-l10n-tools libgl-dev libhwy-dev libgtest-dev
     python3-dev pybind11-dev python3-numpy python3-pil python3-pytest python3-mypy mypy)
-# qt6-image-formats-plugins reads TIFF; the fonts are for machines that have none yet.
-run_packages=(qt6-image-formats-plugins fontconfig fonts-dejavu-core)
+# qt6-image-formats-plugins reads TIFF; qt6-translations-l10n has Qt's own dialogs in other languages; the fonts are for
+# machines that have none yet.
+run_packages=(qt6-image-formats-plugins qt6-translations-l10n fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
 check_packages=(clang libclang-rt-14-dev clang-format clang-tidy git)
 # For scripts/docs, scripts/package and scripts/check-package.

@@ -10,7 +10,7 @@
 class QImage;
 class QProgressBar;
 
-/// FrWatershed() for any number of regions, with one difference in price: a pixel whose edge map value is not
+/// FrWatershed() for any number of regions, with one difference in cost: a pixel whose edge map value is not
 /// 0 always costs 255, whatever that value is.
 ///
 /// \param image    the colour picture, four bytes a pixel; not changed
@@ -26,6 +26,7 @@ class QProgressBar;
 /// A `result` of another length is the caller's error. When it is empty, there is no position N for the last
 /// region, and its pixels are dropped (debug builds stop there); when it is longer, the pixels go to its
 /// older lists from position 1 on, and as many of the new ones stay empty. No pointer but `progress` may be
-/// null. Throws std::bad_alloc when memory is short; `result` is of no use then.
+/// null. Throws std::invalid_argument as FrWatershed() does, and std::bad_alloc when memory is short;
+/// `result` is of no use then. Without Qt: ornevo::floodRegions() in core/Watershed.h.
 int FrWatershedMany(QImage *image, std::vector<std::vector<int>> seeds, QList<QList<int>> &result,
                     unsigned char *edges, QProgressBar *progress);

@@ -20,12 +20,9 @@ class QStatusBar;
 /// \param status    shows "Segmenting image" and at the end "Segmented image"; may be null
 /// \return 0
 ///
-/// The step from a pixel to a neighbour is the sum over the three colours of (pixel - neighbour) modulo 256,
-/// 0 .. 765. It is not symmetric: a neighbour that is brighter by a little is far away. The pixel that starts
-/// a region can be reached again within it and is then listed twice; and only a pixel whose index is above
-/// the width steps up, so that the first pixel of the second row never does.
-///
-/// Takes time linear in the pixels and, beside the result, about one byte a pixel and two waves.
+/// What a step is, and which pixel may be listed twice: ornevo::segmentWaves() in core/WaveSegmentation.h,
+/// which does the work. Throws std::invalid_argument when the picture has another depth or more than 2^31 - 1
+/// pixels, and std::bad_alloc.
 int FrWaveSegment(QImage *image, QList<QList<int>> &regions, int threshold, QProgressBar *progress,
                   QStatusBar *status);
 

@@ -56,14 +56,23 @@ void BackgroundDialog::on_pushButton_clicked()
 {
     const QColor chosen = QColorDialog::getColor(Qt::white, this, tr("Please select the background color"),
                                                  QColorDialog::ShowAlphaChannel);
-    if (chosen.isValid())
-        m_form->colorlabel->setText(QString("%1").arg(chosen.rgba(), digits, hexadecimal));
+    if (!chosen.isValid())
+        return;
+    m_form->colorlabel->setText(QString("%1").arg(chosen.rgba(), digits, hexadecimal));
+    // Who has chosen a colour wants it, whatever was ticked before.
+    m_form->colorradioButton->setChecked(true);
+    enableChoosers(true, false);
 }
 
 void BackgroundDialog::on_pushButton_2_clicked()
 {
-    m_form->picturelabel->setText(QFileDialog::getOpenFileName(this, tr("Open Image"), QString(),
-                                                               tr("Image Files (*.png *.jpg *.bmp)")));
+    const QString chosen = QFileDialog::getOpenFileName(this, tr("Open Image"), QString(),
+                                                        tr("Image Files (*.png *.jpg *.bmp)"));
+    if (chosen.isEmpty())
+        return;
+    m_form->picturelabel->setText(chosen);
+    m_form->pictureradioButton->setChecked(true);
+    enableChoosers(false, true);
 }
 
 void BackgroundDialog::on_buttonBox_accepted()

@@ -3,11 +3,13 @@
 
 #include "app/dialogs/HelpDialog.h"
 
+#include "resources/Resources.h"
 #include "ui_HelpDialog.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QEvent>
+#include <QFile>
 #include <QMouseEvent>
 #include <QUrl>
 
@@ -15,13 +17,23 @@
 
 HelpDialog::HelpDialog(QWidget *parent) : QDialog(parent), m_form(std::make_unique<Ui_HelpDialog>())
 {
+    resources::registerAll();
     m_form->setupUi(this);
+    showDocument();
     // A QTextEdit shows links and does no more for them.
     m_form->textEdit->viewport()->setMouseTracking(true);
     m_form->textEdit->viewport()->installEventFilter(this);
 }
 
 HelpDialog::~HelpDialog() = default;
+
+void HelpDialog::showDocument()
+{
+    //: The help in this language: ":/help/help_" and the catalogue's language, then ".html".
+    QFile document(tr(":/help/help_en.html"));
+    if (document.open(QIODevice::ReadOnly))
+        m_form->textEdit->setHtml(QString::fromUtf8(document.readAll()));
+}
 
 bool HelpDialog::eventFilter(QObject *watched, QEvent *event)
 {
@@ -57,6 +69,8 @@ void HelpDialog::followLink(QPoint release)
 void HelpDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         m_form->retranslateUi(this);
+        showDocument();
+    }
 }

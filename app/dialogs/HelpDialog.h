@@ -25,6 +25,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showDocument();
     void showPointer(QPoint position);
     void followLink(QPoint release);
 

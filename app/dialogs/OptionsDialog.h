@@ -9,6 +9,9 @@
 
 class QSettings;
 class Ui_OptionsDialog;
+namespace settings {
+struct Key;
+}
 
 /// Edits the tool settings in the store. Cancel writes nothing; OK writes every value that is shown.
 class OptionsDialog : public QDialog
@@ -28,6 +31,9 @@ private slots:
     void on_checkBox_toggled(bool checked);
 
 private:
+    /// The widget that edits a setting; null if none does.
+    [[nodiscard]] QWidget *fieldOf(const settings::Key &key) const;
+
     std::unique_ptr<Ui_OptionsDialog> m_form;
     QSettings *m_settings;
 };

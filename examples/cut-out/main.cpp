@@ -102,7 +102,7 @@ int main(int argc, char *argv[])
 
     const auto pixels = std::size_t(photo.width()) * std::size_t(photo.height());
     const auto edges = std::make_unique<unsigned char[]>(pixels);
-    computeEdgeMap(photo, edges.get());
+    imaging::computeEdgeMap(photo, edges.get());
 
     QList<int> object;
     if (FrWatershed(&photo, seeds.keep, seeds.remove, object, edges.get(), nullptr) != 0)

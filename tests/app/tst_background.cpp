@@ -5,6 +5,7 @@
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/DialogParts.h"
+#include "tests/support/Keys.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowUnderTest.h"
 
@@ -39,6 +40,13 @@ void press(const QWidget &dialog, const char *button)
     QTest::mouseClick(&part<QPushButton>(dialog, button), Qt::LeftButton);
 }
 
+/// Of the colour and of the picture.
+QPair<bool, bool> choosersEnabled(const QWidget &dialog)
+{
+    return {part<QPushButton>(dialog, "pushButton").isEnabled(),
+            part<QPushButton>(dialog, "pushButton_2").isEnabled()};
+}
+
 } // namespace
 
 class BackgroundTest : public QObject
@@ -56,6 +64,9 @@ private slots:
     void colourChooserCancelled();
     void pictureChooser();
     void pictureChooserCancelled();
+    void chosenColourIsUsed();
+    void chosenPictureIsUsed();
+    void cancelledChoosersChangeNothing();
     void answers_data();
     void answers();
     void cancelIsNotAccepted();
@@ -145,19 +156,15 @@ void BackgroundTest::radioButtonsEnableTheChoosers()
     BackgroundDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const auto enabled = [&dialog] {
-        return qMakePair(part<QPushButton>(dialog, "pushButton").isEnabled(),
-                         part<QPushButton>(dialog, "pushButton_2").isEnabled());
-    };
     choose(dialog, "pictureradioButton");
-    QCOMPARE(enabled(), qMakePair(false, true));
+    QCOMPARE(choosersEnabled(dialog), qMakePair(false, true));
     choose(dialog, "colorradioButton");
-    QCOMPARE(enabled(), qMakePair(true, false));
+    QCOMPARE(choosersEnabled(dialog), qMakePair(true, false));
     choose(dialog, "whiteradioButton");
-    QCOMPARE(enabled(), qMakePair(false, false));
+    QCOMPARE(choosersEnabled(dialog), qMakePair(false, false));
     choose(dialog, "colorradioButton");
     choose(dialog, "transparentradioButton");
-    QCOMPARE(enabled(), qMakePair(false, false));
+    QCOMPARE(choosersEnabled(dialog), qMakePair(false, false));
 }
 
 void BackgroundTest::colourChooser_data()
@@ -267,6 +274,61 @@ void BackgroundTest::pictureChooserCancelled()
     answers.cancelFile();
     choose(dialog, "pictureradioButton");
     press(dialog, "pushButton_2");
+    QCOMPARE(part<QLabel>(dialog, "picturelabel").text(), QString("/somewhere/else.png"));
+}
+
+/// "Use White" is ticked and both choosers are enabled: whoever chooses something there wants it, and
+/// confirms it with Return.
+void BackgroundTest::chosenColourIsUsed()
+{
+    BackgroundDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    ModalAnswers answers;
+    answers.expect<QColorDialog>([](QColorDialog &chooser) {
+        chooser.setCurrentColor(QColor::fromRgba(0xFF12ABEF));
+        ModalAnswers::press(chooser, QDialogButtonBox::Ok);
+    });
+    press(dialog, "pushButton");
+    QVERIFY(part<QRadioButton>(dialog, "colorradioButton").isChecked());
+    QCOMPARE(choosersEnabled(dialog), qMakePair(true, false));
+    testsupport::pressKey(dialog, Qt::Key_Return);
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
+    QVERIFY(dialog.accepted);
+    QVERIFY(dialog.useColor);
+    QCOMPARE(dialog.color, 0xFF12ABEFU);
+}
+
+void BackgroundTest::chosenPictureIsUsed()
+{
+    BackgroundDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    ModalAnswers answers;
+    answers.chooseFile(backdrop());
+    press(dialog, "pushButton_2");
+    QVERIFY(part<QRadioButton>(dialog, "pictureradioButton").isChecked());
+    QCOMPARE(choosersEnabled(dialog), qMakePair(false, true));
+    testsupport::pressKey(dialog, Qt::Key_Return);
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
+    QVERIFY(dialog.accepted);
+    QVERIFY(!dialog.useColor);
+    QCOMPARE(dialog.picturePath, backdrop());
+}
+
+void BackgroundTest::cancelledChoosersChangeNothing()
+{
+    BackgroundDialog dialog;
+    dialog.show();
+    ModalAnswers answers;
+    answers.expect<QColorDialog>([](QColorDialog &chooser) { chooser.reject(); });
+    press(dialog, "pushButton");
+    answers.cancelFile();
+    press(dialog, "pushButton_2");
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
+    QVERIFY(part<QRadioButton>(dialog, "whiteradioButton").isChecked());
+    QCOMPARE(choosersEnabled(dialog), qMakePair(true, true));
+    QCOMPARE(part<QLabel>(dialog, "colorlabel").text(), QString("FFFFFFFF"));
     QCOMPARE(part<QLabel>(dialog, "picturelabel").text(), QString());
 }
 

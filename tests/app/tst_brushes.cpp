@@ -4,6 +4,7 @@
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/MainWindowProbe.h"
+#include "tests/support/PaintedArea.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
 
@@ -12,6 +13,7 @@
 #include <QGraphicsPixmapItem>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QThread>
 
 using driver::action;
@@ -49,6 +51,11 @@ private slots:
     void randomBatches();
     void exportAfterTouchUp();
     void twoHundredEntries();
+    void batchAtTheUndoLimitRepaintsItselfOnly();
+    void batchAfterANewBackgroundRepaintsItselfOnly();
+    void dabsLeaveTheHiddenPreviewAlone();
+    void dialogEndsTheStroke_data();
+    void dialogEndsTheStroke();
 
 private:
     QImage &image() { return probe->previewImage(); }
@@ -209,13 +216,16 @@ void TestBrushes::movesRestartTheTimer()
 {
     action(*window, "actionForeground_Brush")->trigger();
     send(QRect(10, 10, 8, 8), false);
-    QThread::msleep(20);
+    while (probe->brushTimer().remainingTime() > 15) // no events meanwhile
+        QTest::qSleep(1);
+    QElapsedTimer age;
+    age.start();
     send(QRect(12, 10, 8, 8), false);
-    QVERIFY(probe->brushTimer().remainingTime() > 15);
     QCOMPARE(probe->pendingBrushRects().size(), 2);
     QTRY_COMPARE(stack().count(), 1); // both in one batch
-    QTest::qWait(40);
-    QCOMPARE(stack().count(), 1);
+    QVERIFY2(age.elapsed() >= 28, qPrintable(QString::number(age.elapsed())));
+    QVERIFY(!probe->brushTimer().isActive());
+    QVERIFY(probe->pendingBrushRects().isEmpty());
 }
 
 void TestBrushes::tenSquaresAreABatch()
@@ -259,7 +269,8 @@ void TestBrushes::slowDrag()
         QTRY_COMPARE(stack().count(), 1 + i);
     }
     driver::release(*view, start + QPoint(20, 0));
-    QTest::qWait(40);
+    QVERIFY(!probe->brushTimer().isActive()); // the release adds nothing
+    QCoreApplication::processEvents();
     QCOMPARE(stack().count(), 5);
 }
 
@@ -671,6 +682,117 @@ void TestBrushes::twoHundredEntries()
         QVERIFY(QMetaObject::invokeMethod(window.get(), "on_ProcessBrushMouseEvent"));
     }
     QCOMPARE(stack().count(), 200);
+}
+
+namespace {
+
+/// How much of the canvas a batch of one dab repaints.
+QSize repaintedByADab(QGraphicsView &view, QUndoStack &stack)
+{
+    const int before = stack.index();
+    const QPoint position = view.mapFromScene(80, 60);
+    driver::move(view, position); // the circle
+    QTest::qWait(50);
+    testsupport::PaintedArea painted(view.viewport());
+    QSignalSpy pushed(&stack, &QUndoStack::indexChanged);
+    driver::press(view, position);
+    driver::release(view, position);
+    if (!QTest::qWaitFor([&] { return !pushed.isEmpty(); }))
+        qFatal("no batch after %d", before);
+    QTest::qWait(50);
+    return painted.take().boundingRect().size();
+}
+
+bool isSmall(QSize size)
+{
+    return !size.isEmpty() && size.width() < 40 && size.height() < 40; // of a dab of 10
+}
+
+} // namespace
+
+/// There the index of the stack stays, while every push drops the oldest entry.
+void TestBrushes::batchAtTheUndoLimitRepaintsItselfOnly()
+{
+    action(*window, "actionPreview")->trigger();
+    action(*window, "actionKeep_arker")->trigger();
+    for (int i = 0; i < 210; ++i)
+        driver::stroke(*view, {QPointF(60 + i % 40, 50 + i / 40)});
+    QCOMPARE(stack().count(), 200);
+    action(*window, "actionPreview")->trigger();
+    action(*window, "actionBackground_Brush")->trigger();
+    for (int i = 0; i < 3; ++i) {
+        const QSize repainted = repaintedByADab(*view, stack());
+        QVERIFY2(isSmall(repainted),
+                 qPrintable(QStringLiteral("%1 x %2").arg(repainted.width()).arg(repainted.height())));
+        checkShown();
+    }
+}
+
+void TestBrushes::batchAfterANewBackgroundRepaintsItselfOnly()
+{
+    action(*window, "actionForeground_Brush")->trigger();
+    for (int i = 0; i < 3; ++i)
+        repaintedByADab(*view, stack());
+    stack().undo();
+    answerBackground("transparentradioButton");
+    action(*window, "actionForeground_Brush")->setChecked(true);
+    driver::settle();
+    QVERIFY(isSmall(repaintedByADab(*view, stack())));
+    checkShown();
+    testsupport::PaintedArea painted(view->viewport());
+    stack().undo();
+    stack().undo(); // of the preview before
+    QTest::qWait(50);
+    QVERIFY(isSmall(painted.take().boundingRect().size()));
+    checkShown();
+}
+
+void TestBrushes::dabsLeaveTheHiddenPreviewAlone()
+{
+    action(*window, "actionForeground_Brush")->trigger();
+    repaintedByADab(*view, stack());
+    answerBackground("transparentradioButton");
+    action(*window, "actionPreview")->trigger();
+    const qint64 shown = probe->previewItem()->pixmap().cacheKey();
+    action(*window, "actionKeep_arker")->trigger();
+    driver::stroke(*view, {{70, 60}, {75, 60}});
+    QCOMPARE(stack().count(), 3);
+    QCOMPARE(probe->previewItem()->pixmap().cacheKey(), shown);
+}
+
+void TestBrushes::dialogEndsTheStroke_data()
+{
+    QTest::addColumn<QString>("tool");
+    for (const char *tool : {"actionKeep_arker", "action_Remove_Marker", "actionForeground_Brush",
+                             "actionBackground_Brush", "actionHandTool"})
+        QTest::newRow(tool) << tool;
+}
+
+/// Press, Ctrl+O, release over the dialog, Escape: no button is down any more.
+void TestBrushes::dialogEndsTheStroke()
+{
+    QFETCH(QString, tool);
+    const bool marker = tool.endsWith("arker");
+    if (marker)
+        action(*window, "actionPreview")->trigger();
+    action(*window, tool)->trigger();
+    const auto lay = [&](int x, Qt::MouseButtons held) {
+        driver::move(*view, view->mapFromScene(x, 60), held);
+        QTest::qWait(50); // the brush waits for more dabs
+        return std::pair(stack().count(), probe->previewOffset());
+    };
+    driver::press(*view, view->mapFromScene(60, 60));
+    const auto drawn = lay(65, Qt::LeftButton);
+    QVERIFY(drawn.first > 0 || !drawn.second.isNull());
+    driver::DialogAnswers answers(driver::pressEscape);
+    driver::key(*window, Qt::Key_O);
+    QCOMPARE(answers.given(), 1);
+    QCOMPARE(lay(80, {}), drawn);
+    QCOMPARE(lay(90, {}), drawn);
+    driver::release(*view, view->mapFromScene(90, 60)); // for the toolkit's own book
+    driver::press(*view, view->mapFromScene(70, 60));
+    QVERIFY(lay(75, Qt::LeftButton) != drawn); // the next stroke draws
+    driver::release(*view, view->mapFromScene(75, 60));
 }
 
 ORNEVO_TEST_MAIN(TestBrushes)

@@ -5,12 +5,14 @@
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/DialogParts.h"
+#include "tests/support/Keys.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowUnderTest.h"
 
 #include <QBuffer>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGraphicsPixmapItem>
 #include <QGridLayout>
 #include <QImageReader>
@@ -55,6 +57,10 @@ private slots:
     void freeHeight();
     void fileChooser();
     void fileChooserCancelled();
+    void nameWithoutAnEnding_data();
+    void nameWithoutAnEnding();
+    void completedNameIsAskedAbout();
+    void returnConfirmsAfterChoosing();
     void noSettingsOfTheDialogAreLost();
     void widthOfZero();
     void languageChange();
@@ -258,6 +264,102 @@ void ExportTest::fileChooserCancelled()
     QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
     QVERIFY(okOf(dialog).isEnabled());
     QCOMPARE(part<QLabel>(dialog, "label_2").text(), file("out.png"));
+}
+
+void ExportTest::nameWithoutAnEnding_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("as it comes") << "out"
+                                 << ""
+                                 << "out.jpg";
+    QTest::newRow("png") << "out"
+                         << "PNG Files (*.png)"
+                         << "out.png";
+    QTest::newRow("jpg again") << "out"
+                               << "JPG Files (*.jpg)"
+                               << "out.jpg";
+    QTest::newRow("dot in the folder") << "v1.0/out"
+                                       << "PNG Files (*.png)"
+                                       << "v1.0/out.png";
+    QTest::newRow("ending typed") << "out.jpg"
+                                  << ""
+                                  << "out.jpg";
+    QTest::newRow("another than the filter's") << "out.png"
+                                               << ""
+                                               << "out.png";
+}
+
+/// The chosen filter completes the name, and that file is written.
+void ExportTest::nameWithoutAnEnding()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, filter);
+    QFETCH(QString, shown);
+    QVERIFY(QDir(m_folder->path()).mkpath("v1.0"));
+    WindowUnderTest t;
+    startPreview(t);
+    QString label;
+    t.answers.expect<ExportDialog>([&label](ExportDialog &dialog) {
+        QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
+        label = part<QLabel>(dialog, "label_2").text();
+        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    });
+    t.answers.chooseFile(file(typed), [&filter](QFileDialog &chooser) {
+        auto *filters = chooser.findChild<QComboBox *>("fileTypeCombo");
+        for (int presses = 0; !filter.isEmpty() && filters->currentText() != filter && presses < 2; ++presses)
+            QTest::keyClick(filters, presses == 0 ? Qt::Key_Down : Qt::Key_Up);
+        // The filter that comes first counts as chosen once another was.
+        if (filter.startsWith("JPG")) {
+            QTest::keyClick(filters, Qt::Key_Down);
+            QTest::keyClick(filters, Qt::Key_Up);
+        }
+        if (!filter.isEmpty())
+            QCOMPARE(filters->currentText(), filter);
+    });
+    t.trigger("actionExport");
+    QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
+    QCOMPARE(label, file(shown));
+    QVERIFY(!QImage(file(shown)).isNull());
+}
+
+void ExportTest::completedNameIsAskedAbout()
+{
+    QSettings settings;
+    QVERIFY(QFile::copy(file("picture.png"), file("out.jpg")));
+    ExportDialog dialog(800, 600, &settings, nullptr);
+    dialog.show();
+    ModalAnswers answers;
+    answers.chooseFile(file("out"));
+    QString question;
+    answers.expect<QMessageBox>([&question](QMessageBox &box) {
+        question = box.text();
+        QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+    });
+    answers.cancelFile(); // No leads back to the chooser
+    QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
+    QVERIFY2(question.contains("out.jpg"), qPrintable(question));
+    QCOMPARE(part<QLabel>(dialog, "label_2").text(), QString());
+    QVERIFY(!okOf(dialog).isEnabled());
+}
+
+/// Return opens the chooser, confirms the name there, and then the dialog.
+void ExportTest::returnConfirmsAfterChoosing()
+{
+    QSettings settings;
+    ExportDialog dialog(800, 600, &settings, nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    ModalAnswers answers;
+    answers.chooseFile(file("out.png"));
+    testsupport::pressKey(dialog, Qt::Key_Return);
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
+    QVERIFY(dialog.isVisible());
+    testsupport::pressKey(dialog, Qt::Key_Return);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void ExportTest::noSettingsOfTheDialogAreLost()
@@ -540,7 +642,6 @@ void ExportTest::suffixes_data()
     QTest::newRow("JPEG") << "out.JPEG" << QByteArray("jpeg");
     QTest::newRow("two dots") << "out.png.jpg" << QByteArray("jpeg");
     QTest::newRow("unknown") << "out.picture" << QByteArray();
-    QTest::newRow("none") << "out" << QByteArray();
 }
 
 void ExportTest::suffixes()

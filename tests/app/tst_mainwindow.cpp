@@ -1,6 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
+#include "app/dialogs/BackgroundDialog.h"
+#include "app/dialogs/ExportDialog.h"
+#include "app/dialogs/OptionsDialog.h"
+#include "tests/reference/TestPictures.h"
+#include "tests/support/DialogParts.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowUnderTest.h"
@@ -9,6 +14,7 @@
 #include <QBoxLayout>
 #include <QFile>
 #include <QGraphicsPixmapItem>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaMethod>
@@ -162,6 +168,10 @@ private slots:
     void undoLimit();
     void undoFromTheMenu();
     void canvasGetsItsSettings();
+    void dialogsTakeTheIcon();
+    void hintUntilAPhotoIsOpen();
+    void hintCanBeRead_data();
+    void hintCanBeRead();
 };
 
 void MainWindowTest::startsWithoutAWarning()
@@ -604,6 +614,80 @@ void MainWindowTest::canvasGetsItsSettings()
     t.mouse.stroke({t.at(20, 20)});
     QCOMPARE(qgraphicsitem_cast<QGraphicsRectItem *>(scene.items().first())->rect().width(), 17.0);
     t.view.setScene(nullptr);
+}
+
+void MainWindowTest::dialogsTakeTheIcon()
+{
+    const MainWindow window;
+    QSettings settings;
+    const OptionsDialog preferences(&settings, nullptr);
+    const BackgroundDialog background(nullptr);
+    const ExportDialog exporting(4, 3, &settings, nullptr);
+    const QImage icon = window.windowIcon().pixmap(32).toImage();
+    QVERIFY(!icon.isNull());
+    for (const QDialog *dialog :
+         {static_cast<const QDialog *>(&preferences), static_cast<const QDialog *>(&background),
+          static_cast<const QDialog *>(&exporting)})
+        QCOMPARE(dialog->windowIcon().pixmap(32).toImage(), icon);
+}
+
+void MainWindowTest::hintUntilAPhotoIsOpen()
+{
+    QTemporaryDir folder;
+    QVERIFY(testpictures::blobImage(40, 30, 4).save(folder.filePath("photo.png")));
+    QFile broken(folder.filePath("broken.png"));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("no picture");
+    broken.close();
+    WindowUnderTest t;
+    auto &hint = testsupport::part<QLabel>(t.window, "hint");
+    QVERIFY(hint.isVisible());
+    QVERIFY(hint.text().contains(t.action("actionOpen").shortcut().toString()));
+    // It is in nobody's way.
+    QCOMPARE(t.view.scene(), nullptr);
+    QCOMPARE(QApplication::widgetAt(hint.mapToGlobal(hint.rect().center())), t.view.viewport());
+    t.window.resize(200, 150);
+    QVERIFY(t.window.width() <= 400); // nothing that it says makes the window wide
+    t.window.resize(640, 480);
+
+    t.openPicture(broken.fileName());
+    QVERIFY(hint.isVisible());
+    t.openPicture(folder.filePath("photo.png"));
+    QVERIFY(!hint.isVisible());
+    t.openPicture(broken.fileName());
+    QVERIFY(!hint.isVisible()); // by now it is known
+}
+
+void MainWindowTest::hintCanBeRead_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<bool>("preview");
+    QTest::newRow("light") << false << false;
+    QTest::newRow("dark") << true << false;
+    QTest::newRow("light, preview of nothing") << false << true;
+    QTest::newRow("dark, preview of nothing") << true << true;
+}
+
+void MainWindowTest::hintCanBeRead()
+{
+    QFETCH(bool, dark);
+    QFETCH(bool, preview);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(dark ? QPalette(QColor(45, 45, 45)) : QPalette(QColor(239, 239, 239)));
+    {
+        WindowUnderTest t;
+        if (preview)
+            t.trigger("actionPreview");
+        const auto &hint = testsupport::part<QLabel>(t.window, "hint");
+        const QImage shown = t.view.grab(hint.geometry()).toImage();
+        const int behind = qGray(shown.pixel(1, 1));
+        int contrast = 0;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                contrast = std::max(contrast, std::abs(qGray(shown.pixel(x, y)) - behind));
+        QVERIFY2(contrast >= 120, qPrintable(QString::number(contrast)));
+    }
+    QApplication::setPalette(before);
 }
 
 ORNEVO_TEST_MAIN(MainWindowTest)

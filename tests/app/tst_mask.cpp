@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
-#include "tests/reference/WatershedReference.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/WindowDriver.h"
 #include "tests/support/WindowUnderTest.h"
 
 #include <QGraphicsPixmapItem>
@@ -187,12 +187,12 @@ void MaskTest::leavesTheZoomAlone()
     t.dab("action_Remove_Marker", 50, 20);
     for (int i = 0; i < 8; ++i)
         t.trigger("actionZoom_In");
-    QTest::qWait(50);
+    driver::settle();
     const QTransform zoom = t.view.transform();
     // The progress bar comes and goes with every mask; the canvas must not give way to it.
     for (int i = 0; i < 3; ++i) {
         t.trigger("actionMask");
-        QTest::qWait(50);
+        driver::settle();
         QCOMPARE(t.view.transform(), zoom);
     }
 }

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/WindowDriver.h"
 #include "tests/support/WindowUnderTest.h"
 
 #include <QGraphicsPixmapItem>
@@ -196,7 +197,7 @@ void OpeningTest::statusAndProgress()
     QCOMPARE(log.events, QStringList({"show", "hide"}));
     QVERIFY(t.progressBar().isHidden());
     QCOMPARE(t.progressBar().value(), 0);
-    QTest::qWait(50);
+    driver::settle();
     QCOMPARE(t.status(), QString("Ready")); // stays
 }
 
@@ -302,7 +303,7 @@ void OpeningTest::failureLeavesAPartialState()
     t.action("actionPreview").setChecked(true);
     t.probe.previewOffset() = QPoint(5, 6);
     t.probe.isOriginalFile() = false;
-    QTest::qWait(50); // the progress bar came and went, and the view is resized when events are processed
+    driver::settle(); // the progress bar came and went, and the view is resized when events are processed
     const QTransform zoom = t.view.transform();
     t.statusTexts.clear();
     t.answers.chooseFile(file("notes.txt"),

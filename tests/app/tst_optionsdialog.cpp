@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/dialogs/OptionsDialog.h"
+#include "canvas/SettingsKeys.h"
 #include "tests/support/DialogParts.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/TestMain.h"
@@ -31,6 +32,8 @@ private slots:
     void form();
     void storedValuesAreShown();
     void valuesOutOfRange();
+    void listOfAllKeys();
+    void everyKeyHasItsField();
     void okWritesEverything();
     void okWithoutTouching();
     void cancelWritesNothing();
@@ -206,6 +209,34 @@ void TestOptionsDialog::valuesOutOfRange()
     OptionsDialog again(&settings, nullptr);
     const double opacity = part<QDoubleSpinBox>(again, "doubleSpinBox").value();
     QVERIFY(opacity >= 0.0 && opacity <= 1.0);
+}
+
+/// The names are those of the files that users have.
+void TestOptionsDialog::listOfAllKeys()
+{
+    QStringList names;
+    for (const settings::Key *key : settings::all)
+        names << key->name;
+    QCOMPARE(names, QStringList({"SAMESIZECHECKED", "SMOOTHEDGESCHECKED", "KEEPMSIZE", "REMOVEMSIZE",
+                                 "KEEPBSIZE", "REMOVEBSIZE", "ERASERMSIZE", "MOPACITY", "KEEPBINTEN",
+                                 "REMOVEBINTEN", "BLUEMSIZE", "GOUSSIZE", "CurrDir"}));
+}
+
+/// A field for each key but the folder's, and no field for anything else.
+void TestOptionsDialog::everyKeyHasItsField()
+{
+    QStringList expected;
+    for (const settings::Key *key : settings::all)
+        if (key != &settings::currentDirectory)
+            expected << key->name;
+    QStringList edited;
+    const OptionsDialog dialog(&settings, nullptr);
+    for (const QWidget *widget : dialog.findChildren<QWidget *>())
+        if (widget->property("settingsKey").isValid())
+            edited << widget->property("settingsKey").toString();
+    expected.sort();
+    edited.sort();
+    QCOMPARE(edited, expected);
 }
 
 void TestOptionsDialog::okWritesEverything()

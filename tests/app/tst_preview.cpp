@@ -9,6 +9,9 @@
 
 #include <QGraphicsPixmapItem>
 #include <QPainter>
+#include <QScrollBar>
+
+#include <cmath>
 
 using testsupport::MessageLog;
 using testsupport::WindowUnderTest;
@@ -66,6 +69,11 @@ private slots:
     void handToolAfterThePreviewWent();
     void undoOfBrushAfterRebuilding();
     void switchingInAnyOrder();
+    void handIsUnderThePointer_data();
+    void handIsUnderThePointer();
+    void fittedPreviewIsCentred();
+    void windowToHalfAndBack();
+    void backgroundZoomFramesTheBackground();
 
 private:
     QString file() const { return m_folder.filePath("picture.png"); }
@@ -337,7 +345,7 @@ void PreviewTest::withoutAPicture()
     for (const char *name : {"actionForeground_Brush", "actionBackground_Brush", "actionHandTool"}) {
         t.trigger(name);
         t.mouse.stroke({QPoint(50, 50), QPoint(60, 60), QPoint(70, 70)});
-        QTest::qWait(60);
+        QTRY_VERIFY(!t.probe.brushTimer().isActive());
     }
     t.trigger("actionBackgroundZoomPlus");
     t.trigger("actionPreview");
@@ -461,7 +469,7 @@ void PreviewTest::brushBatchAfterThePreviewWent()
     t.mouse.stroke({t.at(30, 20), t.at(32, 20)});
     QVERIFY(!t.probe.pendingBrushRects().isEmpty());
     t.openPicture(file()); // before the batch is due
-    QTest::qWait(80);
+    QTRY_VERIFY(!t.probe.brushTimer().isActive());
     QVERIFY(t.probe.pendingBrushRects().isEmpty());
     QCOMPARE(t.probe.undoStack().count(), 0);
     QVERIFY(t.probe.previewImage().isNull());
@@ -557,7 +565,7 @@ void PreviewTest::switchingInAnyOrder()
             QEvent leave(QEvent::Leave);
             QApplication::sendEvent(&t.view, &leave);
         } else if (step == "wait") {
-            QTest::qWait(1);
+            QCoreApplication::processEvents();
         } else {
             t.trigger(step.toLatin1());
         }
@@ -566,6 +574,154 @@ void PreviewTest::switchingInAnyOrder()
     t.openPicture(file());
     QCOMPARE(t.probe.imageScene().items().size(), 1);
     QCOMPARE(t.probe.workingImage(), m_picture);
+}
+
+void PreviewTest::handIsUnderThePointer_data()
+{
+    QTest::addColumn<int>("zoomSteps");
+    QTest::addColumn<QPoint>("step");
+    QTest::newRow("far out") << -12 << QPoint(-10, 3);
+    QTest::newRow("a little out") << -3 << QPoint(-1, 0);
+    QTest::newRow("fitted") << 0 << QPoint(-8, -8);
+    QTest::newRow("a little in") << 2 << QPoint(7, -7);
+    QTest::newRow("far in") << 8 << QPoint(-11, 5);
+}
+
+/// The object goes where the pointer goes; all else stays where it is.
+void PreviewTest::handIsUnderThePointer()
+{
+    QFETCH(int, zoomSteps);
+    QFETCH(QPoint, step);
+    WindowUnderTest t;
+    const QString large = m_folder.filePath("large.png");
+    QVERIFY(testpictures::blobImage(900, 700, 2).save(large));
+    t.openPicture(large);
+    t.trigger("actionPreview");
+    for (int i = 0; i < std::abs(zoomSteps); ++i)
+        t.trigger(zoomSteps > 0 ? "actionZoom_In" : "actionZoom_Out");
+    t.trigger("actionHandTool");
+    QCoreApplication::processEvents();
+    const auto where = [&t](const QGraphicsItem *item) {
+        return t.view.viewportTransform().map(item->scenePos());
+    };
+    const QPointF objectBefore = where(t.probe.previewItem());
+    const QPointF backgroundBefore = where(t.probe.backgroundItem());
+    const auto scrollState = [&t] {
+        QList<int> state;
+        for (const QScrollBar *bar : {t.view.horizontalScrollBar(), t.view.verticalScrollBar()})
+            state << bar->minimum() << bar->maximum() << bar->value();
+        return state;
+    };
+    const QList<int> scrollBefore = scrollState();
+
+    const QPoint start(300, 200);
+    t.mouse.press(start);
+    for (int i = 1; i <= 12; ++i) {
+        t.mouse.move(start + i * step);
+        QCoreApplication::processEvents();
+    }
+    t.mouse.release(start + 12 * step);
+    QCoreApplication::processEvents();
+
+    QCOMPARE(where(t.probe.backgroundItem()), backgroundBefore);
+    QCOMPARE(scrollState(), scrollBefore);
+    const QPointF off = where(t.probe.previewItem()) - objectBefore - QPointF(12 * step);
+    const double pixelOfThePicture = std::max(1.0, t.view.transform().m11()); // it lies at whole ones
+    QVERIFY2(std::abs(off.x()) <= pixelOfThePicture && std::abs(off.y()) <= pixelOfThePicture,
+             qPrintable(QStringLiteral("off by %1, %2").arg(off.x()).arg(off.y())));
+}
+
+namespace {
+
+/// How far the middle of the preview lies from that of the canvas.
+QPointF offCentre(WindowUnderTest &t)
+{
+    const QPointF middle =
+        t.view.viewportTransform().mapRect(t.probe.backgroundItem()->sceneBoundingRect()).center();
+    return middle - QRectF(t.view.viewport()->rect()).center();
+}
+
+bool nothingToScroll(const WindowUnderTest &t)
+{
+    return t.view.horizontalScrollBar()->minimum() == t.view.horizontalScrollBar()->maximum() &&
+           t.view.verticalScrollBar()->minimum() == t.view.verticalScrollBar()->maximum();
+}
+
+} // namespace
+
+void PreviewTest::fittedPreviewIsCentred()
+{
+    WindowUnderTest t;
+    const QString large = m_folder.filePath("large.png");
+    QVERIFY(testpictures::blobImage(900, 700, 2).save(large));
+    for (const QString &path : {large, file(), large}) {
+        t.openPicture(path);
+        t.trigger("actionPreview");
+        QCoreApplication::processEvents();
+        const QPointF off = offCentre(t);
+        QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 1.5,
+                 qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
+        QVERIFY(nothingToScroll(t));
+        QCOMPARE(t.probe.previewScene().sceneRect(), QRectF(t.probe.workingImage().rect()));
+        // What the hand did to one photo is nothing to the next.
+        t.trigger("actionHandTool");
+        t.mouse.stroke({QPoint(200, 200), QPoint(20, 20)});
+        QVERIFY(nothingToScroll(t));
+    }
+}
+
+void PreviewTest::windowToHalfAndBack()
+{
+    WindowUnderTest t;
+    t.window.resize(1200, 900);
+    const QString large = m_folder.filePath("large.png");
+    QVERIFY(testpictures::blobImage(900, 700, 2).save(large));
+    QCoreApplication::processEvents();
+    t.openPicture(large);
+    t.trigger("actionPreview");
+    t.trigger("actionPreview");
+    t.openPicture(file()); // a smaller one after it
+    t.trigger("actionPreview");
+    QCoreApplication::processEvents();
+    const QSize full = t.window.size();
+    const double scale = t.view.transform().m11();
+    for (int round = 0; round < 3; ++round) {
+        for (const QSize size : {full / 2, full}) {
+            t.window.resize(size);
+            QTRY_COMPARE(t.window.size(), size.expandedTo(t.window.minimumSizeHint()));
+            QCoreApplication::processEvents();
+            const QRectF shown =
+                t.view.viewportTransform().mapRect(t.probe.backgroundItem()->sceneBoundingRect());
+            QVERIFY(QRectF(t.view.viewport()->rect()).intersects(shown));
+            const QPointF off = offCentre(t);
+            QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 1.5,
+                     qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
+        }
+    }
+    QVERIFY2(std::abs(t.view.transform().m11() / scale - 1.0) < 0.01,
+             qPrintable(QString::number(t.view.transform().m11() / scale)));
+    QVERIFY(nothingToScroll(t));
+}
+
+void PreviewTest::backgroundZoomFramesTheBackground()
+{
+    WindowUnderTest t;
+    t.openPicture(file());
+    t.trigger("actionPreview");
+    t.probe.backgroundImage() = testpictures::blobImage(width, height, 9);
+    t.window.applypreviewmask();
+    const QRectF photo(0, 0, width, height);
+    QCOMPARE(t.probe.previewScene().sceneRect(), photo);
+    for (int i = 0; i < 10; ++i)
+        t.trigger("actionBackgroundZoomPlus");
+    QCOMPARE(t.probe.previewScene().sceneRect(), t.probe.backgroundItem()->sceneBoundingRect());
+    QVERIFY(t.probe.previewScene().width() > 1.6 * width);
+    for (int i = 0; i < 20; ++i)
+        t.trigger("actionBackgroundZoomMinus");
+    QCOMPARE(t.probe.previewScene().sceneRect(), photo);
+    t.trigger("actionBackgroundZoomPlus");
+    t.window.applypreviewmask();
+    QCOMPARE(t.probe.previewScene().sceneRect(), photo);
 }
 
 ORNEVO_TEST_MAIN(PreviewTest)

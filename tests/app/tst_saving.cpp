@@ -39,6 +39,7 @@ private slots:
     void pngNameHoldsJpeg();
     void overlayAfterMask();
     void overlayGoesWithSaving();
+    void previewIsLeft();
     void transparencyIsFlattened();
     void fullStrength();
     void fullDisk();
@@ -299,6 +300,28 @@ void TestSaving::overlayGoesWithSaving()
     QCOMPARE(probe->imageScene().items().size(), 1);
     action(*window, "actionMask")->trigger(); // no dead item in the way
     QCOMPARE(status(*window), "Ready");
+}
+
+/// The cut-out goes with the photo that it was cut from, as when another one is opened.
+void TestSaving::previewIsLeft()
+{
+    for (const bool as : {false, true}) {
+        openPhoto();
+        mark();
+        action(*window, "actionPreview")->trigger();
+        QVERIFY(action(*window, "actionPreview")->isChecked());
+        if (as)
+            QCOMPARE(saveAs(folder->filePath("copy.jpg")), 1);
+        else
+            QCOMPARE(answerQuestion(QMessageBox::Yes), 1);
+        QVERIFY(!action(*window, "actionPreview")->isChecked());
+        QVERIFY(action(*window, "actionMask")->isEnabled());
+        QCOMPARE(driver::canvas(*window)->scene(), &probe->imageScene());
+    }
+    openPhoto();
+    action(*window, "actionPreview")->trigger();
+    QCOMPARE(answerQuestion(QMessageBox::No), 1);
+    QVERIFY(action(*window, "actionPreview")->isChecked());
 }
 
 void TestSaving::transparencyIsFlattened()

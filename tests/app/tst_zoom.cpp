@@ -7,6 +7,7 @@
 #include "tests/support/WindowDriver.h"
 
 #include <QGraphicsRectItem>
+#include <QScrollBar>
 
 #include <cmath>
 
@@ -26,6 +27,7 @@ private slots:
     void openingFitsAgain();
     void itemsStayPut();
     void everyTool();
+    void firstStepIsExact();
 
 private:
     double scale() const { return view->transform().m11(); }
@@ -163,6 +165,25 @@ void TestZoom::everyTool()
         check();
         QVERIFY(action(*window, tool)->isChecked());
     }
+}
+
+/// No scroll bar comes up that makes the canvas smaller, and with it the picture.
+void TestZoom::firstStepIsExact()
+{
+    driver::openPhoto(*window, folder.filePath("photo.png"));
+    QCOMPARE(view->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+    QCOMPARE(view->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+    QCOMPARE(view->horizontalScrollBar()->maximum(), view->horizontalScrollBar()->minimum());
+    QCOMPARE(view->verticalScrollBar()->maximum(), view->verticalScrollBar()->minimum());
+    const double fitted = scale();
+    const QSize canvas = view->viewport()->size();
+    action(*window, "actionZoom_In")->trigger();
+    driver::settle();
+    QVERIFY(std::abs(scale() / fitted - 1.2) < nearly);
+    action(*window, "actionZoom_Out")->trigger();
+    driver::settle();
+    QVERIFY(std::abs(scale() / fitted - 1.0) < nearly);
+    QCOMPARE(view->viewport()->size(), canvas);
 }
 
 ORNEVO_TEST_MAIN(TestZoom)

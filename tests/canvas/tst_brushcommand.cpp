@@ -3,6 +3,7 @@
 
 #include "canvas/CBrushCommand.h"
 #include "canvas/PictureItem.h"
+#include "canvas/UndoSnapshot.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/TestMain.h"
 
@@ -13,8 +14,14 @@
 #include <QUndoStack>
 
 #include <csignal>
+#include <memory>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using testpictures::randomArgbImage;
 
@@ -118,6 +125,9 @@ private slots:
     void foldersThatTakeNoFile();
     void fullDisk_data();
     void fullDisk();
+    void oneStateOnTheDisk();
+    void fewDescriptors();
+    void removesWhatAKilledProgramLeft();
     void deadItem();
     void boxOutsideThePicture_data();
     void boxOutsideThePicture();
@@ -285,7 +295,7 @@ void TestBrushCommand::fullDisk_data()
     QTest::newRow("nothing fits") << 0;
     QTest::newRow("the header fits") << 60;
     QTest::newRow("half of it fits") << 700;
-    QTest::newRow("one of the pictures fits") << 1600;
+    QTest::newRow("nearly all of it fits") << 1150;
 }
 
 void TestBrushCommand::fullDisk()
@@ -298,6 +308,77 @@ void TestBrushCommand::fullDisk()
     }
     QCOMPARE(temporaryFiles().size(), 0); // a part of the picture is of no use
     checkUndoRedo(before, image.copy());
+}
+
+/// What can be had from the picture is not stored a second time, neither after the batch nor after undo.
+void TestBrushCommand::oneStateOnTheDisk()
+{
+    image = randomArgbImage(300, 200, 1);
+    const QRect area = image.rect();
+    const qint64 pixels = image.sizeInBytes();
+    push(area, 2);
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(temporaryFiles().size(), 1);
+        QFile file(temporaryFiles().first());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY2(file.size() > pixels && file.size() < pixels + pixels / 10,
+                 qPrintable(QString::number(file.size())));
+        stack.setIndex(stack.index() == 0 ? 1 : 0);
+    }
+}
+
+/// Snapshots leave descriptors for others, and work without.
+void TestBrushCommand::fewDescriptors()
+{
+    rlimit before{};
+    getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit few{64, before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &few), 0);
+    QList<QImage> states{image.copy()};
+    for (int i = 0; i < 100; ++i) {
+        push(QRect(i % 30, i % 20, 9, 9), static_cast<quint32>(i + 10));
+        states.append(image.copy());
+    }
+    std::vector<std::unique_ptr<QFile>> others;
+    for (int i = 0; i < 20; ++i) {
+        others.push_back(std::make_unique<QFile>(QCoreApplication::applicationFilePath()));
+        QVERIFY2(others.back()->open(QIODevice::ReadOnly), qPrintable(QString::number(i)));
+    }
+    for (int i = 100; i >= 0; --i) {
+        stack.setIndex(i);
+        QVERIFY(image == states.at(i));
+    }
+    setrlimit(RLIMIT_NOFILE, &before);
+    stack.setIndex(100);
+    QVERIFY(image == states.last());
+}
+
+void TestBrushCommand::removesWhatAKilledProgramLeft()
+{
+    const QTemporaryDir folder;
+    const OtherTemporaryFolder elsewhere(folder.path());
+    const auto put = [&folder](const QString &name) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    };
+    for (const char *name :
+         {"ornevo-undo-Ab1234", "ornevo-undo-held00", "ornevo-undo-too-long", "other-undo-Ab1234"})
+        put(name);
+    QVERIFY(QFile::link("ornevo-undo-Ab1234", folder.filePath("ornevo-undo-link00")));
+    const int held =
+        ::open(folder.filePath("ornevo-undo-held00").toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
+    QCOMPARE(flock(held, LOCK_EX), 0); // by a program that runs
+    QCOMPARE(mkfifo(folder.filePath("ornevo-undo-pipe00").toLocal8Bit().constData(), 0600), 0);
+    removeAbandonedSnapshots();
+    const auto names = [&folder] {
+        return QDir(folder.path()).entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
+    };
+    const QStringList others{"ornevo-undo-link00", "ornevo-undo-pipe00", "ornevo-undo-too-long",
+                             "other-undo-Ab1234"};
+    QCOMPARE(names(), QStringList("ornevo-undo-held00") + others);
+    ::close(held);
+    removeAbandonedSnapshots();
+    QCOMPARE(names(), others);
 }
 
 void TestBrushCommand::deadItem()
@@ -361,7 +442,6 @@ void TestBrushCommand::otherPictureMeanwhile()
     const QRect area(5, 4, 20, 15);
     const QImage first = image.copy();
     push(area, 2);
-    const QImage brushed = image.copy();
     image = size.isEmpty() ? QImage() : randomArgbImage(size.width(), size.height(), 77);
     const QImage other = image.copy();
     const auto check = [&](const QImage &source) {
@@ -372,8 +452,8 @@ void TestBrushCommand::otherPictureMeanwhile()
     };
     stack.undo();
     check(first);
-    stack.redo();
-    check(brushed);
+    stack.redo(); // what undo displaced comes back
+    check(other);
     stack.undo();
     check(first);
 }

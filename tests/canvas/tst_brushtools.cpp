@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "canvas/ZelGraphicsView.h"
+#include "tests/reference/TestPictures.h"
+#include "tests/support/CanvasMouse.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
 
+#include <QDialog>
 #include <QGraphicsEllipseItem>
 #include <QSignalSpy>
+#include <QtMath>
 
 #include <cmath>
 
@@ -27,7 +31,11 @@ private slots:
     void circle();
     void circleGoesAndComesBack();
     void pressLeavesTheCircleAlone();
+    void circleShowsOnEveryPicture_data();
+    void circleShowsOnEveryPicture();
     void removeBrushRepaintsTheScene();
+    void dialogEndsTheStroke();
+    void moveWithoutAButtonEndsTheStroke();
     void sizesWithoutArea_data();
     void sizesWithoutArea();
     void updateEllipse();
@@ -313,6 +321,97 @@ void TestBrushTools::pressLeavesTheCircleAlone()
     driver::move(*view, view->mapFromScene(60, 40), Qt::LeftButton);
     driver::press(*view, view->mapFromScene(100, 90));
     QCOMPARE(outline()->rect(), QRectF(55, 35, 10, 10));
+}
+
+void TestBrushTools::circleShowsOnEveryPicture_data()
+{
+    QTest::addColumn<QImage>("picture");
+    QTest::addColumn<double>("zoom");
+    QImage noise = testpictures::randomImage(1000, 800, 5);
+    for (const double zoom : {0.3, 1.0, 3.0}) {
+        QTest::addRow("black, %.1f", zoom) << testpictures::constantImage(1000, 800, 0xFF000000) << zoom;
+        QTest::addRow("white, %.1f", zoom) << testpictures::constantImage(1000, 800, 0xFFFFFFFF) << zoom;
+        QTest::addRow("noise, %.1f", zoom) << noise << zoom;
+    }
+}
+
+/// Around the whole circle there is a dark pixel and a light one.
+void TestBrushTools::circleShowsOnEveryPicture()
+{
+    QFETCH(QImage, picture);
+    QFETCH(double, zoom);
+    constexpr int size = 80;
+    scene->setSceneRect(picture.rect());
+    scene->addPixmap(QPixmap::fromImage(picture));
+    setBrushSizes(size);
+    view->setTransform(QTransform::fromScale(zoom, zoom));
+    view->centerOn(500, 400);
+    view->SetTool(ToolKeepBrush);
+    driver::move(*view, view->mapFromScene(500, 400));
+    QVERIFY(outline() != nullptr);
+    QCOMPARE(outline()->type(), int{QGraphicsEllipseItem::Type});
+    QCOMPARE(outline()->pen(), QPen());
+    QCOMPARE(outline()->brush(), QBrush());
+    QCOMPARE(outline()->zValue(), 20.0);
+
+    const QImage seen = view->viewport()->grab().toImage();
+    const QRectF circle = view->viewportTransform().mapRect(outline()->rect());
+    QVERIFY(std::abs(circle.width() - size) < 5);
+    const auto hasNear = [&](QPoint place, int darkest, int lightest) {
+        for (int y = place.y() - 3; y <= place.y() + 3; ++y)
+            for (int x = place.x() - 3; x <= place.x() + 3; ++x)
+                if (const int grey = qGray(seen.pixel(x, y)); grey >= darkest && grey <= lightest)
+                    return true;
+        return false;
+    };
+    for (int degrees = 0; degrees < 360; degrees += 5) {
+        const double angle = qDegreesToRadians(double(degrees));
+        const QPointF direction(std::cos(angle), std::sin(angle));
+        const QPoint place = (circle.center() + direction * circle.width() / 2.0).toPoint();
+        QVERIFY2(hasNear(place, 0, 20), "no dark line");
+        QVERIFY2(hasNear(place, 250, 255), "no light line");
+    }
+}
+
+/// The release goes to the dialog.
+void TestBrushTools::dialogEndsTheStroke()
+{
+    zoomTo(1.0);
+    QSignalSpy brush(view.get(), &ZelGraphicsView::AnyBrush);
+    QSignalSpy hand(view.get(), &ZelGraphicsView::HandTool);
+    for (const DrawingTools tool : {ToolKeepBrush, ToolHand}) {
+        view->SetTool(tool);
+        driver::press(*view, view->mapFromScene(60, 40));
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        dialog.close();
+        brush.clear();
+        driver::move(*view, view->mapFromScene(70, 40));
+        driver::move(*view, view->mapFromScene(80, 40));
+        QCOMPARE(brush.size() + hand.size(), 0);
+        if (tool == ToolHand)
+            QCOMPARE(view->viewport()->cursor().shape(), Qt::OpenHandCursor);
+        driver::release(*view, view->mapFromScene(80, 40));
+    }
+}
+
+void TestBrushTools::moveWithoutAButtonEndsTheStroke()
+{
+    zoomTo(1.0);
+    QSignalSpy brush(view.get(), &ZelGraphicsView::AnyBrush);
+    view->SetTool(ToolKeepBrush);
+    testsupport::CanvasMouse mouse(*view);
+    mouse.press(view->mapFromScene(60, 40));
+    mouse.move(view->mapFromScene(62, 40));
+    QCOMPARE(brush.size(), 2);
+    testsupport::CanvasMouse released(*view); // knows of no button
+    released.move(view->mapFromScene(70, 40));
+    released.move(view->mapFromScene(80, 40));
+    QCOMPARE(brush.size(), 2);
+    QVERIFY(outline() != nullptr); // the circle still follows
+    QCOMPARE(outline()->rect().center(), QPointF(80, 40));
 }
 
 void TestBrushTools::removeBrushRepaintsTheScene()

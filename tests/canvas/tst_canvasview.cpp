@@ -111,6 +111,8 @@ private slots:
     void cursorOfTool_data();
     void cursorOfTool();
     void cursorGoesToTheViewport();
+    void eraserCursorFollowsItsSize();
+    void rereadingSizesLeavesTheClosedHand();
     void eraserWithoutASizeHasACursor();
     void handClosesWhileItDrags();
     void settingsByDefault();
@@ -224,6 +226,34 @@ void CanvasViewTest::cursorGoesToTheViewport()
         QVERIFY(canvas.view.viewport()->testAttribute(Qt::WA_SetCursor));
         QVERIFY(!canvas.view.testAttribute(Qt::WA_SetCursor));
     }
+}
+
+void CanvasViewTest::eraserCursorFollowsItsSize()
+{
+    Canvas c;
+    const auto width = [&c] {
+        const QPixmap drawing = c.view.viewport()->cursor().pixmap();
+        return qRound(drawing.width() / drawing.devicePixelRatio());
+    };
+    c.view.SetTool(ToolEraser);
+    QCOMPARE(width(), 10);
+    c.settings.setValue("ERASERMSIZE", 33);
+    c.view.updatetoolssettings();
+    QCOMPARE(width(), 33);
+    c.settings.setValue("SAMESIZECHECKED", true);
+    c.settings.setValue("KEEPMSIZE", 21);
+    c.view.updatetoolssettings();
+    QCOMPARE(width(), 21);
+    QCOMPARE(c.view.viewport()->cursor().hotSpot(), QPoint(10, 10));
+}
+
+void CanvasViewTest::rereadingSizesLeavesTheClosedHand()
+{
+    Canvas c;
+    c.view.SetTool(ToolHand);
+    c.mouse.press(QPoint(50, 50));
+    c.view.updatetoolssettings();
+    QCOMPARE(c.view.viewport()->cursor().shape(), Qt::ClosedHandCursor);
 }
 
 void CanvasViewTest::eraserWithoutASizeHasACursor()

@@ -3,7 +3,7 @@
 
 #include "imaging/EdgeDetectors.h"
 #include "tests/imaging/Planes.h"
-#include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/support/Differences.h"
 #include "tests/support/TestMain.h"
 

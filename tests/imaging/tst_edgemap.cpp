@@ -3,7 +3,7 @@
 
 #include "imaging/EdgeMap.h"
 #include "tests/imaging/Planes.h"
-#include "tests/reference/EdgeDetectorsReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/support/Differences.h"
 #include "tests/support/Photographs.h"
 #include "tests/support/TestMain.h"
@@ -19,7 +19,7 @@ using Bytes = std::vector<std::uint8_t>;
 Bytes edgeMapOf(const QImage &picture)
 {
     GuardedPlane<unsigned char> edges(reference::Plane(picture.width(), picture.height(), 0x3C));
-    computeEdgeMap(picture, edges.view().data);
+    imaging::computeEdgeMap(picture, edges.view().data);
     return edges.guardsWhole() ? edges.values() : Bytes();
 }
 
@@ -165,9 +165,9 @@ void TestEdgeMap::tallAndWide()
 void TestEdgeMap::nullPicture()
 {
     std::uint8_t edges[1] = {42};
-    computeEdgeMap(QImage(), edges);
+    imaging::computeEdgeMap(QImage(), edges);
     QCOMPARE(int(edges[0]), 42);
-    computeEdgeMap(QImage(), nullptr);
+    imaging::computeEdgeMap(QImage(), nullptr);
 }
 
 ORNEVO_TEST_MAIN(TestEdgeMap)

@@ -94,16 +94,17 @@ def array_for(choose, size, parameter):
     if choose.one_in(30):
         dtype = choose.of(DTYPES)
     shape = shape_for(choose, size, parameter)
-    pixels = np.prod(np.maximum(np.array(shape, float), 1))
-    if pixels * dtype.itemsize > 2**62:  # more than numpy makes, even of one element
-        shape, pixels = (2**31, 2), 2**32
+    pixels = np.prod(np.array(shape, float))
     if 1e7 < pixels < 2**31:  # would be worked on, for minutes
         shape = (2**31, *shape[1:])
     large = pixels > 1e5
     if dtype.kind == "O" or large and dtype.kind == "V":
         return np.zeros((2, 2), dtype)
     if large:
-        return np.lib.stride_tricks.as_strided(np.zeros(1, dtype), shape, (0,) * len(shape))
+        try:
+            return np.lib.stride_tricks.as_strided(np.zeros(1, dtype), shape, (0,) * len(shape))
+        except ValueError:  # more than numpy makes, even of one element
+            return np.zeros((1, 1), dtype)
     array = memory_for(choose, shape, dtype) if 0 not in shape else np.zeros(shape, dtype)
     if parameter == "markers" and dtype.kind in "iu" and not choose.one_in(10):
         array[...] = np.where(choose.random.random(shape) < 0.05, choose.random.integers(0, choose.of([2, 5, 100]), shape), 0)

@@ -20,22 +20,17 @@ def edge_map(image):
 
 
 def cut_out(image, keep, remove, edges=None):
-    edges = edge_map(image) if edges is None else np.ascontiguousarray(edges)
-    mask = np.zeros(keep.shape, bool)
-    mask.flat[reference.watershed(four_bytes(image), np.flatnonzero(keep), np.flatnonzero(remove), edges)] = True
-    return mask
+    edges = edge_map(image) if edges is None else edges
+    seeds = [np.flatnonzero(keep), np.flatnonzero(remove)]
+    return reference.watershed(four_bytes(image), seeds, edges, True) == 1
 
 
 def watershed(image, markers, edges=None):
-    edges = edge_map(image) if edges is None else np.ascontiguousarray(edges)
-    names = [label for label in np.unique(markers) if label != 0]
-    regions = reference.watershed_many(
-        four_bytes(image), [np.flatnonzero(markers == label) for label in names], edges
-    )
-    labels = np.zeros(markers.shape, np.int32)
-    for label, pixels in zip(names, regions):
-        labels.flat[pixels] = label
-    return labels
+    edges = edge_map(image) if edges is None else edges
+    names = np.array([label for label in np.unique(markers) if label != 0], np.int32)
+    seeds = [np.flatnonzero(markers == label) for label in names]
+    regions = reference.watershed(four_bytes(image), seeds, edges, False)
+    return np.where(regions > 0, names[regions - 1], 0).astype(np.int32)
 
 
 def wave_segment(image, threshold):
@@ -56,6 +51,4 @@ def smooth(image, size, sigma):
 
 
 def feather(image, mask, rings):
-    levels = np.where(mask, 0, 255).astype(np.uint8)
-    mask_picture = np.dstack([levels, levels, levels, np.full_like(levels, 255)])
-    return reference.feather(four_bytes(image), mask_picture, rings)[:, :, [2, 1, 0, 3]]
+    return reference.feather(four_bytes(image), mask.astype(np.uint8), rings)[:, :, [2, 1, 0, 3]]

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The plain versions of the algorithms as a Python module, which the tests compare the real one with.
-// Pictures are uint8 (H, W, 4), blue first, without gaps; nothing is checked beyond that.
+// Pictures are uint8 (H, W, 4), blue first; nothing is checked beyond that.
 
 #include "tests/reference/EdgeDetectorsReference.h"
 #include "tests/reference/FeatheringReference.h"
@@ -14,97 +14,81 @@
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
 
-#include <QImage>
-
 #include <algorithm>
-#include <cstring>
 
 namespace py = pybind11;
 
 namespace {
 
-using Bytes = py::array_t<std::uint8_t, py::array::c_style>;
-using Indices = std::vector<int>;
+using Bytes = py::array_t<std::uint8_t, py::array::c_style | py::array::forcecast>;
+using Labels = py::array_t<std::int32_t>;
+using Lists = std::vector<std::vector<int>>;
 
-QImage imageOf(const Bytes &picture)
+reference::Picture pictureOf(const Bytes &array)
 {
-    QImage image(static_cast<int>(picture.shape(1)), static_cast<int>(picture.shape(0)),
-                 QImage::Format_ARGB32);
-    const auto rowBytes = static_cast<std::size_t>(4 * image.width());
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(image.scanLine(y), picture.data(y, 0, 0), rowBytes);
-    return image;
-}
-
-Bytes arrayOf(const QImage &image)
-{
-    Bytes picture({image.height(), image.width(), 4});
-    const auto rowBytes = static_cast<std::size_t>(4 * image.width());
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(picture.mutable_data(y, 0, 0), image.constScanLine(y), rowBytes);
+    reference::Picture picture(static_cast<int>(array.shape(1)), static_cast<int>(array.shape(0)));
+    for (std::size_t i = 0; i < picture.data.size(); ++i) {
+        const std::uint8_t *pixel = array.data() + 4 * i;
+        for (int channel = 0; channel < 4; ++channel)
+            picture.data[i] |= std::uint32_t{pixel[channel]} << (8 * channel);
+    }
     return picture;
 }
 
-std::vector<std::uint8_t> planeOf(const Bytes &plane)
+Bytes arrayOf(const reference::Picture &picture)
+{
+    Bytes array({picture.height, picture.width, 4});
+    std::uint8_t *out = array.mutable_data();
+    for (const std::uint32_t pixel : picture.data)
+        for (int channel = 0; channel < 4; ++channel)
+            *out++ = static_cast<std::uint8_t>(reference::channelOf(pixel, channel));
+    return array;
+}
+
+std::vector<std::uint8_t> bytesOf(const Bytes &plane)
 {
     return {plane.data(), plane.data() + plane.size()};
 }
 
-QList<int> listOf(const Indices &indices)
-{
-    return {indices.begin(), indices.end()};
-}
-
-std::vector<Indices> vectorsOf(const QList<QList<int>> &lists)
-{
-    std::vector<Indices> vectors;
-    for (const QList<int> &list : lists)
-        vectors.emplace_back(list.begin(), list.end());
-    return vectors;
-}
-
 Bytes edgeMap(const Bytes &picture)
 {
-    const std::vector<std::uint8_t> edges = reference::edgeMap(imageOf(picture));
+    const std::vector<std::uint8_t> edges = reference::edgeMap(pictureOf(picture));
     Bytes plane({picture.shape(0), picture.shape(1)});
     std::copy(edges.begin(), edges.end(), plane.mutable_data());
     return plane;
 }
 
-Indices watershed(const Bytes &picture, const Indices &keep, const Indices &remove, const Bytes &edges)
+/// The label plane, all 0 where nothing could be flooded.
+Labels watershed(const Bytes &picture, const Lists &seeds, const Bytes &edges, bool byStrength)
 {
-    QList<int> result;
-    reference::watershed(imageOf(picture), listOf(keep), listOf(remove), result, planeOf(edges));
-    return {result.begin(), result.end()};
+    const auto rule = byStrength ? reference::EdgeCost::strength : reference::EdgeCost::highest;
+    const auto flooded = reference::watershed(pictureOf(picture), seeds, bytesOf(edges), rule);
+    Labels labels({picture.shape(0), picture.shape(1)});
+    std::fill_n(labels.mutable_data(), labels.size(), 0);
+    if (flooded)
+        std::copy(flooded->begin(), flooded->end(), labels.mutable_data());
+    return labels;
 }
 
-std::vector<Indices> watershedMany(const Bytes &picture, const std::vector<Indices> &seeds,
-                                   const Bytes &edges)
+Lists waveSegment(const Bytes &picture, int threshold)
 {
-    QList<QList<int>> result{{}};
-    reference::watershedMany(imageOf(picture), seeds, result, planeOf(edges));
-    return vectorsOf(result.mid(1));
-}
-
-std::vector<Indices> waveSegment(const Bytes &picture, int threshold)
-{
-    QList<QList<int>> regions;
-    reference::waveSegment(imageOf(picture), regions, threshold);
-    return vectorsOf(regions);
+    return reference::waveSegment(pictureOf(picture), threshold);
 }
 
 Bytes blur(const Bytes &picture, int size, double sigma)
 {
-    QImage blurred = imageOf(picture);
-    reference::fourChannelBlur(imageOf(picture), blurred, size, sigma);
+    const reference::Picture src = pictureOf(picture);
+    reference::Picture blurred = src;
+    reference::fourChannelBlur(src, blurred, size, sigma);
     return arrayOf(blurred);
 }
 
-/// `mask` is a picture, too: black, opaque pixels are set, white ones are clear.
 Bytes feather(const Bytes &picture, const Bytes &mask, int rings)
 {
-    QImage feathered = imageOf(picture);
-    reference::featherWithMaskImage(feathered, imageOf(mask), rings);
+    reference::Picture feathered = pictureOf(picture);
+    reference::Plane set(feathered.width, feathered.height);
+    set.data = bytesOf(mask);
+    reference::feather(feathered, set, rings);
     return arrayOf(feathered);
 }
 
@@ -114,7 +98,6 @@ PYBIND11_MODULE(ornevo_reference, module)
 {
     module.def("edge_map", &edgeMap);
     module.def("watershed", &watershed);
-    module.def("watershed_many", &watershedMany);
     module.def("wave_segment", &waveSegment);
     module.def("blur", &blur);
     module.def("feather", &feather);

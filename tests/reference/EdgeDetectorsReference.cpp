@@ -95,19 +95,19 @@ void colorDifference8(const std::vector<std::uint8_t> &picture, Plane &dst)
                      [&dst](int x, int y, int sum) { dst.at(x, y) = static_cast<std::uint8_t>(sum / 9); });
 }
 
-std::vector<std::uint8_t> edgeMap(const QImage &picture)
+std::vector<std::uint8_t> edgeMap(const Picture &picture)
 {
-    const int w = picture.width();
-    const int h = picture.height();
+    const int w = picture.width;
+    const int h = picture.height;
     Plane red(w, h);
     Plane green(w, h);
     Plane blue(w, h);
     for (int x = 0; x < w; ++x) {
         for (int y = 0; y < h; ++y) {
-            const QRgb pixel = picture.pixel(x, y);
-            red.at(x, y) = static_cast<std::uint8_t>((pixel >> 16) & 0xff);
-            green.at(x, y) = static_cast<std::uint8_t>((pixel >> 8) & 0xff);
-            blue.at(x, y) = static_cast<std::uint8_t>(pixel & 0xff);
+            const std::uint32_t pixel = picture.at(x, y);
+            red.at(x, y) = static_cast<std::uint8_t>(channelOf(pixel, 2));
+            green.at(x, y) = static_cast<std::uint8_t>(channelOf(pixel, 1));
+            blue.at(x, y) = static_cast<std::uint8_t>(channelOf(pixel, 0));
         }
     }
 

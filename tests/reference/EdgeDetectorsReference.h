@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#ifndef ORNEVO_TESTS_REFERENCE_EDGEDETECTORSREFERENCE_H
-#define ORNEVO_TESTS_REFERENCE_EDGEDETECTORSREFERENCE_H
+#pragma once
 
 #include "tests/reference/Plane.h"
-
-#include <QImage>
 
 #include <cstdint>
 #include <vector>
@@ -30,8 +27,6 @@ void colorDifference16(const std::vector<std::uint8_t> &picture, PlaneOf<std::ui
 void colorDifference8(const std::vector<std::uint8_t> &picture, Plane &dst);
 
 /// The relief that the watershed floods: width x height bytes, row by row.
-std::vector<std::uint8_t> edgeMap(const QImage &picture);
+std::vector<std::uint8_t> edgeMap(const Picture &picture);
 
 } // namespace reference
-
-#endif

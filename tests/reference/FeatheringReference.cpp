@@ -11,36 +11,28 @@ namespace reference {
 
 namespace {
 
-constexpr QRgb black = 0xff000000;
-constexpr QRgb white = 0xffffffff;
-
-/// A mask pixel above the first row is not black.
-bool isBlackAt(const QImage &mask, int x, int y)
+/// A mask pixel above the first row is not set.
+bool isSetAt(const Plane &mask, int x, int y)
 {
-    return y >= 0 && mask.pixel(x, y) == black;
+    return y >= 0 && mask.at(x, y) != 0;
 }
 
-void setAlpha(QImage &picture, const std::vector<int> &ring, int rowLength, int alpha)
+void setAlpha(Picture &picture, const std::vector<int> &ring, int rowLength, std::uint32_t alpha)
 {
     for (const int i : ring) {
         const int y = i / rowLength;
         const int x = i % rowLength;
-        if (x < picture.width() && y < picture.height())
-            picture.scanLine(y)[4 * x + 3] = static_cast<uchar>(alpha);
+        if (x < picture.width && y < picture.height)
+            picture.at(x, y) = (picture.at(x, y) & 0x00ffffffU) | alpha << 24;
     }
 }
 
 } // namespace
 
-void feather(QImage &picture, const QBitmap &mask, int count)
+void feather(Picture &picture, const Plane &mask, int count)
 {
-    featherWithMaskImage(picture, mask.toImage().convertToFormat(QImage::Format_ARGB32), count);
-}
-
-void featherWithMaskImage(QImage &picture, const QImage &mask, int count)
-{
-    const int w = mask.width();
-    const int h = mask.height();
+    const int w = mask.width;
+    const int h = mask.height;
     std::vector<std::int32_t> ringPlane(static_cast<std::size_t>(w) * static_cast<std::size_t>(h), 0);
     const auto entry = [&ringPlane](int index) -> std::int32_t & {
         return ringPlane.at(static_cast<std::size_t>(index));
@@ -49,7 +41,7 @@ void featherWithMaskImage(QImage &picture, const QImage &mask, int count)
     std::vector<int> ring1;
     for (int y = 1; y <= h - 2; ++y) {
         for (int x = 1; x <= w - 2; ++x) {
-            if (mask.pixel(x, y) != white)
+            if (isSetAt(mask, x, y))
                 continue;
             int set = 0;
             int clear = 0;
@@ -57,7 +49,7 @@ void featherWithMaskImage(QImage &picture, const QImage &mask, int count)
                 for (int column = -1; column <= 1; ++column) {
                     if (row == 0 && column == 0)
                         continue;
-                    if (isBlackAt(mask, x + column, y + row))
+                    if (isSetAt(mask, x + column, y + row))
                         ++set;
                     else
                         ++clear;
@@ -84,14 +76,14 @@ void featherWithMaskImage(QImage &picture, const QImage &mask, int count)
         for (const int i : current) {
             const int x = i % w;
             const int y = i / w;
-            if (i > 0 && x != 0 && entry(i - 1) == 0 && isBlackAt(mask, x - 1, y))
+            if (i > 0 && x != 0 && entry(i - 1) == 0 && isSetAt(mask, x - 1, y))
                 take(i - 1);
-            if (i < h * w - 1 && x != w - 1 && entry(i + 1) == 0 && isBlackAt(mask, x + 1, y))
+            if (i < h * w - 1 && x != w - 1 && entry(i + 1) == 0 && isSetAt(mask, x + 1, y))
                 take(i + 1);
-            if (i > w && entry(i - w) == 0 && isBlackAt(mask, x, y - 1))
+            if (i > w && entry(i - w) == 0 && isSetAt(mask, x, y - 1))
                 take(i - w);
             // The step down looks at the pixel above.
-            if (i / w < h - 1 && entry(i + w) == 0 && isBlackAt(mask, x, y - 1))
+            if (i / w < h - 1 && entry(i + w) == 0 && isSetAt(mask, x, y - 1))
                 take(i + w);
         }
         current = next;
@@ -103,7 +95,6 @@ void featherWithMaskImage(QImage &picture, const QImage &mask, int count)
             ring4 = current;
     }
 
-    // A 32-bit mask has no padding: its rows are w words long.
     setAlpha(picture, ring1, w, 0);
     setAlpha(picture, ring2, w, 0);
     setAlpha(picture, ring3, w, 100);

@@ -187,7 +187,7 @@ void blur33(const Plane &src, Plane &dst)
     }
 }
 
-void fourChannelBlur(const QImage &src, QImage &dst, int size, double sigma)
+void channelBlur(const Plane &src, Plane &dst, int channels, int size, double sigma)
 {
     int n = size;
     if (n % 2 == 0)
@@ -197,38 +197,51 @@ void fourChannelBlur(const QImage &src, QImage &dst, int size, double sigma)
     const int r = n / 2;
     const std::vector<double> w = gaussianWeights(n, sigma);
     const auto weight = [&w](int i) { return w.at(static_cast<std::size_t>(i)); };
-    const int width = src.width();
-    const int height = src.height();
+    const int width = src.width / channels;
+    const int height = src.height;
 
-    PlaneOf<std::uint8_t> scratch(4 * width, height, 0);
+    Plane scratch(src.width, height, 0);
     for (int y = 0; y < height; ++y) {
-        const uchar *row = src.constScanLine(y);
         for (int x = r; x <= width - r - 1; ++x) {
-            for (int channel = 0; channel < 4; ++channel) {
-                double sum = weight(r) * row[4 * x + channel];
-                for (int k = 1; k <= r; ++k) {
-                    const int pair = row[4 * (x + k) + channel] + row[4 * (x - k) + channel];
-                    sum = sum + weight(r - k) * pair;
-                }
-                scratch.at(4 * x + channel, y) = lowByte(sum);
+            for (int channel = 0; channel < channels; ++channel) {
+                const auto at = [&](int column) { return int{src.at(column * channels + channel, y)}; };
+                double sum = weight(r) * at(x);
+                for (int k = 1; k <= r; ++k)
+                    sum = sum + weight(r - k) * (at(x + k) + at(x - k));
+                scratch.at(x * channels + channel, y) = lowByte(sum);
             }
         }
     }
 
     for (int y = r; y <= height - r - 1; ++y) {
-        uchar *row = dst.scanLine(y);
-        for (int x = r; x <= width - r - 1; ++x) {
-            for (int channel = 0; channel < 4; ++channel) {
-                const int column = 4 * x + channel;
-                std::uint8_t value = lowByte(scratch.at(column, y) * weight(r));
-                for (int k = 1; k <= r; ++k) {
-                    const int pair = scratch.at(column, y + k) + scratch.at(column, y - k);
-                    value = lowByte(value + pair * weight(r - k));
-                }
-                row[column] = value;
+        for (int column = r * channels; column < (width - r) * channels; ++column) {
+            std::uint8_t value = lowByte(scratch.at(column, y) * weight(r));
+            for (int k = 1; k <= r; ++k) {
+                const int pair = scratch.at(column, y + k) + scratch.at(column, y - k);
+                value = lowByte(value + pair * weight(r - k));
             }
+            dst.at(column, y) = value;
         }
     }
+}
+
+void fourChannelBlur(const Picture &src, Picture &dst, int size, double sigma)
+{
+    const auto bytesOf = [](const Picture &picture) {
+        Plane plane(4 * picture.width, picture.height);
+        for (int y = 0; y < picture.height; ++y)
+            for (int i = 0; i < plane.width; ++i)
+                plane.at(i, y) = static_cast<std::uint8_t>(channelOf(picture.at(i / 4, y), i % 4));
+        return plane;
+    };
+    Plane blurred = bytesOf(dst);
+    channelBlur(bytesOf(src), blurred, 4, size, sigma);
+    for (int y = 0; y < dst.height; ++y)
+        for (int x = 0; x < dst.width; ++x) {
+            dst.at(x, y) = 0;
+            for (int channel = 0; channel < 4; ++channel)
+                dst.at(x, y) |= std::uint32_t{blurred.at(4 * x + channel, y)} << (8 * channel);
+        }
 }
 
 } // namespace reference

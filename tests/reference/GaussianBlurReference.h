@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#ifndef ORNEVO_TESTS_REFERENCE_GAUSSIANBLURREFERENCE_H
-#define ORNEVO_TESTS_REFERENCE_GAUSSIANBLURREFERENCE_H
+#pragma once
 
 #include "tests/reference/Plane.h"
-
-#include <QImage>
 
 #include <vector>
 
@@ -36,8 +33,10 @@ void blur33(const Plane &src, Plane &dst);
 
 /// Separable blur of all four bytes of every pixel; the frame of dst keeps
 /// what it held. An even size acts as the next odd one.
-void fourChannelBlur(const QImage &src, QImage &dst, int size, double sigma);
+void fourChannelBlur(const Picture &src, Picture &dst, int size, double sigma);
+
+/// The same for planes of interleaved bytes, whose width is that of the picture
+/// times the channels.
+void channelBlur(const Plane &src, Plane &dst, int channels, int size, double sigma);
 
 } // namespace reference
-
-#endif

@@ -3,7 +3,7 @@
 
 #include "tests/reference/MaskReference.h"
 
-#include "tests/reference/GaussianBlurReference.h"
+#include "tests/reference/ImageReferences.h"
 
 #include <QPainter>
 #include <QPainterPath>

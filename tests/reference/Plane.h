@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#ifndef ORNEVO_TESTS_REFERENCE_PLANE_H
-#define ORNEVO_TESTS_REFERENCE_PLANE_H
+#pragma once
 
 #include <cstddef>
 #include <cstdint>
@@ -46,6 +45,13 @@ private:
 
 using Plane = PlaneOf<std::uint8_t>;
 
-} // namespace reference
+/// A picture: 0xAARRGGBB a pixel, in memory blue, green, red and one more byte.
+using Picture = PlaneOf<std::uint32_t>;
 
-#endif
+/// Byte `channel` of a pixel, 0 blue .. 3 alpha.
+inline int channelOf(std::uint32_t pixel, int channel)
+{
+    return static_cast<int>(pixel >> (8 * channel) & 0xffU);
+}
+
+} // namespace reference

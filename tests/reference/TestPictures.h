@@ -1,53 +1,27 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#ifndef ORNEVO_TESTS_REFERENCE_TESTPICTURES_H
-#define ORNEVO_TESTS_REFERENCE_TESTPICTURES_H
+#pragma once
+
+#include "tests/reference/Pictures.h"
 
 #include <QImage>
 #include <QList>
 #include <QSize>
 
 #include <cstdint>
-#include <random>
 #include <vector>
 
-// Pictures for the tests. A seed gives the same picture on every platform:
-// only the raw output of the generator is used, since the standard
-// distributions differ between libraries.
+// The pictures of Pictures.h as Qt has them.
 
 namespace testpictures {
 
-/// Random numbers whose values depend on the seed only.
-class Random
-{
-public:
-    explicit Random(std::uint32_t seed) : engine(seed) {}
-
-    std::uint32_t next() { return static_cast<std::uint32_t>(engine()); }
-    std::uint8_t byte() { return static_cast<std::uint8_t>(next() >> 24); }
-    /// 0 .. bound - 1; bound must be positive.
-    int below(int bound) { return static_cast<int>(next() % static_cast<std::uint32_t>(bound)); }
-
-private:
-    std::mt19937 engine;
-};
+QImage toImage(const reference::Picture &picture, QImage::Format format = QImage::Format_RGB32);
+/// Of four bytes a pixel.
+reference::Picture toPicture(const QImage &image);
 
 /// Sizes at which borders, vector tails and small loops go wrong.
 QList<QSize> awkwardSizes();
-
-// Planes: width x height bytes, row by row.
-std::vector<std::uint8_t> randomPlane(int width, int height, std::uint32_t seed);
-std::vector<std::uint8_t> constantPlane(int width, int height, std::uint8_t value);
-/// Column x holds start + x * step modulo 256.
-std::vector<std::uint8_t> rampPlane(int width, int height, int start, int step);
-/// \a left up to column \a at - 1, \a right from there on.
-std::vector<std::uint8_t> stepPlane(int width, int height, int at, std::uint8_t left, std::uint8_t right);
-/// Random values out of 0 .. levels - 1 only, so that most neighbours are
-/// equal and the queues meet many ties; levels must be positive.
-std::vector<std::uint8_t> plateauPlane(int width, int height, int levels, std::uint32_t seed);
-/// Random values of which about one in \a oneIn is not 0.
-std::vector<std::uint8_t> sparsePlane(int width, int height, int oneIn, std::uint32_t seed);
 
 // Pictures in QImage::Format_RGB32, fourth byte 255.
 QImage randomImage(int width, int height, std::uint32_t seed);
@@ -69,8 +43,6 @@ QImage blobImage(int width, int height, std::uint32_t seed);
 /// Random bytes in all four channels, QImage::Format_ARGB32.
 QImage randomArgbImage(int width, int height, std::uint32_t seed);
 
-/// 1 inside a few random discs, 0 outside.
-std::vector<std::uint8_t> blobMask(int width, int height, std::uint32_t seed);
 /// A blob mask as a picture of 0xff000000 (inside) and 0xffffffff, in
 /// QImage::Format_ARGB32.
 QImage blobMaskImage(int width, int height, std::uint32_t seed);
@@ -88,5 +60,3 @@ bool paddingUntouched(const QImage &padded, std::uint32_t seed);
 QList<int> randomIndices(int width, int height, int count, std::uint32_t seed);
 
 } // namespace testpictures
-
-#endif

@@ -1,32 +1,32 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#ifndef ORNEVO_TESTS_REFERENCE_WATERSHEDREFERENCE_H
-#define ORNEVO_TESTS_REFERENCE_WATERSHEDREFERENCE_H
+#pragma once
 
-#include <QImage>
-#include <QList>
+#include "tests/reference/Plane.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace reference {
 
+/// What a pixel costs whose edge map value is not 0.
+enum class EdgeCost {
+    strength, ///< that value
+    highest   ///< 255
+};
+
 /// Weighted colour difference of two pixels, 0 .. 255: red, green and blue are
 /// added in this order and the sum is truncated.
-int luminanceDifference(QRgb p, QRgb q);
+int luminanceDifference(std::uint32_t p, std::uint32_t q);
 
-/// Floods \a image from the Keep and the Remove seeds and appends the indices
-/// of the Keep region to \a result. Returns 0, or -1 when nothing was done.
-int watershed(const QImage &image, const QList<int> &keep, const QList<int> &remove, QList<int> &result,
-              const std::vector<std::uint8_t> &edges);
-
-/// Floods \a image from any number of seed lists. \a result must hold one
-/// list; a list for each region is appended to it. Returns the number of seed
-/// lists, or -1 when nothing was done.
-int watershedMany(const QImage &image, const std::vector<std::vector<int>> &seeds, QList<QList<int>> &result,
-                  const std::vector<std::uint8_t> &edges);
+/// Floods \a picture from the seed lists, whose regions are 1, 2, .. in their
+/// order; of lists that share a pixel the later one wins. Gives the label plane,
+/// row by row: the region, or -1 on the frame and on watershed lines, or 0 where
+/// nothing came. Nothing when no pixel could be flooded.
+std::optional<std::vector<std::int32_t>> watershed(const Picture &picture,
+                                                   const std::vector<std::vector<int>> &seeds,
+                                                   const std::vector<std::uint8_t> &edges, EdgeCost rule);
 
 } // namespace reference
-
-#endif

@@ -13,23 +13,23 @@ namespace {
 
 /// Sum of the three byte differences from p to q, each of which wraps around:
 /// a slightly brighter neighbour is far away.
-int colorStep(const QImage &picture, int p, int q)
+int colorStep(const Picture &picture, int p, int q)
 {
-    const int width = picture.width();
-    const uchar *pixelP = picture.constScanLine(p / width) + 4 * (p % width);
-    const uchar *pixelQ = picture.constScanLine(q / width) + 4 * (q % width);
+    const std::uint32_t from = picture.data.at(static_cast<std::size_t>(p));
+    const std::uint32_t to = picture.data.at(static_cast<std::size_t>(q));
     int sum = 0;
     for (int k = 0; k <= 2; ++k)
-        sum += static_cast<std::uint8_t>(pixelP[k] - pixelQ[k]);
+        sum += static_cast<std::uint8_t>(channelOf(from, k) - channelOf(to, k));
     return sum;
 }
 
 } // namespace
 
-int waveSegment(const QImage &picture, QList<QList<int>> &regions, int threshold)
+std::vector<std::vector<int>> waveSegment(const Picture &picture, int threshold)
 {
-    const int width = picture.width();
-    const int height = picture.height();
+    const int width = picture.width;
+    const int height = picture.height;
+    std::vector<std::vector<int>> regions;
     std::vector<std::uint8_t> taken(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
     const auto takenAt = [&taken](int index) -> std::uint8_t & {
         return taken.at(static_cast<std::size_t>(index));
@@ -41,16 +41,16 @@ int waveSegment(const QImage &picture, QList<QList<int>> &regions, int threshold
             if (takenAt(i))
                 continue;
             // The start is not marked, so its own region may take it again.
-            QList<int> region;
-            QList<int> current{i};
-            QList<int> next;
-            while (!current.isEmpty()) {
+            std::vector<int> region;
+            std::vector<int> current{i};
+            std::vector<int> next;
+            while (!current.empty()) {
                 for (const int e : current) {
-                    region.append(e);
+                    region.push_back(e);
                     const auto test = [&](int n) {
                         if (!takenAt(n) && colorStep(picture, e, n) < threshold) {
                             takenAt(n) = 1;
-                            next.append(n);
+                            next.push_back(n);
                         }
                     };
                     if (e > 0 && e % width != 0)
@@ -63,12 +63,12 @@ int waveSegment(const QImage &picture, QList<QList<int>> &regions, int threshold
                         test(e + width);
                 }
                 current = next;
-                next = QList<int>();
+                next = std::vector<int>();
             }
-            regions.append(region);
+            regions.push_back(region);
         }
     }
-    return 0;
+    return regions;
 }
 
 bool isBlack(unsigned char value)

@@ -1,21 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#ifndef ORNEVO_TESTS_REFERENCE_WAVESEGMENTREFERENCE_H
-#define ORNEVO_TESTS_REFERENCE_WAVESEGMENTREFERENCE_H
+#pragma once
 
-#include <QImage>
-#include <QList>
+#include "tests/reference/Plane.h"
+
+#include <vector>
 
 namespace reference {
 
-/// Splits the picture into regions of similar colour and appends one list of
-/// pixel indices for each region. Always returns 0.
-int waveSegment(const QImage &picture, QList<QList<int>> &regions, int threshold);
+/// Splits the picture into regions of similar colour: a list of pixel indices
+/// for each, in the order in which they start.
+std::vector<std::vector<int>> waveSegment(const Picture &picture, int threshold);
 
 bool isBlack(unsigned char value);
 bool isWhite(unsigned char value);
 
 } // namespace reference
-
-#endif

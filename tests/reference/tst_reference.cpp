@@ -1,13 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/reference/EdgeDetectorsReference.h"
-#include "tests/reference/FeatheringReference.h"
-#include "tests/reference/GaussianBlurReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
-#include "tests/reference/WatershedReference.h"
-#include "tests/reference/WaveSegmentReference.h"
 
 #include <QObject>
 #include <QPainter>

@@ -3,6 +3,7 @@
 
 #include "tests/reliability/TirelessUser.h"
 
+#include "canvas/SettingsKeys.h"
 #include "tests/reliability/PictureFiles.h"
 
 #include <QAction>
@@ -17,10 +18,6 @@
 namespace {
 
 // The settings as somebody with a text editor, or another version of the program, could leave them.
-constexpr std::array settingNames = {"KEEPMSIZE",         "REMOVEMSIZE",  "KEEPBSIZE", "REMOVEBSIZE",
-                                     "ERASERMSIZE",       "BLUEMSIZE",    "MOPACITY",  "GOUSSIZE",
-                                     "KEEPBINTEN",        "REMOVEBINTEN", "CurrDir",   "SAMESIZECHECKED",
-                                     "SMOOTHEDGESCHECKED"};
 constexpr std::array settingValues = {"0",   "1",    "10",          "255",  "256",   "300", "-1",
                                       "-7",  "4",    "2147483647",  "many", "",      "0.5", "-3.5",
                                       "nan", "1e99", "-2147483648", "true", "false", "199"};
@@ -242,7 +239,7 @@ QString TirelessUser::letTimersFire()
 
 QString TirelessUser::meddleWithSettings()
 {
-    const QString name = settingNames[static_cast<std::size_t>(m_dice.below(settingNames.size()))];
+    const QString name = settings::all[static_cast<std::size_t>(m_dice.below(settings::all.size()))]->name;
     const QString value = settingValues[static_cast<std::size_t>(m_dice.below(settingValues.size()))];
     m_probe.settings().setValue(name, value);
     m_window.updatetoolssettings();

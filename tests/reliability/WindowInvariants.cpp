@@ -4,6 +4,7 @@
 #include "tests/reliability/WindowInvariants.h"
 
 #include "canvas/MarkerDabs.h"
+#include "canvas/SceneLayers.h"
 
 #include <QAction>
 #include <QGraphicsItem>
@@ -18,7 +19,7 @@ constexpr int undoLimit = 200;
 
 bool isBrushCircle(const QGraphicsItem &item)
 {
-    return item.type() == QGraphicsEllipseItem::Type && item.zValue() == markers::brushOutlineZ;
+    return item.type() == QGraphicsEllipseItem::Type && item.zValue() == layers::brushOutlineZ;
 }
 
 int brushCircles(const QGraphicsScene &scene)
@@ -69,7 +70,7 @@ QString WindowInvariants::editingScene()
     int overlays = 0;
     for (QGraphicsItem *item : m_probe.imageScene().items()) {
         if (item->type() == QGraphicsPixmapItem::Type) {
-            const bool overlay = item->zValue() == markers::maskOverlayZ;
+            const bool overlay = item->zValue() == layers::maskOverlayZ;
             ++(overlay ? overlays : photos);
             if (overlay && item != m_probe.maskItem())
                 return "an overlay is on the scene that the window does not know";

@@ -4,6 +4,7 @@
 #include "tests/reliability/WindowUser.h"
 
 #include "canvas/MarkerDabs.h"
+#include "canvas/SceneLayers.h"
 
 #include <QAction>
 #include <QApplication>
@@ -107,10 +108,10 @@ void WindowUser::layDabs()
 {
     const QSize size = m_probe.workingImage().size();
     const QRectF middle(size.width() / 2, size.height() / 2, 2, 2);
-    m_probe.imageScene().addRect(middle, QPen(QColor(markers::keepColour)))->setZValue(markers::dabZ);
+    m_probe.imageScene().addRect(middle, QPen(QColor(markers::keepColour)))->setZValue(layers::dabZ);
     m_probe.imageScene()
         .addEllipse(QRectF(1, 1, 2, 2), QPen(QColor(markers::removeColour)))
-        ->setZValue(markers::dabZ);
+        ->setZValue(layers::dabZ);
 }
 
 void WindowUser::brush(const QRect &square)

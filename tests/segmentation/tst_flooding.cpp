@@ -1,24 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-// The flooding and its parts against plain versions of the same.
+// The flooding against the plain version of the same.
 
 #include "segmentation/FrWatershed.h"
 #include "segmentation/FrWatershedMany.h"
-#include "segmentation/LevelQueues.h"
-#include "segmentation/Marks.h"
-#include "segmentation/StepCosts.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/reference/TestPictures.h"
-#include "tests/reference/WatershedReference.h"
 #include "tests/support/Photographs.h"
 #include "tests/support/TestMain.h"
 
 #include <QProgressBar>
 
-#include <hwy/targets.h>
-
 #include <algorithm>
-#include <deque>
 
 using namespace testpictures;
 
@@ -92,11 +86,6 @@ private slots:
     void seedsOffThePicture();
     void longQueues();
     void progress();
-    void queuesAreFirstInFirstOut();
-    void stepCosts_data();
-    void stepCosts();
-    void strips();
-    void marks();
 };
 
 void TestFlooding::pictures_data()
@@ -204,155 +193,6 @@ void TestFlooding::progress()
     QCOMPARE(FrWatershed(&image, keep, remove, result, edges.data(), &bar), 0);
     // 298 x 198 pixels less two seeds: five full ten thousands
     QCOMPARE(values, QList<int>({16, 33, 50, 66, 83}));
-}
-
-void TestFlooding::queuesAreFirstInFirstOut()
-{
-    Random random(5);
-    LevelQueues queues(0);
-    std::vector<std::deque<std::uint32_t>> plain(LevelQueues::levels);
-    std::uint32_t next = 1;
-    for (int round = 0; round < 3000; ++round) {
-        for (int n = random.below(40); n > 0; --n) {
-            const int level = random.below(2) == 0 ? random.below(4) : random.below(256);
-            queues.push(static_cast<unsigned>(level), next);
-            plain[static_cast<std::size_t>(level)].push_back(next++);
-        }
-        if (queues.empty())
-            continue;
-        const unsigned lowest = queues.lowest();
-        std::deque<std::uint32_t> &expected = plain[lowest];
-        for (unsigned below = 0; below < lowest; ++below)
-            QVERIFY(plain[below].empty());
-        LevelQueues::Service service(queues, lowest);
-        const int atMost = random.below(60);
-        for (int taken = 0; taken < atMost && service.more(); ++taken) {
-            QVERIFY(service.ahead() < next);
-            QCOMPARE(service.take(), expected.front());
-            expected.pop_front();
-            service.makeRoom();
-            for (int pushed = random.below(5); pushed > 0; --pushed) {
-                service.push(next);
-                expected.push_back(next++);
-            }
-        }
-        service.close();
-        QCOMPARE(queues.empty(), std::all_of(plain.begin(), plain.end(), [](auto &q) { return q.empty(); }));
-    }
-    QVERIFY(next > 60000); // else too little was queued to reach across the blocks
-}
-
-void TestFlooding::stepCosts_data()
-{
-    QTest::addColumn<qint64>("target");
-    for (const std::int64_t target : hwy::SupportedAndGeneratedTargets())
-        QTest::addRow("%s", hwy::TargetName(target)) << qint64{target};
-}
-
-/// Every instruction set of this machine gives what one pixel at a time gives.
-void TestFlooding::stepCosts()
-{
-    QFETCH(qint64, target);
-    hwy::SetSupportedTargetsForTest(target);
-    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
-    for (const int w : {3, 4, 5, 8, 9, 16, 17, 33, 64, 65, 66, 67, 200}) {
-        const int h = 12;
-        for (const QImage &image : {greyStepsImage(w, h, 3), randomImage(w, h, 2), blobImage(w, h, 1)}) {
-            const Plane edges = sparsePlane(w, h, 2, static_cast<std::uint32_t>(w));
-            for (const auto rule : {flooding::EdgeCost::strength, flooding::EdgeCost::highest}) {
-                const auto costs = flooding::makeStepCosts(image, edges.data(), rule);
-                const auto price = [&](int toX, int toY, int x, int y, int againstX, int againstY) {
-                    const int edge = edges[static_cast<std::size_t>(toY * w + toX)];
-                    if (edge != 0)
-                        return rule == flooding::EdgeCost::strength ? edge : 255;
-                    return reference::luminanceDifference(image.pixel(x, y), image.pixel(againstX, againstY));
-                };
-                const flooding::Strips strips(w, h);
-                for (int y = 1; y < h - 1; ++y) {
-                    for (int x = 1; x < w - 1; ++x) {
-                        const flooding::StepCosts cost =
-                            costs[strips.at(static_cast<std::size_t>(x), static_cast<std::size_t>(y))];
-                        QCOMPARE(int{cost.left}, price(x - 1, y, x, y, x - 1, y));
-                        QCOMPARE(int{cost.right}, price(x + 1, y, x, y, x + 1, y));
-                        QCOMPARE(int{cost.up}, price(x, y - 1, x, y, x, y - 1));
-                        QCOMPARE(int{cost.down}, price(x, y + 1, x, y, x + 1, y));
-                    }
-                }
-            }
-        }
-    }
-    hwy::SetSupportedTargetsForTest(0);
-    hwy::GetChosenTarget().DeInit();
-}
-
-template <typename Mark> void checkMarks(std::size_t regions)
-{
-    using namespace flooding;
-    std::vector<Mark> all{0, meeting<Mark>};
-    for (std::size_t region = 1; region <= regions; ++region) {
-        const Mark mark = markOf<Mark>(region);
-        QVERIFY(isRegion(mark));
-        QCOMPARE(regionOf(mark), region);
-        QCOMPARE(joined(Mark{0}, mark), mark);
-        QCOMPARE(joined(mark, mark), mark);
-        QVERIFY(isMeeting(joined(meeting<Mark>, mark)));
-        for (std::size_t other = 1; other < region; ++other) {
-            QVERIFY(isMeeting(joined(mark, markOf<Mark>(other))));
-            QVERIFY(isMeeting(joined(joined(mark, markOf<Mark>(other)), mark)));
-        }
-        all.insert(all.end(), region * 5, mark);
-        all.push_back(0);
-    }
-    std::vector<Mark> rebuilt(all.size(), 0);
-    forEachRun(all, [&](std::size_t begin, std::size_t end, std::size_t region) {
-        std::fill(rebuilt.begin() + static_cast<std::ptrdiff_t>(begin),
-                  rebuilt.begin() + static_cast<std::ptrdiff_t>(end), markOf<Mark>(region));
-    });
-    rebuilt[1] = meeting<Mark>;
-    QVERIFY(rebuilt == all);
-
-    MarkPlane<Mark> plane(13, 21);
-    for (std::size_t y = 0; y < 21; ++y)
-        for (std::size_t x = 0; x < 13; ++x)
-            plane.marks[plane.strips.at(x, y)] = markOf<Mark>((y * 13 + x) / 40 + 1);
-    QCOMPARE(plane.regionSizes(7), std::vector<std::size_t>({40, 40, 40, 40, 40, 40, 33}));
-    std::size_t next = 0;
-    plane.forEachPixelRun([&](std::size_t begin, std::size_t end, std::size_t region) {
-        QCOMPARE(begin, next);
-        QCOMPARE(begin / 40 + 1, region);
-        QCOMPARE((end - 1) / 40 + 1, region);
-        next = end;
-    });
-    QCOMPARE(next, std::size_t{13 * 21});
-}
-
-void TestFlooding::strips()
-{
-    for (const QSize size : {QSize(1, 1), QSize(5, 7), QSize(6, 8), QSize(9, 9), QSize(4, 33)}) {
-        const flooding::Strips strips(size.width(), size.height());
-        const auto w = static_cast<std::size_t>(size.width());
-        const auto h = static_cast<std::size_t>(size.height());
-        std::vector<bool> taken(strips.size());
-        for (std::size_t y = 0; y < h; ++y) {
-            for (std::size_t x = 0; x < w; ++x) {
-                const std::size_t i = strips.at(x, y);
-                QVERIFY(i < strips.size() && !taken[i]);
-                taken[i] = true;
-                QVERIFY(x == 0 || strips.left(i) == strips.at(x - 1, y));
-                QVERIFY(x + 1 == w || strips.right(i) == strips.at(x + 1, y));
-                QVERIFY(y == 0 || strips.above(i) == strips.at(x, y - 1));
-                QVERIFY(y + 1 == h || strips.below(i) == strips.at(x, y + 1));
-            }
-        }
-    }
-}
-
-void TestFlooding::marks()
-{
-    checkMarks<std::uint8_t>(8);
-    checkMarks<std::uint32_t>(40);
-    QVERIFY(!flooding::isRegion(std::uint8_t{0}));
-    QVERIFY(!flooding::isRegion(std::uint32_t{0}));
 }
 
 ORNEVO_TEST_MAIN(TestFlooding)

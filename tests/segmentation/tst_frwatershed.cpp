@@ -3,8 +3,7 @@
 
 #include "segmentation/FRNode.h"
 #include "segmentation/FrWatershed.h"
-#include "tests/reference/EdgeDetectorsReference.h"
-#include "tests/reference/WatershedReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/segmentation/Scenes.h"
 #include "tests/support/Differences.h"
 #include "tests/support/Photographs.h"

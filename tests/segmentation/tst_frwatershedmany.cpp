@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "segmentation/FrWatershedMany.h"
-#include "tests/reference/EdgeDetectorsReference.h"
-#include "tests/reference/WatershedReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/segmentation/Scenes.h"
 #include "tests/support/Differences.h"
 #include "tests/support/Photographs.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "segmentation/FrWaveSegment.h"
-#include "tests/reference/WaveSegmentReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/segmentation/Scenes.h"
 #include "tests/support/Photographs.h"
 #include "tests/support/TestMain.h"

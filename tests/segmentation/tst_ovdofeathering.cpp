@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "segmentation/OvDoFeathering.h"
-#include "tests/reference/FeatheringReference.h"
+#include "tests/reference/ImageReferences.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/Differences.h"
 #include "tests/support/TestMain.h"

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <functional>
 #include <list>
@@ -81,6 +82,18 @@ private:
                                                               : QDialogButtonBox::Open;
     }
 
+    /// Whether a dialog has come up and has the focus, which shortly after it was opened it hasn't yet: keys
+    /// that come before are lost. A bare X server has no one who would give it the focus.
+    static bool takesKeys(QWidget &modal)
+    {
+        const QWindow *window = modal.windowHandle();
+        if (window == nullptr || !window->isExposed())
+            return false;
+        if (!modal.isActiveWindow())
+            QApplication::setActiveWindow(&modal);
+        return modal.isActiveWindow();
+    }
+
     void scheduleLook()
     {
         QTimer::singleShot(5, this, [this] { look(); });
@@ -94,6 +107,8 @@ private:
             m_unanswered.invalidate();
             return;
         }
+        if (!takesKeys(*modal))
+            return;
         if (!m_answers.empty()) {
             if (const auto answer = m_answers.front()(modal)) {
                 m_answers.pop_front();

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainWindow.h"
+
+#include "ui_MainWindow.h"
+
+#include <QEvent>
+#include <QToolButton>
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void MainWindow::retranslate()
+{
+    const QString title = windowTitle(); // it names the open picture, of which the form knows nothing
+    form->retranslateUi(this);
+    setWindowTitle(title);
+    nameOverflowButton();
+    emit undoStack.undoTextChanged(undoStack.undoText()); // the undo action listens, and words it anew
+}
+
+void MainWindow::nameOverflowButton()
+{
+    // Qt gives this one no name for the screen reader.
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
+        overflow->setAccessibleName(tr("More tools"));
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMetaObject>
+
+class QProgressBar;
+
+/// Shows a progress bar for as long as it lives, and paints it a few times a second, however often its value
+/// changes.
+///
+/// The work that the bar tells of keeps the program's one thread busy, and the bar would paint itself at once
+/// for every new value: with a hundred of them that took as long as the work on a small photo.
+class ProgressStep
+{
+public:
+    explicit ProgressStep(QProgressBar *bar);
+    ~ProgressStep();
+    Q_DISABLE_COPY_MOVE(ProgressStep)
+
+private:
+    void paintIfDue();
+
+    QProgressBar *m_bar;
+    QElapsedTimer m_sincePainted;
+    QMetaObject::Connection m_connection;
+};

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/SettingsFile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSettings>
+
+namespace {
+
+constexpr qint64 largestFile = qint64{16} << 20; // some hundred times what the program writes
+
+bool canBeRead(const QString &path)
+{
+    const QFileInfo file(path);
+    return !file.exists() || (file.isFile() && file.size() <= largestFile);
+}
+
+/// The folder of the user's settings files. Only a store can tell, and it reads its file when it is made:
+/// this one has a name that nobody else gives.
+QString settingsFolder()
+{
+    const QSettings store(QSettings::NativeFormat, QSettings::UserScope, "ornevo-looks-for-its-folder",
+                          "none");
+    return QFileInfo(QFileInfo(store.fileName()).path()).path();
+}
+
+} // namespace
+
+void avoidSpecialSettingsFiles()
+{
+    const QDir folder(settingsFolder());
+    const QString organization = QCoreApplication::organizationName();
+    const QStringList files{organization + '/' + QCoreApplication::applicationName() + ".conf",
+                            organization + ".conf"};
+    for (const QString &name : files)
+        if (!canBeRead(folder.filePath(name)))
+            QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                               QProcess::nullDevice() + "/none");
+}

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/Translations.h"
+
+#include "resources/Resources.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+namespace {
+
+constexpr const char *translatorName = "ornevo translator";
+
+void removeInstalled(QCoreApplication &application)
+{
+    for (QTranslator *old : application.findChildren<QTranslator *>(translatorName))
+        delete old; // which removes it from the application
+}
+
+void installCatalogue(QCoreApplication &application, const QString &file, const QString &folder)
+{
+    auto *translator = new QTranslator(&application);
+    translator->setObjectName(translatorName);
+    if (translator->load(file, folder))
+        QCoreApplication::installTranslator(translator);
+    else
+        delete translator; // Qt's own catalogues need not be installed
+}
+
+/// The catalogue of one wanted language, or nothing.
+QString catalogueFor(const QLocale &locale)
+{
+    switch (locale.language()) {
+    case QLocale::German:
+        return "de";
+    case QLocale::Spanish:
+        return "es";
+    case QLocale::French:
+        return "fr";
+    case QLocale::Italian:
+        return "it";
+    case QLocale::Japanese:
+        return "ja";
+    case QLocale::Polish:
+        return "pl";
+    case QLocale::Portuguese:
+        return "pt_BR";
+    case QLocale::Chinese: // who reads the traditional script is not given the simplified one
+        return locale.script() == QLocale::SimplifiedHanScript ? "zh_CN" : QString();
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+QStringList translations::languages()
+{
+    return {"de", "es", "fr", "it", "ja", "pl", "pt_BR", "zh_CN"};
+}
+
+QString translations::languageFor(const QStringList &preferred)
+{
+    // Not QTranslator's own search, which has no catalogue for English and would pass it over for the next
+    // language of the list.
+    for (const QString &name : preferred) {
+        const QLocale locale(name);
+        const QString language = catalogueFor(locale);
+        if (!language.isEmpty() || locale.language() == QLocale::English)
+            return language;
+    }
+    return {};
+}
+
+void translations::install(const QString &language)
+{
+    QCoreApplication &application = *QCoreApplication::instance();
+    resources::registerAll();
+    removeInstalled(application);
+    if (language.isEmpty())
+        return;
+    // The last one installed is asked first.
+    installCatalogue(application, "qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    installCatalogue(application, "ornevo_" + language, ":/translations");
+}
+
+void translations::installForDesktop()
+{
+    install(languageFor(QLocale::system().uiLanguages()));
+}

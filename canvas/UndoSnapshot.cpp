@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "canvas/UndoSnapshot.h"
+
+#include <QDir>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+constexpr int uncompressed = 100;
+const char *const nameBeginning = "ornevo-undo-";
+
+#ifdef Q_OS_UNIX
+
+/// Whether the file took one of the last descriptors. A new file gets the lowest number that is free.
+bool isAmongTheLast(int descriptor)
+{
+    constexpr rlim_t keptFree =
+        32; // for dialogs, pictures, what they are written to, and the desktop's needs
+    rlimit limit{};
+    return getrlimit(RLIMIT_NOFILE, &limit) == 0 &&
+           static_cast<rlim_t>(descriptor) + keptFree >= limit.rlim_cur;
+}
+
+/// For as long as it is open, removeAbandonedSnapshots() sees that somebody needs the file.
+void markAsInUse(int descriptor)
+{
+    flock(descriptor, LOCK_EX | LOCK_NB);
+}
+
+/// Closes what has been opened to be looked at.
+bool isAbandoned(const QByteArray &path)
+{
+    const int file = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (file < 0)
+        return false;
+    struct stat status
+    {
+    };
+    const bool ours = fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == geteuid();
+    const bool abandoned = ours && flock(file, LOCK_EX | LOCK_NB) == 0;
+    ::close(file);
+    return abandoned;
+}
+
+#else
+
+bool isAmongTheLast(int /*descriptor*/)
+{
+    return false;
+}
+void markAsInUse(int /*descriptor*/) {}
+bool isAbandoned(const QByteArray & /*path*/)
+{
+    return false; // an open file can't lose its name here; the next one to start would have to know more
+}
+
+#endif
+
+} // namespace
+
+bool UndoSnapshot::openFile()
+{
+    m_file.setFileTemplate(QDir::tempPath() + '/' + nameBeginning + "XXXXXX");
+    if (!m_file.open())
+        return false;
+    if (isAmongTheLast(m_file.handle())) {
+        removeFile();
+        return false;
+    }
+    markAsInUse(m_file.handle());
+    return true;
+}
+
+void UndoSnapshot::removeFile()
+{
+    m_file.close();
+    m_file.remove();
+}
+
+void UndoSnapshot::store()
+{
+    if (m_pixels.isNull() || (!m_file.isOpen() && !openFile()))
+        return;
+    const bool stored = m_file.resize(0) && m_file.seek(0) && m_pixels.save(&m_file, "PNG", uncompressed) &&
+                        m_file.flush() && m_file.error() == QFileDevice::NoError;
+    if (stored)
+        m_pixels = QImage();
+    else
+        removeFile(); // a full disk: better to keep the pixels than the file
+}
+
+QImage UndoSnapshot::pixels()
+{
+    QImage pixels = m_pixels;
+    if (pixels.isNull() && m_file.isOpen() && m_file.seek(0))
+        pixels.load(&m_file, "PNG");
+    return pixels;
+}
+
+void UndoSnapshot::replace(const QImage &pixels)
+{
+    m_pixels = pixels;
+    store();
+}
+
+// A file that has just been made and is not yet marked may lose its name here. Its program does not notice:
+// the file goes on without.
+void removeAbandonedSnapshots()
+{
+    const QDir folder(QDir::tempPath());
+    for (const QString &name :
+         folder.entryList({QString(nameBeginning) + "??????"}, QDir::Files | QDir::Hidden | QDir::System)) {
+        const QString path = folder.filePath(name);
+        if (isAbandoned(QFile::encodeName(path)))
+            QFile::remove(path);
+    }
+}

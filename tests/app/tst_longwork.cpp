@@ -1,0 +1,254 @@
+// SPDX-FileCopyrightText: 2026 The Ornevo developers
+// SPDX-License-Identifier: MIT
+
+#include "app/ProgressStep.h"
+#include "app/WaitCursor.h"
+#include "app/dialogs/BackgroundDialog.h"
+#include "app/dialogs/ExportDialog.h"
+#include "tests/reference/TestPictures.h"
+#include "tests/support/DialogParts.h"
+#include "tests/support/TestMain.h"
+#include "tests/support/WindowUnderTest.h"
+
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QRadioButton>
+
+#include <stdexcept>
+
+using testsupport::ModalAnswers;
+using testsupport::part;
+using testsupport::WindowUnderTest;
+
+namespace {
+
+bool pointerWaits()
+{
+    const QCursor *cursor = QGuiApplication::overrideCursor();
+    return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+}
+
+/// Notes on the status texts and the paintings of a window how the pointer looks meanwhile.
+class Witness : public QObject
+{
+public:
+    explicit Witness(WindowUnderTest &t)
+    {
+        connect(t.window.statusBar(), &QStatusBar::messageChanged, this, [this](const QString &) { note(); });
+        t.view.viewport()->installEventFilter(this);
+    }
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && pointerWaits()) {
+            ++paintings;
+            fileWasThere = fileWasThere || QFile::exists(file);
+        }
+        return false;
+    }
+    void note() { (pointerWaits() ? waiting : free) += 1; }
+
+    int waiting = 0;   ///< status texts that came under a wait cursor
+    int free = 0;      ///< and without one
+    int paintings = 0; ///< of the canvas under a wait cursor
+    QString file;
+    bool fileWasThere = false; ///< at one of them
+};
+
+} // namespace
+
+/// While the program is busy the pointer says so, and no pixels of a closed dialog are left on the screen.
+class LongWorkTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(testpictures::blobImage(60, 44, 4).save(m_folder.filePath("photo.png"))); }
+    void init()
+    {
+        QSettings().clear();
+        QFile::remove(file("out.jpg"));
+    }
+    void cleanup() { QVERIFY(QGuiApplication::overrideCursor() == nullptr); }
+    void opening();
+    void unreadableFile();
+    void mask();
+    void preview();
+    void background();
+    void exporting();
+    void exportWithALostTransparency();
+    void saving();
+    void savingAs();
+    void exceptions();
+
+private:
+    QString file(const QString &name) const { return m_folder.filePath(name); }
+    void openAndMark(WindowUnderTest &t) const
+    {
+        t.openPicture(file("photo.png"));
+        t.dab("actionKeep_arker", 20, 15);
+        t.dab("action_Remove_Marker", 45, 5);
+    }
+    static void pressDots(QDialog &dialog)
+    {
+        QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+void LongWorkTest::opening()
+{
+    WindowUnderTest t;
+    const Witness witness(t);
+    bool inDialog = true;
+    t.answers.chooseFile(file("photo.png"), [&](QFileDialog &) { inDialog = pointerWaits(); });
+    t.trigger("actionOpen");
+    QVERIFY(!inDialog);
+    QVERIFY(witness.waiting >= 3);
+    QCOMPARE(witness.free, 0);
+    t.window.open(); // whoever asks for it
+    QCOMPARE(witness.free, 0);
+}
+
+void LongWorkTest::unreadableFile()
+{
+    WindowUnderTest t;
+    const Witness witness(t);
+    t.probe.currentFile() = file("nothing.png");
+    t.window.open();
+    QCOMPARE(t.status(), QString("Failed to read image"));
+    QCOMPARE(witness.waiting, 1);
+}
+
+void LongWorkTest::mask()
+{
+    WindowUnderTest t;
+    openAndMark(t);
+    QVERIFY(!pointerWaits());
+    const Witness witness(t);
+    t.trigger("actionMask");
+    QVERIFY(witness.waiting >= 3);
+    QCOMPARE(witness.free, 0);
+}
+
+void LongWorkTest::preview()
+{
+    WindowUnderTest t;
+    openAndMark(t);
+    const Witness witness(t);
+    t.trigger("actionPreview");
+    QVERIFY(witness.waiting >= 3);
+    QCOMPARE(witness.free, 0);
+}
+
+void LongWorkTest::background()
+{
+    WindowUnderTest t;
+    openAndMark(t);
+    t.trigger("actionPreview");
+    t.window.statusBar()->showMessage("nothing yet"); // a text that stays is not told of
+    const Witness witness(t);
+    bool inDialog = true;
+    t.answers.expect<BackgroundDialog>([&](BackgroundDialog &dialog) {
+        inDialog = pointerWaits();
+        part<QRadioButton>(dialog, "transparentradioButton").click();
+        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    });
+    t.trigger("actionSelect_Background");
+    QVERIFY(!inDialog);
+    QVERIFY(witness.waiting >= 1);
+    QCOMPARE(witness.free, 0);
+}
+
+void LongWorkTest::exporting()
+{
+    WindowUnderTest t;
+    openAndMark(t);
+    t.trigger("actionPreview");
+    Witness witness(t);
+    witness.file = file("out.jpg");
+    bool inDialog = true;
+    t.answers.expect<ExportDialog>([&](ExportDialog &dialog) {
+        inDialog = pointerWaits();
+        pressDots(dialog);
+        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    });
+    t.answers.chooseFile(file("out.jpg"));
+    t.trigger("actionExport");
+    QVERIFY(QFile::exists(file("out.jpg")));
+    QVERIFY(!inDialog);
+    QVERIFY(witness.paintings > 0); // where the dialog was, before the work
+    QVERIFY(!witness.fileWasThere);
+}
+
+void LongWorkTest::exportWithALostTransparency()
+{
+    WindowUnderTest t;
+    openAndMark(t);
+    t.trigger("actionPreview");
+    t.probe.backgroundColor() = 0;
+    bool inWarning = true;
+    t.answers.expect<ExportDialog>([](ExportDialog &dialog) {
+        pressDots(dialog);
+        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    });
+    t.answers.chooseFile(file("out.jpg"));
+    t.answers.expect<QMessageBox>([&](QMessageBox &box) {
+        inWarning = pointerWaits();
+        box.accept();
+    });
+    t.trigger("actionExport");
+    QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
+    QVERIFY(!inWarning);
+}
+
+void LongWorkTest::saving()
+{
+    WindowUnderTest t;
+    QVERIFY(QFile::copy(file("photo.png"), file("mine.png")));
+    t.openPicture(file("mine.png"));
+    Witness witness(t);
+    bool inQuestion = true;
+    t.answers.expect<QMessageBox>([&](QMessageBox &box) {
+        inQuestion = pointerWaits();
+        QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    t.trigger("actionSave");
+    QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
+    QVERIFY(!inQuestion);
+    QVERIFY(witness.paintings > 0);
+    QVERIFY(witness.waiting >= 3);
+    QCOMPARE(witness.free, 0);
+}
+
+void LongWorkTest::savingAs()
+{
+    WindowUnderTest t;
+    t.openPicture(file("photo.png"));
+    Witness witness(t);
+    witness.file = file("out.jpg");
+    t.answers.chooseFile(file("out.jpg"));
+    t.trigger("actionSave_As");
+    QVERIFY(QFile::exists(file("out.jpg")));
+    QVERIFY(witness.paintings > 0);
+    QVERIFY(witness.waiting >= 3);
+    QCOMPARE(witness.free, 0);
+}
+
+/// Memory may be short at any moment of the work.
+void LongWorkTest::exceptions()
+{
+    WindowUnderTest t;
+    try {
+        const WaitCursor busy;
+        const ProgressStep progress(&t.progressBar());
+        QVERIFY(pointerWaits());
+        throw std::runtime_error("the work fails");
+    } catch (const std::runtime_error &) {
+    }
+    QVERIFY(!pointerWaits());
+    QVERIFY(!t.progressBar().isVisible());
+}
+
+ORNEVO_TEST_MAIN(LongWorkTest)
+#include "tst_longwork.moc"
