@@ -30,7 +30,7 @@ def watershed(image, markers, edges=None):
     names = np.array([label for label in np.unique(markers) if label != 0], np.int32)
     seeds = [np.flatnonzero(markers == label) for label in names]
     regions = reference.watershed(four_bytes(image), seeds, edges, False)
-    return np.where(regions > 0, names[regions - 1], 0).astype(np.int32)
+    return np.where(regions > 0, names[np.maximum(regions, 1) - 1], 0).astype(np.int32)
 
 
 def wave_segment(image, threshold):
