@@ -29,6 +29,15 @@ def build_wheel(wheel_directory, config_settings=None, metadata_directory=None):
     return name
 
 
+def prepare_metadata_for_build_wheel(metadata_directory, config_settings=None):
+    """So that pip need not build all of it only to read what it is called."""
+    for name, content in _metadata().items():
+        path = pathlib.Path(metadata_directory) / name
+        path.parent.mkdir(exist_ok=True)
+        path.write_bytes(content)
+    return f"ornevo-{_version()}.dist-info"
+
+
 def build_sdist(sdist_directory, config_settings=None):
     raise NotImplementedError("the sources are the repository")
 
