@@ -83,7 +83,7 @@ void MainWindow::letTabIntoTheToolBar()
     QList<QWidget *> buttons;
     for (QAction *action : form->mainToolBar->actions())
         buttons << form->mainToolBar->widgetForAction(action);
-    nameOverflowButton();
+    nameToolBar();
     if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
         buttons << overflow;
     QWidget *previous = form->graphicsView;

@@ -125,7 +125,7 @@ private:
     void setUpTools();
     void setUpUndo();
     void retranslate();
-    void nameOverflowButton();
+    void nameToolBar();
     void letTabIntoTheToolBar();
     void connectCanvas();
     void repaintAfterDialog();

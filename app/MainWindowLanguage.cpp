@@ -20,13 +20,15 @@ void MainWindow::retranslate()
     const QString title = windowTitle(); // it names the open picture, of which the form knows nothing
     form->retranslateUi(this);
     setWindowTitle(title);
-    nameOverflowButton();
+    nameToolBar();
     emit undoStack.undoTextChanged(undoStack.undoText()); // the undo action listens, and words it anew
 }
 
-void MainWindow::nameOverflowButton()
+void MainWindow::nameToolBar()
 {
-    // Qt gives this one no name for the screen reader.
+    // Not every Qt tells the screen reader the title of a tool bar, and none has a name for its overflow
+    // button.
+    form->mainToolBar->setAccessibleName(form->mainToolBar->windowTitle());
     if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
         overflow->setAccessibleName(tr("More tools"));
 }

@@ -16,6 +16,7 @@
 
 void MainWindow::save(const QString &path)
 {
+    const WaitCursor busy;
     writeScene(path);
 }
 

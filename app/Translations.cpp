@@ -88,5 +88,7 @@ void translations::install(const QString &language)
 
 void translations::installForDesktop()
 {
-    install(languageFor(QLocale::system().uiLanguages()));
+    // Whoever asks for C wants to read what the sources say; Qt would still go by LANGUAGE.
+    const QLocale desktop = QLocale::system();
+    install(desktop.language() == QLocale::C ? QString() : languageFor(desktop.uiLanguages()));
 }

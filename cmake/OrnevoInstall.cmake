@@ -1,7 +1,6 @@
 # What `cmake --install` puts where. Two components: `ornevo` is the program with all that a desktop wants to know of
 # it; `ornevo-dev` the libraries with their headers, for find_package(Ornevo).
 
-option(ORNEVO_DEBIAN "Install the documents of a Debian package instead of the plain ones" OFF)
 
 set(files ${PROJECT_SOURCE_DIR}/resources/install)
 set(icons ${PROJECT_SOURCE_DIR}/resources/icons)
@@ -10,6 +9,11 @@ set(icons ${PROJECT_SOURCE_DIR}/resources/icons)
 install(TARGETS ornevo
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ornevo
     BUNDLE DESTINATION . COMPONENT ornevo)
+# Where Qt is not a part of the system, it goes along.
+if(APPLE OR WIN32)
+    qt_generate_deploy_app_script(TARGET ornevo FILENAME_VARIABLE deploy_script NO_UNSUPPORTED_PLATFORM_ERROR)
+    install(SCRIPT ${deploy_script} COMPONENT ornevo)
+endif()
 
 if(NOT APPLE AND NOT WIN32)
     install(FILES ${files}/ornevo.desktop
@@ -35,24 +39,16 @@ if(NOT APPLE AND NOT WIN32)
     ornevo_compress(${files}/ornevo.1 ornevo.1.gz)
     install(FILES ${PROJECT_BINARY_DIR}/ornevo.1.gz
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ornevo)
-    if(ORNEVO_DEBIAN)
-        ornevo_compress(${files}/changelog.Debian changelog.Debian.gz)
-        ornevo_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
-        foreach(package ornevo ornevo-dev)
-            install(FILES
-                ${files}/copyright
-                ${PROJECT_BINARY_DIR}/changelog.gz
-                ${PROJECT_BINARY_DIR}/changelog.Debian.gz
-                DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${package})
-        endforeach()
-    endif()
+    foreach(language de es fr it ja pl pt_BR zh_CN)
+        ornevo_compress(${files}/ornevo.${language}.1 ornevo.${language}.1.gz)
+        install(FILES ${PROJECT_BINARY_DIR}/ornevo.${language}.1.gz
+            DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}/man1 RENAME ornevo.1.gz COMPONENT ornevo)
+    endforeach()
     get_property(compressed GLOBAL PROPERTY ORNEVO_COMPRESSED)
     add_custom_target(ornevo_documents ALL DEPENDS ${compressed})
 endif()
-if(NOT ORNEVO_DEBIAN)
-    install(FILES LICENSE README.md CHANGELOG.md
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ornevo COMPONENT ornevo)
-endif()
+install(FILES LICENSE README.md CHANGELOG.md
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ornevo COMPONENT ornevo)
 
 # The libraries.
 include(cmake/OrnevoInstallCore.cmake)

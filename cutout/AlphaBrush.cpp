@@ -4,6 +4,7 @@
 #include "cutout/AlphaBrush.h"
 
 #include "core/Truncation.h"
+#include "cutout/WindingRegion.h"
 
 #include <QPainterPath>
 #include <QPolygon>
@@ -15,8 +16,8 @@ namespace cutout {
 
 namespace {
 
-// With the view zoomed far out a dab can be far larger than the picture. QRegion's time grows with the square
-// of a polygon's rows: beyond this many it takes seconds, and from 100000 on it gives up.
+// With the view zoomed far out a dab can be far larger than the picture, and its corners where no int
+// reaches. Beyond this many rows they are brought nearer.
 constexpr double mostRows = 20000;
 
 // So far off the picture, the rounding of a cut edge does not show in it.
@@ -62,11 +63,10 @@ BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size)
         outline = cutAround(outline, size);
         bounds = outline.boundingRect();
     }
-    // Winding, so that overlapping dabs are one area and no pixel is counted twice.
-    const QRegion dabs(outline.toPolygon(), Qt::WindingFill);
-    const QRect box(ornevo::roundToInt(bounds.x()), ornevo::roundToInt(bounds.y()),
-                    ornevo::roundToInt(bounds.width()), ornevo::roundToInt(bounds.height()));
-    return {dabs.intersected(QRect(QPoint(0, 0), size)), box};
+    const QRect box(ornevo::roundToInt(bounds.x()), ornevo::roundToInt(bounds.y()), ornevo::roundToInt(bounds.width()),
+                    ornevo::roundToInt(bounds.height()));
+    // By winding, so that overlapping dabs are one area and no pixel is counted twice.
+    return {windingRegion(outline.toPolygon(), QRect(QPoint(0, 0), size)), box};
 }
 
 void changeAlpha(QImage &picture, const QRegion &region, int change)

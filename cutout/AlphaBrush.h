@@ -18,8 +18,9 @@ struct BrushBatch
 };
 
 /// The round dabs that fit into `squares`, which are in pixels of the scene. The picture, of `size`, lies at
-/// `offset` on the scene. Dabs that reach over more than 20000 rows together are cut off a little outside the
-/// picture, and the box with them: QRegion can't take that many.
+/// `offset` on the scene. Dabs that reach over more than 20000 rows together are clipped a little outside the
+/// picture, and the box with them. The time grows with the picture and the number of dabs, not with their
+/// size.
 [[nodiscard]] BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size);
 
 /// Adds `change` to the alpha of the pixels of `region`, limited to 0 .. 255; the colours stay. Parts of

@@ -61,13 +61,13 @@ bool writeAll(int file, const QByteArray &contents)
     return true;
 }
 
-/// Where a chain of links ends, whether or not there is something.
+/// Where a chain of links ends, whether or not there is something; empty when it goes round in circles.
 QString endOfLinks(QString path)
 {
     constexpr int mostLinks = 40; // what the system follows
     for (int i = 0; i < mostLinks && QFileInfo(path).isSymLink(); ++i)
         path = QFileInfo(path).symLinkTarget();
-    return path;
+    return QFileInfo(path).isSymLink() ? QString() : path;
 }
 
 enum class Outcome { Done, Failed, NotAllowed };
@@ -149,11 +149,13 @@ bool replaceFile(const QString &path, const QByteArray &contents)
     if (path.isEmpty() || path.endsWith('/'))
         return false;
     const QByteArray name = QFile::encodeName(endOfLinks(path));
+    if (name.isEmpty())
+        return false;
     struct stat older
     {
     };
     const bool exists = ::stat(name.constData(), &older) == 0;
-    if (exists && (!S_ISREG(older.st_mode) || ::access(name.constData(), W_OK) != 0))
+    if (exists && (!S_ISREG(older.st_mode) || ::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0))
         return false;
     const Outcome outcome = exchange(name, contents, exists ? &older : nullptr);
     if (outcome == Outcome::NotAllowed && exists)

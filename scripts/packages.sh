@@ -3,13 +3,16 @@
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
     qt6-l10n-tools libgl-dev libhwy-dev libgtest-dev
     python3-dev pybind11-dev python3-numpy python3-pil python3-pytest python3-mypy mypy)
+# For core/ and its tests alone, which need no Qt.
+core_packages=(g++ cmake ninja-build ccache libhwy-dev libgtest-dev)
 # qt6-image-formats-plugins reads TIFF; qt6-translations-l10n has Qt's own dialogs in other languages; the fonts are for
 # machines that have none yet.
 run_packages=(qt6-image-formats-plugins qt6-translations-l10n fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
-check_packages=(clang libclang-rt-14-dev clang-format clang-tidy git)
-# For scripts/docs, scripts/package and scripts/check-package.
-package_packages=(doxygen dpkg-dev gzip man-db lintian desktop-file-utils appstream mmdebstrap xvfb x11-utils)
+check_packages=(clang libclang-rt-dev clang-format clang-tidy git)
+debian_packages=(debhelper dpkg-dev git dh-python)
+# For scripts/check-package.
+package_packages=(man-db lintian desktop-file-utils appstream mmdebstrap xvfb x11-utils)
 
 say() { printf '== %s\n' "$*"; }
 
@@ -38,4 +41,12 @@ build_preset() {
     say "configuring and building: $1"
     cmake --preset "$1"
     cmake --build --preset "$1"
+}
+
+# Names, each followed by a zero byte, of all source files: with what was not committed yet, without what was built.
+source_files() {
+    local file
+    git ls-files -z --cached --others --exclude-standard | while IFS= read -r -d '' file; do
+        [ ! -e "$file" ] || printf '%s\0' "$file"
+    done
 }

@@ -3,9 +3,10 @@
 
 #include "tour/Driver.h"
 
+#include "tests/support/Activation.h"
+
 #include <QAction>
 #include <QApplication>
-#include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,24 +14,22 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QToolBar>
-
-#include <exception>
 
 namespace {
 
-constexpr int settleTime = 60;     // ms, for the window system to show what happened
-constexpr int dialogPollTime = 50; // ms
-constexpr int mostDialogPolls = 200;
+constexpr int settleTime = 60; // ms, for the window system to show what happened
+
+/// Open or Save, whichever the file dialog has.
+QPushButton &confirming(const QDialogButtonBox &buttons)
+{
+    for (const auto which : {QDialogButtonBox::Open, QDialogButtonBox::Save})
+        if (QPushButton *button = buttons.button(which))
+            return *button;
+    throw TourError("the file dialog has neither Open nor Save");
+}
 
 } // namespace
-
-void expect(bool holds, const QString &message)
-{
-    if (!holds)
-        throw TourError(message);
-}
 
 Driver::Driver(QMainWindow &window, const QString &folder)
     : m_window(window), m_canvas(window.findChild<QGraphicsView *>("graphicsView")), m_folder(folder)
@@ -72,10 +71,11 @@ void Driver::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     // Shortcuts reach the active window only, and not every platform hands that back after a dialog.
     m_window.activateWindow();
+    const Awaiting active("the window to become active");
     expect(QTest::qWaitForWindowActive(&m_window), "the window does not become active");
     // On Wayland no program may activate its own window; to this one it is the active window all the same.
     if (QApplication::activeWindow() == nullptr)
-        QApplication::setActiveWindow(&m_window);
+        testsupport::activate(m_window);
     QTest::keyClick(&m_window, key, modifiers);
     wait(settleTime);
 }
@@ -94,45 +94,33 @@ void Driver::drag(QPointF from, QPointF to, int moves)
 void Driver::withDialog(const char *className, const std::function<void(QWidget &)> &answer,
                         const std::function<void()> &cause)
 {
-    bool answered = false;
-    std::exception_ptr failure; // must not fly through the dialog's event loop
-    int polls = 0;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr || !dialog->inherits(className)) {
-            if (++polls == mostDialogPolls && dialog != nullptr)
-                dialog->close();
-            return;
-        }
-        timer.stop();
-        answered = true;
+    DialogAnswer awaited(className, [&answer](QWidget &dialog) {
         wait(settleTime);
-        try {
-            answer(*dialog);
-        } catch (...) {
-            failure = std::current_exception();
-            dialog->close();
-        }
+        answer(dialog);
     });
-    timer.start(dialogPollTime);
     cause();
-    for (; !answered && polls < mostDialogPolls; ++polls)
-        wait(dialogPollTime);
-    if (failure)
-        std::rethrow_exception(failure);
-    expect(answered, QString("no %1 was shown").arg(className));
+    awaited.finish();
     wait(settleTime);
 }
 
-void Driver::chooseFile(QWidget &dialog, const QString &path)
+void Driver::chooseFile(QWidget &dialog, const QString &path, int patience)
 {
     auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
-    expect(name != nullptr, "the file dialog has no field for a name");
+    auto *buttons = dialog.findChild<QDialogButtonBox *>();
+    expect(name != nullptr && buttons != nullptr, "the file dialog has no field for a name");
     // Its list of guesses would get the keys, and on Wayland does not give them on.
     name->setCompleter(nullptr);
-    name->clear();
-    QTest::keyClicks(name, path);
+    // The dialog reads folders in another thread. Until it has read this one it may not know the file, and
+    // what it finds in the folder where it began may still get into the field.
+    const Awaiting known("the file dialog to know " + path);
+    const auto typed = [&] {
+        if (name->text() != path) {
+            name->clear();
+            QTest::keyClicks(name, path);
+        }
+        return name->text() == path && confirming(*buttons).isEnabled();
+    };
+    expect(QTest::qWaitFor(typed, patience), "the file dialog does not let " + path + " be chosen");
     QTest::keyClick(name, Qt::Key_Return);
 }
 

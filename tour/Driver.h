@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include "tour/DialogAnswer.h"
+#include "tour/TourError.h"
+
 #include <QDir>
 #include <QGraphicsView>
 #include <QImage>
@@ -10,17 +13,6 @@
 #include <QString>
 
 #include <functional>
-#include <stdexcept>
-
-/// A step of the tour that did not show what it should.
-class TourError : public std::runtime_error
-{
-public:
-    explicit TourError(const QString &message) : std::runtime_error(message.toStdString()) {}
-};
-
-/// Throws a TourError with `message` unless `holds`.
-void expect(bool holds, const QString &message);
 
 /// The hands and eyes of a user before the program's window: clicks, drags and types through real events, and
 /// takes numbered pictures of what there is to see.
@@ -43,10 +35,11 @@ public:
     void drag(QPointF from, QPointF to, int moves);
 
     /// Runs `cause`, which opens a modal dialog, and has `answer` deal with the dialog of class `className`.
+    /// Fails when no such dialog comes, or when it does not go after its answer.
     void withDialog(const char *className, const std::function<void(QWidget &)> &answer,
                     const std::function<void()> &cause);
     /// Types a file's name into a file dialog and accepts it.
-    static void chooseFile(QWidget &dialog, const QString &path);
+    static void chooseFile(QWidget &dialog, const QString &path, int patience = DialogAnswer::usualPatience);
     /// Clicks a child widget of a dialog.
     static void click(QWidget &dialog, const QString &name);
     static void accept(QWidget &dialog);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/MainWindow.h"
+#include "tests/support/PlainDesktop.h"
+#include "tour/DialogAnswer.h"
 #include "tour/Story.h"
 
 #include <QApplication>
@@ -9,6 +11,7 @@
 #include <QPalette>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include <chrono>
@@ -49,9 +52,8 @@ QPalette darkPalette()
 
 int main(int argc, char *argv[])
 {
-    // The file dialogs of the desktop can't be driven, and the user's settings are none of the tour's
-    // business.
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    testsupport::usePlainDesktop();
+    // The user's settings are none of the tour's business.
     const QTemporaryDir settings;
     for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
         QSettings::setPath(format, QSettings::UserScope, settings.path());
@@ -72,14 +74,17 @@ int main(int argc, char *argv[])
     }
 
     QTimer::singleShot(longestTour, &application, [] {
-        std::fputs("the tour failed: it waits for something that does not come\n", stderr);
+        std::fprintf(stderr, "the tour failed: it still waits for %s\n", qPrintable(awaited()));
         std::_Exit(1);
     });
     try {
         MainWindow window;
         window.resize(1240, 900);
         window.show();
-        Driver::wait(300);
+        {
+            const Awaiting exposed("the window to be shown");
+            expect(QTest::qWaitForWindowExposed(&window), "the window is not shown");
+        }
         Story(window, parser.value("folder"), parser.value("samples"), parser.value("help-pictures")).tell();
     } catch (const std::exception &error) {
         std::fprintf(stderr, "the tour failed: %s\n", error.what());

@@ -332,12 +332,6 @@ Skaliert den Hintergrund, wenn er ein Bild ist.</translation>
         <translation>Sie haben eine transparente Hintergrundfarbe ausgewählt, speichern aber als JPEG. Die Transparenz der Farbe ging verloren. Bitte wählen Sie .png, um transparente Hintergründe zu speichern.</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>Ornevo stellt Objekte aus Fotos frei.
-Erstellt von The Ornevo developers, 2026.</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -387,7 +381,7 @@ Erstellt von The Ornevo developers, 2026.</translation>
     </message>
     <message>
         <source>Not enough memory for a preview</source>
-        <translation>Nicht genügend Speicher für eine Vorschau</translation>
+        <translation>Nicht genügend Arbeitsspeicher für eine Vorschau</translation>
     </message>
     <message>
         <source>getting inversed mask</source>
@@ -450,6 +444,32 @@ Möchten Sie wirklich fortfahren?</translation>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>Intensität des Vordergrundpinsels: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>Öffnen Sie zuerst ein Foto: Datei, Öffnen (Strg+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>Nicht genügend Arbeitsspeicher zum Exportieren</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>Ornevo stellt Objekte aus Fotos frei.
+Erstellt von The Ornevo developers, 2026. https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>Nicht genügend Arbeitsspeicher für eine Maske</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>Nicht genügend Speicher, um die Kanten zu finden</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>Nicht genügend Arbeitsspeicher, um zu speichern</translation>
     </message>
 </context>
 <context>

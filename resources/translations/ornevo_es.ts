@@ -332,12 +332,6 @@ Cambia la escala del fondo cuando es una imagen.</translation>
         <translation>Ha seleccionado un color de fondo transparente, pero guarda en formato JPEG. La transparencia del color se ha perdido. Elija .png para guardar fondos transparentes.</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>Ornevo recorta objetos de fotografías.
-Creado por The Ornevo developers, 2026.</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -450,6 +444,32 @@ Are you sure you want to continue?</source>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>Intensidad del pincel de primer plano: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>Para empezar, abra una foto: Archivo, Abrir (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>No hay memoria suficiente para exportar</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>Ornevo recorta objetos de fotografías.
+Creado por The Ornevo developers, 2026. https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>No hay memoria suficiente para la máscara</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>No hay memoria suficiente para detectar los bordes</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>No hay memoria suficiente para guardar</translation>
     </message>
 </context>
 <context>

@@ -332,12 +332,6 @@ Met l’arrière-plan à l’échelle lorsqu’il s’agit d’une image.</trans
         <translation>Vous avez choisi une couleur d’arrière-plan transparente, mais vous enregistrez au format JPEG. La transparence de la couleur a été perdue. Veuillez choisir .png pour enregistrer des arrière-plans transparents.</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>Ornevo détoure des objets dans des photos.
-Réalisé par The Ornevo developers, 2026.</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -450,6 +444,32 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>Intensité du pinceau de premier plan&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>Pour commencer, ouvrez une photo&#xa0;: Fichier, Ouvrir (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>Mémoire insuffisante pour exporter</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>Ornevo détoure des objets dans des photos.
+Réalisé par The Ornevo developers, 2026. https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>Mémoire insuffisante pour un masque</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>Mémoire insuffisante pour détecter les contours</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>Mémoire insuffisante pour enregistrer</translation>
     </message>
 </context>
 <context>

@@ -332,12 +332,6 @@ Ridimensiona lo sfondo quando è un’immagine.</translation>
         <translation>È stato selezionato un colore di sfondo trasparente, ma il salvataggio è in formato JPEG. La trasparenza del colore è andata persa. Scegliere .png per salvare sfondi trasparenti.</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>Ornevo scontorna oggetti dalle fotografie.
-Realizzato da The Ornevo developers, 2026.</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -450,6 +444,32 @@ Continuare?</translation>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>Intensità del pennello primo piano: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>Per iniziare, aprire una foto: File, Apri (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>Memoria insufficiente per esportare</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>Ornevo scontorna oggetti dalle fotografie.
+Realizzato da The Ornevo developers, 2026. https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>Memoria insufficiente per la maschera</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>Memoria insufficiente per rilevare i bordi</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>Memoria insufficiente per salvare</translation>
     </message>
 </context>
 <context>

@@ -332,12 +332,6 @@ Scales the background when it is a picture.</source>
         <translation>透明な背景色が選択されていますが、JPEG 形式で保存したため、色の透明度が失われました。透明な背景を保存するには .png を選択してください。</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>Ornevo は写真から被写体を切り抜くソフトウェアです。
-制作：The Ornevo developers、2026 年</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -450,6 +444,32 @@ Are you sure you want to continue?</source>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>前景ブラシの強さ: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>まず写真を開いてください：ファイル、開く (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>メモリ不足のためエクスポートできません</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>Ornevo は写真から被写体を切り抜くソフトウェアです。
+制作：The Ornevo developers、2026 年 https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>メモリ不足のためマスクを作成できません</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>メモリ不足のためエッジを検出できません</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>メモリ不足のため保存できません</translation>
     </message>
 </context>
 <context>

@@ -332,12 +332,6 @@ Skaluje tło, gdy jest nim obraz.</translation>
         <translation>Wybrano przezroczysty kolor tła, ale zapisano w formacie JPEG. Przezroczystość koloru została utracona. Aby zapisywać przezroczyste tła, należy wybrać .png.</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>Ornevo wycina obiekty ze zdjęć.
-Autorzy: The Ornevo developers, 2026.</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -450,6 +444,32 @@ Czy na pewno kontynuować?</translation>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>Intensywność pędzla pierwszego planu: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>Na początek należy otworzyć zdjęcie: Plik, Otwórz (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>Za mało pamięci na eksport</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>Ornevo wycina obiekty ze zdjęć.
+Autorzy: The Ornevo developers, 2026. https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>Za mało pamięci na maskę</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>Za mało pamięci, aby znaleźć krawędzie</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>Za mało pamięci, aby zapisać</translation>
     </message>
 </context>
 <context>

@@ -332,12 +332,6 @@ Redimensiona o fundo quando ele é uma imagem.</translation>
         <translation>Você selecionou uma cor de fundo transparente, mas está salvando como JPEG. A transparência da cor foi perdida. Escolha .png para salvar fundos transparentes.</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>O Ornevo recorta objetos de fotografias.
-Criado por The Ornevo developers, 2026.</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -450,6 +444,32 @@ Tem certeza de que deseja continuar?</translation>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>Intensidade do pincel de primeiro plano: %1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>Para começar, abra uma foto: Arquivo, Abrir (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>Memória insuficiente para exportar</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>O Ornevo recorta objetos de fotografias.
+Criado por The Ornevo developers, 2026. https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>Memória insuficiente para a máscara</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>Memória insuficiente para detectar as bordas</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>Memória insuficiente para salvar</translation>
     </message>
 </context>
 <context>

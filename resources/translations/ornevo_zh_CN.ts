@@ -332,12 +332,6 @@ Scales the background when it is a picture.</source>
         <translation>已选择透明背景颜色，但保存为 JPEG，颜色的透明信息已丢失。要保存透明背景，请选择 .png。</translation>
     </message>
     <message>
-        <source>Ornevo cuts objects out of photographs.
-Made by the Ornevo developers, 2026.</source>
-        <translation>Ornevo 可从照片中抠出对象。
-制作：The Ornevo developers，2026 年</translation>
-    </message>
-    <message>
         <source>Ornevo Pro 2.7 for MacOS X</source>
         <translation>Ornevo Pro 2.7 for MacOS X</translation>
     </message>
@@ -450,6 +444,32 @@ Are you sure you want to continue?</source>
     <message>
         <source>Foreground brush intensity is %1</source>
         <translation>前景画笔强度：%1</translation>
+    </message>
+    <message>
+        <source>Open a photo to begin: File, Open (Ctrl+O)</source>
+        <translation>请先打开一张照片：文件、打开 (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Not enough memory to export</source>
+        <translation>内存不足，无法导出</translation>
+    </message>
+    <message>
+        <source>Ornevo cuts objects out of photographs.
+Made by the Ornevo developers, 2026. https://ornevo.example</source>
+        <translation>Ornevo 可从照片中抠出对象。
+制作：The Ornevo developers，2026 年。https://ornevo.example</translation>
+    </message>
+    <message>
+        <source>Not enough memory for a mask</source>
+        <translation>内存不足，无法创建蒙版</translation>
+    </message>
+    <message>
+        <source>Not enough memory to find the edges</source>
+        <translation>内存不足，无法检测边缘</translation>
+    </message>
+    <message>
+        <source>Not enough memory to save</source>
+        <translation>内存不足，无法保存</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "app/dialogs/ExportDialog.h"
 #include "app/dialogs/HelpDialog.h"
 #include "app/dialogs/OptionsDialog.h"
+#include "tests/support/Activation.h"
 #include "tests/support/Keys.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowUnderTest.h"
@@ -40,7 +41,7 @@ QStringList namesAlongTheTabKey(QDialog &dialog)
     dialog.show();
     if (!QTest::qWaitForWindowExposed(&dialog))
         return {"the dialog does not come up"};
-    QApplication::setActiveWindow(&dialog);
+    testsupport::activate(dialog);
     return spokenNames(focusRound(dialog));
 }
 

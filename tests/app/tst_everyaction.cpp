@@ -309,10 +309,18 @@ void TestEveryAction::toolsInEveryState()
         checkEnabled(action(*window, "actionPreview")->isChecked());
         QCOMPARE(driver::canvas(*window)->viewport()->cursor().shape(), Qt::ArrowCursor);
     }
-    while (probe->undoStack().canUndo())
+    const int entries = probe->undoStack().count();
+    QVERIFY(entries > 0);
+    for (int left = entries; left > 0; --left) {
+        QCOMPARE(probe->undoStack().index(), left);
         driver::key(*window, QKeySequence::Undo);
-    while (probe->undoStack().canRedo())
+    }
+    QVERIFY(!probe->undoStack().canUndo());
+    for (int done = 0; done < entries; ++done) {
+        QCOMPARE(probe->undoStack().index(), done);
         driver::key(*window, QKeySequence::Redo);
+    }
+    QVERIFY(!probe->undoStack().canRedo());
 }
 
 void TestEveryAction::previewLetsGoOfTools()

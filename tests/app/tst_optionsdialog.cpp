@@ -208,7 +208,7 @@ void TestOptionsDialog::valuesOutOfRange()
     settings.setValue("MOPACITY", "nan");
     OptionsDialog again(&settings, nullptr);
     const double opacity = part<QDoubleSpinBox>(again, "doubleSpinBox").value();
-    QVERIFY(opacity >= 0.0 && opacity <= 1.0);
+    QCOMPARE(opacity, 1.0);
 }
 
 /// The names are those of the files that users have.

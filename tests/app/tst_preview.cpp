@@ -497,14 +497,27 @@ void PreviewTest::undoOfBrushAfterRebuilding()
     t.trigger("actionPreview");
     t.trigger("actionForeground_Brush");
     const int before = t.probe.undoStack().count();
+    const QImage untouched = t.probe.previewImage().copy();
+    const auto asShown = [](const QImage &image) {
+        return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    };
+    const auto shownCutOut = [&] { return asShown(t.probe.previewItem()->pixmap().toImage()); };
     t.mouse.stroke({t.at(40, 30), t.at(42, 30)});
     QTRY_COMPARE(t.probe.undoStack().count(), before + 1);
+    const QImage brushed = t.probe.previewImage().copy();
+    QVERIFY(brushed != untouched);
     t.window.applypreviewmask(); // another item shows the cut-out now
     t.probe.undoStack().undo();
+    QCOMPARE(t.probe.previewImage(), untouched);
+    QCOMPARE(shownCutOut(), asShown(untouched));
     t.probe.undoStack().redo();
+    QCOMPARE(t.probe.previewImage(), brushed);
+    QCOMPARE(shownCutOut(), asShown(brushed));
     t.trigger("actionPreview");
     t.trigger("actionPreview");
     t.probe.undoStack().undo();
+    QCOMPARE(t.probe.previewImage(), untouched);
+    QCOMPARE(shownCutOut(), asShown(untouched));
     t.probe.undoStack().undo(); // a marker dab
     t.probe.previewScene().clear();
     t.probe.undoStack().setIndex(0);

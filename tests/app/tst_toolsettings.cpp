@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
+#include "canvas/SceneLayers.h"
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/MainWindowProbe.h"
@@ -510,32 +511,39 @@ void TestToolSettings::hostileOpacity_data()
 {
     QTest::addColumn<QString>("value");
     QTest::addColumn<double>("shown");
-    QTest::newRow("half") << "0.5" << 0.5;
-    QTest::newRow("below") << "-3" << 0.0;
-    QTest::newRow("above") << "17" << 1.0;
-    QTest::newRow("text") << "thick" << 0.0;
-    QTest::newRow("infinite") << "inf" << 1.0;
-    QTest::newRow("nan") << "nan" << std::nan("");
+    QTest::addColumn<double>("blueDab");
+    QTest::newRow("half") << "0.5" << 0.5 << 0.05;
+    QTest::newRow("below") << "-3" << 0.0 << 0.0;
+    QTest::newRow("above") << "17" << 1.0 << 1.0;
+    QTest::newRow("somewhat above") << "4" << 1.0 << 0.4;
+    QTest::newRow("text") << "thick" << 0.0 << 0.0;
+    QTest::newRow("infinite") << "inf" << 1.0 << 1.0;
+    QTest::newRow("nan") << "nan" << 0.0 << 0.0;
 }
 
 void TestToolSettings::hostileOpacity()
 {
     QFETCH(QString, value);
     QFETCH(double, shown);
+    QFETCH(double, blueDab);
     probe->settings().setValue("MOPACITY", value);
     probe->settings().setValue("SAMESIZECHECKED", false);
     restartWindow();
     openMarkAndMask();
     QVERIFY(probe->maskItem() != nullptr);
     const double opacity = probe->maskItem()->opacity();
-    QVERIFY2(opacity >= 0.0 && opacity <= 1.0, qPrintable(QString::number(opacity)));
-    if (!std::isnan(shown))
-        QVERIFY(std::abs(opacity - shown) < 1e-6);
+    QVERIFY2(std::abs(opacity - shown) < 1e-6, qPrintable(QString::number(opacity)));
+    const QList<QGraphicsItem *> before = probe->imageScene().items();
     action(*window, "actionBlueMarker")->trigger();
     driver::stroke(*view, {{40, 40}, {60, 45}});
-    for (const QGraphicsItem *item : probe->imageScene().items())
-        QVERIFY(item->opacity() >= 0.0 && item->opacity() <= 1.0);
-    view->grab();
+    int dabs = 0;
+    for (const QGraphicsItem *item : probe->imageScene().items()) {
+        if (before.contains(item) || item->zValue() != layers::dabZ)
+            continue;
+        ++dabs;
+        QVERIFY2(std::abs(item->opacity() - blueDab) < 1e-6, qPrintable(QString::number(item->opacity())));
+    }
+    QCOMPARE(dabs, 2);
 }
 
 void TestToolSettings::hostileGaussSize_data()

@@ -246,8 +246,10 @@ void TestBrushCommand::manyCommands()
             stack.redo();
         QVERIFY(image == states.at(stack.index()));
     }
-    while (stack.canUndo())
+    for (int index = stack.index(); index > 0; --index) {
         stack.undo();
+        QCOMPARE(stack.index(), index - 1);
+    }
     QVERIFY(image == states.first());
     QVERIFY(same(shown(*item), asShown(states.first())));
 }

@@ -106,6 +106,7 @@ private slots:
     void eraserReach();
     void eraserErasesOnPressOnly();
     void penDrawsAPath();
+    void penLetsGoOfTheButton();
     void penNeedsTheLeftButton();
     void penTellsWhatItDoes();
 };
@@ -557,6 +558,18 @@ void MarkersTest::penDrawsAPath()
     QCOMPARE(canvas.stack.count(), 0);
     canvas.mouse.stroke({QPoint(60, 60)}); // the next one is a path of its own
     QCOMPARE(canvas.count(QGraphicsPathItem::Type), 2);
+}
+
+void MarkersTest::penLetsGoOfTheButton()
+{
+    Canvas canvas;
+    canvas.view.SetTool(ToolPen);
+    canvas.mouse.stroke({QPoint(20, 20), QPoint(30, 25)});
+    const auto items = canvas.scene.items();
+    canvas.view.SetTool(ToolKeepMarker);
+    canvas.mouse.move(QPoint(60, 60)); // no button is held, so no dab is laid
+    QCOMPARE(canvas.scene.items(), items);
+    QCOMPARE(canvas.stack.count(), 0);
 }
 
 void MarkersTest::penNeedsTheLeftButton()

@@ -82,6 +82,21 @@ struct ShownPicture
     PictureItem *item = nullptr;
 };
 
+/// The upper left part of the view of a photo.
+QImage shownAlone(const QImage &photo, qreal scale, QSize size)
+{
+    QGraphicsScene scene;
+    scene.addItem(new PictureItem(QPixmap::fromImage(photo)));
+    QGraphicsView view(&scene);
+    view.setFrameShape(QFrame::NoFrame);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    view.resize(size);
+    view.scale(scale, scale);
+    return wantedBy(view);
+}
+
 int largestDifference(const QImage &a, const QImage &b)
 {
     if (a.size() != b.size())
@@ -101,6 +116,49 @@ class PictureItemTest : public QObject
     Q_OBJECT
 
 private slots:
+    void reducedPixelsAreMeans_data()
+    {
+        QTest::addColumn<int>("factor");
+        QTest::newRow("half") << 2;
+        QTest::newRow("quarter") << 4;
+        QTest::newRow("eighth") << 8;
+    }
+
+    /// Noise, of which every pixel that is left out would show.
+    void reducedPixelsAreMeans()
+    {
+        QFETCH(int, factor);
+        const QImage photo = testpictures::randomImage(pictureSize.width(), pictureSize.height(), 5);
+        QImage means(photo.size() / factor, QImage::Format_RGB32);
+        for (int y = 0; y < means.height(); ++y) {
+            for (int x = 0; x < means.width(); ++x) {
+                int red = 0, green = 0, blue = 0;
+                for (int i = 0; i < factor * factor; ++i) {
+                    const QRgb pixel = photo.pixel(x * factor + i % factor, y * factor + i / factor);
+                    red += qRed(pixel);
+                    green += qGreen(pixel);
+                    blue += qBlue(pixel);
+                }
+                const int count = factor * factor;
+                means.setPixel(x, y, qRgb(red / count, green / count, blue / count));
+            }
+        }
+        // Each halving rounds, and the drawing once more.
+        const int difference = largestDifference(shownAlone(photo, 1.0 / factor, means.size()), means);
+        QVERIFY2(difference <= 4, qPrintable(QString::number(difference)));
+    }
+
+    /// Whoever zooms in wants to see the pixels.
+    void enlargedPixelsAreSharp()
+    {
+        const QImage photo = testpictures::randomImage(60, 40, 6);
+        QImage squares(photo.size() * 4, QImage::Format_RGB32);
+        for (int y = 0; y < squares.height(); ++y)
+            for (int x = 0; x < squares.width(); ++x)
+                squares.setPixel(x, y, photo.pixel(x / 4, y / 4));
+        QCOMPARE(largestDifference(shownAlone(photo, 4.0, squares.size()), squares), 0);
+    }
+
     void changeRepaintsOnlyItself_data()
     {
         QTest::addColumn<qreal>("scale");

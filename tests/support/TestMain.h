@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "tests/support/PlainDesktop.h"
+
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
@@ -25,7 +27,7 @@ template <typename TestObject> int runTest(int argc, char *argv[])
     qputenv("TMPDIR", world.filePath("tmp").toLocal8Bit());
     for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
         QSettings::setPath(format, QSettings::UserScope, world.filePath("config"));
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    usePlainDesktop();
     QApplication application(argc, argv);
     QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
     QApplication::setOrganizationName("Tirelo software");

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "tests/support/Activation.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -118,7 +120,7 @@ inline void show(QMainWindow &window, QSize size = {640, 560})
     window.resize(size);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QApplication::setActiveWindow(&window);
+    testsupport::activate(window);
     canvas(window)->setFocus();
     settle();
 }
@@ -135,7 +137,7 @@ inline void openPhoto(QMainWindow &window, const QString &path)
 /// Presses a key with the canvas in front.
 inline void key(QMainWindow &window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
 {
-    QApplication::setActiveWindow(&window);
+    testsupport::activate(window);
     canvas(window)->setFocus();
     QTest::keyClick(canvas(window), key, modifiers);
 }

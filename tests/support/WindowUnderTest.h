@@ -4,6 +4,7 @@
 #pragma once
 
 #include "canvas/ZelGraphicsView.h"
+#include "tests/support/Activation.h"
 #include "tests/support/CanvasMouse.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/ModalAnswers.h"
@@ -26,7 +27,7 @@ public:
         window.show();
         if (!QTest::qWaitForWindowExposed(&window))
             qFatal("the window does not come up");
-        QApplication::setActiveWindow(&window); // a bare X server has nobody else to do it, and keys need it
+        activate(window); // a bare X server has nobody else to do it, and keys need it
     }
 
     [[nodiscard]] QAction &action(const char *name) const
