@@ -1,7 +1,8 @@
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
-    qt6-l10n-tools libgl-dev libhwy-dev libgtest-dev)
+build_packages=(g++ cmake ninja-build ccache pkg-config python3 qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
+    qt6-l10n-tools libgl-dev libhwy-dev libgtest-dev
+    python3-dev pybind11-dev python3-numpy python3-pil python3-pytest python3-mypy mypy)
 # For core/ and its tests alone, which need no Qt.
 core_packages=(g++ cmake ninja-build ccache libhwy-dev libgtest-dev)
 # qt6-image-formats-plugins reads TIFF; qt6-translations-l10n has Qt's own dialogs in other languages; the fonts are for
@@ -9,7 +10,7 @@ core_packages=(g++ cmake ninja-build ccache libhwy-dev libgtest-dev)
 run_packages=(qt6-image-formats-plugins qt6-translations-l10n fontconfig fonts-dejavu-core)
 headless_packages=(xvfb xauth)
 check_packages=(clang libclang-rt-dev clang-format clang-tidy git)
-debian_packages=(debhelper dpkg-dev git)
+debian_packages=(debhelper dpkg-dev git dh-python)
 # For scripts/check-package.
 package_packages=(man-db lintian desktop-file-utils appstream mmdebstrap xvfb x11-utils)
 
