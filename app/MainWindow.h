@@ -142,6 +142,7 @@ private:
     void applyBrush(const QList<QRect> &rects, int alphaChange);
     void showCutOut(const QRect &area);
     void framePreview();
+    void showScene(QGraphicsScene &scene);
     void scaleBackground(double factor);
     bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
     [[nodiscard]] QPixmap exportCanvas() const;

@@ -13,6 +13,7 @@
 #include "ui_MainWindow.h"
 
 #include <QDebug>
+#include <QScrollBar>
 
 #include <new>
 
@@ -31,12 +32,23 @@ void MainWindow::on_actionPreview_toggled(bool checked)
         putToolsDown(false);
         previewImage = QImage();
         updatepreview();
-        form->graphicsView->setScene(&previewScene);
+        showScene(previewScene);
     } else {
         setEditingActionsEnabled(true);
-        form->graphicsView->setScene(&imageScene);
+        showScene(imageScene);
         putToolsDown(true);
     }
+}
+
+// A view that gets another scene zooms about the middle of that scene next, whatever part of it is shown.
+void MainWindow::showScene(QGraphicsScene &scene)
+{
+    ZelGraphicsView &view = *form->graphicsView;
+    const QPoint scrolled(view.horizontalScrollBar()->value(), view.verticalScrollBar()->value());
+    view.setScene(&scene);
+    view.centerOn(view.mapToScene(view.viewport()->rect()).boundingRect().center());
+    view.horizontalScrollBar()->setValue(scrolled.x()); // the centring rounds
+    view.verticalScrollBar()->setValue(scrolled.y());
 }
 
 void MainWindow::updatepreview()

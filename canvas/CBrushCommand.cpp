@@ -26,7 +26,7 @@ CBrushCommand::CBrushCommand(Show show, const QRect &area, QImage *image, const 
       m_showFirst([this] { m_show(m_area); }),
       m_area(area),
       m_image(image),
-      m_snapshot(before)
+      m_snapshot(before, area.isEmpty() ? QImage() : image->copy(area)) // copy() takes an empty one for all
 {
 }
 
@@ -48,21 +48,17 @@ void CBrushCommand::redo()
         m_snapshot.store();
         return;
     }
-    if (!m_holdsBefore)
-        swapPixels();
+    putBack(m_snapshot.after());
 }
 
 void CBrushCommand::undo()
 {
-    if (m_holdsBefore)
-        swapPixels();
+    putBack(m_snapshot.before());
 }
 
-// What the picture loses, the snapshot gets: one of the two states is in the picture, the other on the disk.
-void CBrushCommand::swapPixels()
+void CBrushCommand::putBack(QImage pixels)
 {
     const QRect area = m_area.intersected(m_image->rect());
-    QImage pixels = m_snapshot.pixels();
     if (pixels.isNull() || m_image->depth() != 32)
         return;
     pixels.convertTo(m_image->format());
@@ -73,11 +69,9 @@ void CBrushCommand::swapPixels()
     if (columns <= 0 || rows <= 0)
         return;
     for (int y = 0; y < rows; ++y) {
-        auto *ours = reinterpret_cast<QRgb *>(pixels.scanLine(top + y)) + left;
+        const auto *ours = reinterpret_cast<const QRgb *>(pixels.constScanLine(top + y)) + left;
         auto *theirs = reinterpret_cast<QRgb *>(m_image->scanLine(area.top() + y)) + area.left();
-        std::swap_ranges(ours, ours + columns, theirs);
+        std::copy_n(ours, columns, theirs);
     }
-    m_holdsBefore = !m_holdsBefore;
     m_show(area);
-    m_snapshot.replace(pixels);
 }

@@ -13,10 +13,9 @@
 
 #include <functional>
 
-/// Undo of one batch of brush dabs: keeps the pixels of the box around them as they were before, and once
-/// they are undone as they were after. With the first redo() they move into a temporary file, which goes with
-/// the command. The first redo(), which QUndoStack::push() calls, changes no pixel: the batch is in the
-/// picture already.
+/// Undo of one batch of brush dabs: keeps the pixels of the box around them from before and after. With the
+/// first redo() they move into a temporary file, which goes with the command. The first redo(), which
+/// QUndoStack::push() calls, changes no pixel: the batch is in the picture already.
 class CBrushCommand : public QUndoCommand
 {
 public:
@@ -44,12 +43,11 @@ public:
     void redo() override;
 
 private:
-    void swapPixels();
+    void putBack(QImage pixels);
 
     Show m_show;
     std::function<void()> m_showFirst; ///< for the first redo(); empty afterwards
     QRect m_area;
     QImage *m_image;
     UndoSnapshot m_snapshot;
-    bool m_holdsBefore = true; ///< what the snapshot is of
 };

@@ -6,29 +6,29 @@
 #include <QImage>
 #include <QTemporaryFile>
 
-/// The pixels that an undo entry will put back. They can be moved to a temporary file of their own, so that a
-/// long history costs disk and not memory; where there can't be one they stay in memory: on a full disk,
-/// without a temporary folder, and when the program is running short of file descriptors, which opening and
-/// saving need more.
+/// The pixels that an undo entry puts back, from before and after. They can be moved to a temporary file of
+/// their own, so that a long history costs disk and not memory: those from before as they are, those from
+/// after as what differs, which packs to little. Where there can't be a file they stay in memory: on a full
+/// disk, without a temporary folder, and when the program is running short of file descriptors, which opening
+/// and saving need more.
 class UndoSnapshot
 {
 public:
-    explicit UndoSnapshot(const QImage &pixels) : m_pixels(pixels) {}
+    UndoSnapshot(const QImage &before, const QImage &after) : m_before(before), m_after(after) {}
 
     /// Moves the pixels to the file.
     void store();
 
-    /// The pixels, read from the file if they are there; null when they can't be.
-    [[nodiscard]] QImage pixels();
-
-    /// Other pixels take the place of what is stored.
-    void replace(const QImage &pixels);
+    /// Read from the file if they are there; null when they can't be.
+    [[nodiscard]] QImage before();
+    [[nodiscard]] QImage after();
 
 private:
     bool openFile();
     void removeFile();
 
-    QImage m_pixels; ///< null while they are in the file
+    QImage m_before; ///< null while it is in the file
+    QImage m_after;  ///< likewise
     QTemporaryFile m_file;
 };
 

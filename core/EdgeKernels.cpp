@@ -98,11 +98,11 @@ void SplitRow(const std::uint8_t *pixels, const std::uint8_t *ahead, int count,
     ornevo::HWY_NAMESPACE::forEachVector<std::int32_t, floatLanes>(
         0, count, [=](auto ints, int x) ORNEVO_VECTOR_LAMBDA {
             const hn::Rebind<std::int16_t, decltype(ints)> shorts;
-            const auto byte = hn::Set(ints, 0xFF);
             hwy::Prefetch(ahead + std::ptrdiff_t{x} * 4);
             const auto whole = hn::LoadU(ints, reinterpret_cast<const std::int32_t *>(pixels) + x);
+            // The mask is made inside: a vector of SVE has no size and can't be captured.
             const auto store = [=](auto colour, std::int16_t *to) ORNEVO_VECTOR_LAMBDA {
-                hn::StoreU(hn::DemoteTo(shorts, hn::And(colour, byte)), shorts, to + x);
+                hn::StoreU(hn::DemoteTo(shorts, hn::And(colour, hn::Set(ints, 0xFF))), shorts, to + x);
             };
             store(whole, blues);
             store(hn::ShiftRight<8>(whole), greens);

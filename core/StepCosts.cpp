@@ -106,7 +106,8 @@ namespace ornevo::flooding {
 HWY_EXPORT(differRow);
 HWY_EXPORT(costRow);
 
-// Summed in this order and truncated: a grey step of n often comes out as n - 1, and that is relied on.
+// Summed in this order and truncated: a grey step of n often comes out as n - 1, which is promised, see
+// docs/compatibility.md.
 std::uint8_t brightnessDifference(const std::uint8_t *p, const std::uint8_t *q)
 {
     const double difference = 0.299 * (p[2] - q[2]) + 0.587 * (p[1] - q[1]) + 0.114 * (p[0] - q[0]);

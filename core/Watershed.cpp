@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
 #include <utility>
 #include <variant>
 
@@ -71,8 +70,8 @@ void Regions::listPixels(const std::vector<int *> &destinations) const
         int *&pixel = next[region - 1];
         if (pixel == nullptr)
             return;
-        std::iota(pixel, pixel + (end - begin), static_cast<int>(begin));
-        pixel += end - begin;
+        for (std::size_t i = begin; i < end; ++i)
+            *pixel++ = static_cast<int>(i);
     });
 }
 

@@ -46,28 +46,25 @@ private:
     void visit(int index)
     {
         m_region.push_back(index);
-        const int column = index % m_width;
-        if (column != 0)
-            tryStep(index, index - 1);
-        if (column < m_width - 1)
-            tryStep(index, index + 1);
+        const int y = index / m_width;
+        const int x = index - y * m_width;
+        const std::uint8_t *const here = m_picture.row(y) + std::ptrdiff_t{4} * x;
+        if (x != 0)
+            tryStep(here, index - 1, here - 4);
+        if (x < m_width - 1)
+            tryStep(here, index + 1, here + 4);
         if (index > m_width) // not >=: promised, see docs/compatibility.md
-            tryStep(index, index - m_width);
-        if (index / m_width < m_height - 1)
-            tryStep(index, index + m_width);
+            tryStep(here, index - m_width, here - m_picture.bytesPerRow);
+        if (y < m_height - 1)
+            tryStep(here, index + m_width, here + m_picture.bytesPerRow);
     }
 
-    void tryStep(int from, int to)
+    void tryStep(const std::uint8_t *here, int neighbour, const std::uint8_t *there)
     {
-        if (isTaken(to) || colourStep(pixel(from), pixel(to)) >= m_threshold)
+        if (isTaken(neighbour) || colourStep(here, there) >= m_threshold)
             return;
-        m_taken[static_cast<std::size_t>(to)] = 1;
-        m_next.push_back(to);
-    }
-
-    [[nodiscard]] const std::uint8_t *pixel(int index) const
-    {
-        return m_picture.row(index / m_width) + std::ptrdiff_t{4} * (index % m_width);
+        m_taken[static_cast<std::size_t>(neighbour)] = 1;
+        m_next.push_back(neighbour);
     }
 
     // Each difference wraps around a byte, so that a step into the brighter is a large one.

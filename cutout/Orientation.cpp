@@ -3,6 +3,7 @@
 
 #include "cutout/Orientation.h"
 
+#include <QByteArrayView>
 #include <QtEndian>
 
 namespace cutout {
@@ -16,25 +17,25 @@ constexpr quint32 orientationTag = 0x0112;
 class Numbers
 {
 public:
-    explicit Numbers(const QByteArray &bytes) : m_bytes(bytes), m_little(bytes.startsWith("II")) {}
+    explicit Numbers(QByteArrayView bytes) : m_bytes(bytes), m_little(bytes.startsWith("II")) {}
 
     [[nodiscard]] quint32 two(qint64 at) const
     {
         if (at + 2 > m_bytes.size())
             return 0;
-        const char *place = m_bytes.constData() + at;
+        const char *place = m_bytes.data() + at;
         return m_little ? qFromLittleEndian<quint16>(place) : qFromBigEndian<quint16>(place);
     }
     [[nodiscard]] quint32 four(qint64 at) const
     {
         if (at + 4 > m_bytes.size())
             return 0;
-        const char *place = m_bytes.constData() + at;
+        const char *place = m_bytes.data() + at;
         return m_little ? qFromLittleEndian<quint32>(place) : qFromBigEndian<quint32>(place);
     }
 
 private:
-    const QByteArray &m_bytes;
+    QByteArrayView m_bytes;
     bool m_little;
 };
 

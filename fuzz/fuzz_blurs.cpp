@@ -3,6 +3,7 @@
 
 #include "cutout/FourChannelBlur.h"
 #include "fuzz/Input.h"
+#include "fuzz/SimdTarget.h"
 #include "imaging/GaussianBlur.h"
 #include "tests/reference/ImageReferences.h"
 
@@ -39,6 +40,7 @@ double anySigma(Input &input)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    const SimdTarget target(data, size);
     Input input(data, size);
     const int width = 1 + input.below(48);
     const int height = 1 + input.below(48);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzz/Input.h"
+#include "fuzz/SimdTarget.h"
 #include "imaging/EdgeDetectors.h"
 #include "imaging/EdgeMap.h"
 #include "tests/reference/ImageReferences.h"
@@ -49,6 +50,7 @@ void compareColourDifferences(std::vector<std::uint8_t> &picture, int width, int
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    const SimdTarget target(data, size);
     Input input(data, size);
     const int width = 1 + input.below(48);
     const int height = 1 + input.below(48);

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzz/Input.h"
+#include "fuzz/SimdTarget.h"
 #include "segmentation/FrWatershed.h"
 #include "tests/reference/ImageReferences.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    const SimdTarget target(data, size);
     Input input(data, size);
     const int width = 1 + input.below(40);
     const int height = 1 + input.below(40);

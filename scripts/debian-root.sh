@@ -1,5 +1,6 @@
 # Sourced by scripts: a Debian of any release in a folder, and how to run something there. Needs root. Downloaded
-# packages and compiled objects are kept between runs, in $ORNEVO_CACHE; all of it may be deleted at any time.
+# packages and compiled objects are kept between runs, in $ORNEVO_CACHE; all of it may be deleted at any time. One run at a
+# time: apt locks its folder of packages.
 
 ORNEVO_CACHE=${ORNEVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ornevo}
 ORNEVO_CCACHE=${CCACHE_DIR:-$ORNEVO_CACHE/ccache}

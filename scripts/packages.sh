@@ -1,6 +1,6 @@
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
+build_packages=(g++ cmake ninja-build ccache pkg-config python3 qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
     qt6-l10n-tools libgl-dev libhwy-dev libgtest-dev
     python3-dev pybind11-dev python3-numpy python3-pil python3-pytest python3-mypy mypy)
 # For core/ and its tests alone, which need no Qt.

@@ -496,7 +496,7 @@ Erstellt von The Ornevo developers, 2026. https://ornevo.example</translation>
     </message>
     <message>
         <source>Smooth Edges kernel size</source>
-        <translation>Kerngröße der Kantenglättung</translation>
+        <translation>Kernelgröße der Kantenglättung</translation>
     </message>
     <message>
         <source>Eraser width</source>

@@ -406,7 +406,7 @@ Met l’arrière-plan à l’échelle lorsqu’il s’agit d’une image.</trans
     <message>
         <source>You are going to overwrite your original file.
 Are you sure you want to continue?</source>
-        <translation>Vous êtes sur le point d’écraser votre fichier original.
+        <translation>Vous êtes sur le point d’écraser votre fichier d’origine.
 Voulez-vous vraiment continuer&#xa0;?</translation>
     </message>
     <message>

@@ -385,7 +385,7 @@ Skaluje tło, gdy jest nim obraz.</translation>
     </message>
     <message>
         <source>getting inversed mask</source>
-        <translation>pobieranie odwróconej maski</translation>
+        <translation>wyznaczanie odwróconej maski</translation>
     </message>
     <message>
         <source>painting alpha channel</source>

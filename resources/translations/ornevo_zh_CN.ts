@@ -293,7 +293,7 @@ Scales the background when it is a picture.</source>
     </message>
     <message>
         <source>increaseToolSize</source>
-        <translation>增大工具尺寸</translation>
+        <translation>增加工具大小</translation>
     </message>
     <message>
         <source>Ctrl+Right</source>
@@ -301,7 +301,7 @@ Scales the background when it is a picture.</source>
     </message>
     <message>
         <source>decreaseToolSize</source>
-        <translation>减小工具尺寸</translation>
+        <translation>减小工具大小</translation>
     </message>
     <message>
         <source>Ctrl+Left</source>

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Activation.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QGenericPlugin>
@@ -31,7 +33,7 @@ private:
         if (window == nullptr)
             for (QWidget *shown : QApplication::topLevelWidgets())
                 if (shown->isVisible() && shown->windowHandle()->isExposed())
-                    QApplication::setActiveWindow(shown); // a bare X server has nobody else to do it
+                    testsupport::activate(*shown); // a bare X server has nobody else to do it
         if (window == nullptr || !window->windowHandle()->isExposed())
             return;
         m_looks.stop();

@@ -691,16 +691,20 @@ QSize repaintedByADab(QGraphicsView &view, QUndoStack &stack)
 {
     const int before = stack.index();
     const QPoint position = view.mapFromScene(80, 60);
-    driver::move(view, position); // the circle
-    QTest::qWait(50);
     testsupport::PaintedArea painted(view.viewport());
+    driver::move(view, position + QPoint(3, 3)); // so that the circle is painted, wherever it was
+    driver::move(view, position);
+    if (!QTest::qWaitFor([&] { return !painted.take().isEmpty(); }))
+        qFatal("no circle");
     QSignalSpy pushed(&stack, &QUndoStack::indexChanged);
     driver::press(view, position);
     driver::release(view, position);
     if (!QTest::qWaitFor([&] { return !pushed.isEmpty(); }))
         qFatal("no batch after %d", before);
-    QTest::qWait(50);
-    return painted.take().boundingRect().size();
+    QRegion area;
+    if (!QTest::qWaitFor([&] { return !(area += painted.take()).isEmpty(); }))
+        qFatal("nothing is painted");
+    return area.boundingRect().size();
 }
 
 bool isSmall(QSize size)
@@ -742,8 +746,9 @@ void TestBrushes::batchAfterANewBackgroundRepaintsItselfOnly()
     testsupport::PaintedArea painted(view->viewport());
     stack().undo();
     stack().undo(); // of the preview before
-    QTest::qWait(50);
-    QVERIFY(isSmall(painted.take().boundingRect().size()));
+    QRegion area;
+    QTRY_VERIFY(!(area += painted.take()).isEmpty());
+    QVERIFY(isSmall(area.boundingRect().size()));
     checkShown();
 }
 
@@ -778,7 +783,9 @@ void TestBrushes::dialogEndsTheStroke()
     action(*window, tool)->trigger();
     const auto lay = [&](int x, Qt::MouseButtons held) {
         driver::move(*view, view->mapFromScene(x, 60), held);
-        QTest::qWait(50); // the brush waits for more dabs
+        // The brush waits for more dabs.
+        if (!QTest::qWaitFor([&] { return probe->pendingBrushRects().isEmpty(); }))
+            qFatal("the batch does not come");
         return std::pair(stack().count(), probe->previewOffset());
     };
     driver::press(*view, view->mapFromScene(60, 60));

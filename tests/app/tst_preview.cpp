@@ -73,6 +73,7 @@ private slots:
     void handIsUnderThePointer();
     void fittedPreviewIsCentred();
     void windowToHalfAndBack();
+    void zoomGoesOnWhereItWas();
     void backgroundZoomFramesTheBackground();
 
 private:
@@ -714,6 +715,36 @@ void PreviewTest::windowToHalfAndBack()
     QVERIFY2(std::abs(t.view.transform().m11() / scale - 1.0) < 0.01,
              qPrintable(QString::number(t.view.transform().m11() / scale)));
     QVERIFY(nothingToScroll(t));
+}
+
+/// Who looks at a detail goes on doing so in the preview and back.
+void PreviewTest::zoomGoesOnWhereItWas()
+{
+    WindowUnderTest t;
+    const QString large = m_folder.filePath("large.png");
+    QVERIFY(testpictures::blobImage(900, 700, 2).save(large));
+    t.openPicture(large);
+    for (int i = 0; i < 6; ++i)
+        t.trigger("actionZoom_In");
+    t.view.centerOn(240, 160);
+    QCoreApplication::processEvents();
+    const auto state = [&t] {
+        return QPoint(t.view.horizontalScrollBar()->value(), t.view.verticalScrollBar()->value());
+    };
+    const QPoint scrolled = state();
+    for (int round = 0; round < 6; ++round) {
+        t.trigger("actionPreview");
+        QCoreApplication::processEvents();
+        QCOMPARE(state(), scrolled);
+        t.trigger("actionZoom_In");
+        t.trigger("actionZoom_Out");
+        QCoreApplication::processEvents();
+        const QPointF off = t.view.mapToScene(t.view.viewport()->rect().center()) - QPointF(240, 160);
+        QVERIFY2(std::abs(off.x()) < 6 && std::abs(off.y()) < 6,
+                 qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
+        t.view.horizontalScrollBar()->setValue(scrolled.x());
+        t.view.verticalScrollBar()->setValue(scrolled.y());
+    }
 }
 
 void PreviewTest::backgroundZoomFramesTheBackground()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/reference/TestPictures.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
@@ -14,9 +15,6 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using driver::action;
 using driver::status;
@@ -363,15 +361,11 @@ void TestSaving::fullDisk()
 {
     openPhoto();
     const QByteArray before = contents(photo);
-    rlimit unlimited{};
-    getrlimit(RLIMIT_FSIZE, &unlimited);
-    auto *handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{600, unlimited.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    window->save(photo);
-    window->save(folder->filePath("new.jpg"));
-    setrlimit(RLIMIT_FSIZE, &unlimited);
-    std::signal(SIGXFSZ, handler);
+    {
+        const FullDisk full(600);
+        window->save(photo);
+        window->save(folder->filePath("new.jpg"));
+    }
     QCOMPARE(contents(photo), before);
     QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList{"photo.png"});
 }

@@ -580,6 +580,15 @@ void MarkersTest::penNeedsTheLeftButton()
     canvas.mouse.move(QPoint(30, 30));
     canvas.mouse.release(QPoint(30, 30), Qt::RightButton);
     QCOMPARE(canvas.scene.items().size(), 0);
+    canvas.mouse.stroke({QPoint(40, 40), QPoint(50, 45)});
+    const auto *line = qgraphicsitem_cast<QGraphicsPathItem *>(canvas.scene.items().value(0));
+    QVERIFY(line != nullptr);
+    const QPainterPath drawn = line->path();
+    canvas.mouse.press(QPoint(60, 60), Qt::RightButton); // does not take up the line that is done
+    canvas.mouse.move(QPoint(70, 70));
+    canvas.mouse.release(QPoint(70, 70), Qt::RightButton);
+    QCOMPARE(line->path(), drawn);
+    QCOMPARE(canvas.scene.items().size(), 1);
 }
 
 void MarkersTest::penTellsWhatItDoes()

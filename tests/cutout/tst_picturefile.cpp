@@ -207,6 +207,7 @@ private slots:
     void refusesWhatIsNoPicture();
     void survivesTruncation_data();
     void survivesTruncation();
+    void opensWhatIsLeftOfAPhoto();
     void writesInPlaceOfAnOlderFile();
     void writesJpegAtFullQuality();
     void cannotWrite_data();
@@ -433,6 +434,24 @@ void TestPictureFile::survivesTruncation()
         QVERIFY(picture.isNull() || picture.size() == QSize(40, 30));
         QVERIFY(bytes >= 20 || picture.isNull());
     }
+}
+
+void TestPictureFile::opensWhatIsLeftOfAPhoto()
+{
+    const QImage whole = testpictures::blobImage(200, 160, 9);
+    QByteArray file = encoded(whole, "jpg");
+    QVERIFY(put(path("cut.jpg"), file.left(file.size() / 2)));
+    const QImage decoded = QImage::fromData(file, "jpg");
+    const QImage half = cutout::readPicture(path("cut.jpg"));
+    QCOMPARE(half.size(), whole.size());
+    QCOMPARE(half.copy(0, 0, 200, 40), decoded.copy(0, 0, 200, 40)); // what came before the end is there
+    QVERIFY(half.copy(0, 144, 200, 16) != decoded.copy(0, 144, 200, 16));
+    file = encoded(whole, "bmp");
+    QVERIFY(put(path("cut.bmp"), file.left(file.size() / 2)));
+    const QImage rows = cutout::readPicture(path("cut.bmp")).convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(rows.size(), whole.size());
+    QCOMPARE(rows.copy(0, 90, 200, 70), whole.convertToFormat(QImage::Format_RGB32).copy(0, 90, 200, 70));
+    QCOMPARE(rows.pixel(100, 10), 0xFF000000U); // and not whatever was in memory
 }
 
 void TestPictureFile::writesInPlaceOfAnOlderFile()

@@ -95,6 +95,11 @@ class Source:
         """The next token that is in the same brackets."""
         return max(i, self.partner.get(i, i)) + 1
 
+    def past_blanks(self, position):
+        while self.text[position].isspace():
+            position += 1
+        return position
+
     def spaced(self, i):
         at, word = self.tokens[i]
         return self.code[at - 1].isspace() and self.code[at + len(word)].isspace()
@@ -174,7 +179,7 @@ class Source:
         if self.word(i) != "if" or self.word(i + 1) != "(" or i + 1 not in self.partner:
             return
         start, end = self.tokens[i + 1][0] + 1, self.tokens[self.partner[i + 1]][0]
-        start = max(start, self.code.rfind(";", start, end) + 1)  # past an initialiser
+        start = self.past_blanks(max(start, self.code.rfind(";", start, end) + 1))  # and past an initialiser
         condition = self.text[start:end].strip()
         yield self.mutation("skipped branch", start, end, "false && (" + condition + ")")
         yield self.mutation("skipped branch", start, end, "true || (" + condition + ")")
@@ -214,7 +219,7 @@ class Source:
                 bounds.append(k)
             k = self.after(k)
         bounds.append(self.partner[i])
-        spans = [(self.tokens[a][0] + 1, self.tokens[b][0]) for a, b in zip(bounds, bounds[1:])]
+        spans = [(self.past_blanks(self.tokens[a][0] + 1), self.tokens[b][0]) for a, b in zip(bounds, bounds[1:])]
         texts = [self.text[a:b].strip() for a, b in spans]
         if any(re.search(r"\w[\s&*>]+\w+(\s*=.*)?$", self.code[a:b].strip()) and not re.search(r"[-+(]", t)
                for (a, b), t in zip(spans, texts)):

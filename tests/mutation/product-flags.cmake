@@ -3,7 +3,8 @@
 # Read by scripts/mutate's builds after project(). The product's sources are compiled once a mutant: quickly, then; for
 # the coverage they are counted as well. The tests keep the flags of a release build, and so their objects in ccache.
 function(ornevo_flags_of_product)
-    set(products ornevo ornevo_app ornevo_canvas ornevo_cutout ornevo_imaging ornevo_segmentation ornevo_core)
+    set(products ornevo ornevo_app ornevo_canvas ornevo_cutout ornevo_imaging ornevo_segmentation
+        ornevo_core ornevo_core_objects)
     foreach(target IN LISTS products)
         if(TARGET ${target})
             target_compile_options(${target} PRIVATE -O1)

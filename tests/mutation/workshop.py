@@ -80,7 +80,7 @@ class Workshop:
         for test in listed:
             properties = {entry["name"]: entry["value"] for entry in test.get("properties", [])}
             environment = dict(entry.split("=", 1) for entry in properties.get("ENVIRONMENT", []))
-            if test["name"] not in NO_TESTS_OF_THE_PRODUCT:
+            if test["name"] not in NO_TESTS_OF_THE_PRODUCT and "command" in test:  # none where it isn't built
                 programs.append(Program(test["name"], test["command"], environment, "screen" in properties.get("LABELS", [])))
         return programs
 

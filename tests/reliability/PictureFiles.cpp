@@ -42,13 +42,13 @@ QByteArray bigEndian(quint32 value)
     return bytes;
 }
 
+} // namespace
+
 QByteArray chunk(const char *type, const QByteArray &body)
 {
     const QByteArray named = QByteArray(type) + body;
     return bigEndian(static_cast<quint32>(body.size())) + named + bigEndian(crc32(named));
 }
-
-} // namespace
 
 QByteArray tinyGif()
 {

@@ -21,6 +21,9 @@ namespace picturefiles {
 /// Replaces a file by `contents`.
 void put(const QString &path, const QByteArray &contents);
 
+/// A chunk of a PNG, with its checksum.
+[[nodiscard]] QByteArray chunk(const char *type, const QByteArray &body);
+
 /// A PNG that says it is `width` x `height` of the given colour type and depth and then holds `rows` raw
 /// bytes, packed. Checksums are right; that the rows are too few, or odd, is up to the caller.
 [[nodiscard]] QByteArray png(quint32 width, quint32 height, int bitDepth, int colourType,

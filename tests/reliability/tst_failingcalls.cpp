@@ -132,6 +132,9 @@ private slots:
             write();
             failed = failedCalls() > 0;
             failCall(nullptr, 0, 0);
+            // These two are not always needed.
+            QVERIFY2(failed || after > 0 || call == "mmap" || call == "ftruncate",
+                     "nothing was made to fail");
             const QByteArray now = contentsOf(target);
             QVERIFY2(now == whole || now == older, qPrintable(QString::number(now.size())));
             QVERIFY(failed || now == whole);

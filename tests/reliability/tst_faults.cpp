@@ -3,6 +3,7 @@
 
 #include "tests/reference/TestPictures.h"
 #include "tests/reliability/PictureFiles.h"
+#include "tests/reliability/ShortMemory.h"
 #include "tests/reliability/WindowUser.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TestMain.h"
@@ -13,56 +14,10 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <cstdlib>
-#include <vector>
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
-
-/// While it lives, the process gets some more memory and no more.
-class ShortMemory
-{
-public:
-    explicit ShortMemory(rlim_t moreBytes)
-    {
-        getrlimit(RLIMIT_AS, &m_before);
-        limitTo(inUse());
-        // The allocator has address space in reserve, which does not count: it is taken first.
-        for (std::size_t size = std::size_t{64} << 20; size >= std::size_t{1} << 20; size /= 2)
-            while (void *block = std::malloc(size))
-                m_reserve.push_back(block);
-        limitTo(inUse() + moreBytes);
-    }
-    ~ShortMemory()
-    {
-        setrlimit(RLIMIT_AS, &m_before);
-        for (void *block : m_reserve)
-            std::free(block);
-    }
-    ShortMemory(const ShortMemory &) = delete;
-    ShortMemory &operator=(const ShortMemory &) = delete;
-
-private:
-    static rlim_t inUse()
-    {
-        QFile file("/proc/self/statm");
-        if (!file.open(QIODevice::ReadOnly))
-            return 0;
-        return file.readAll().split(' ').constFirst().toULongLong() * 4096;
-    }
-
-    void limitTo(rlim_t bytes) const
-    {
-        rlimit shortOf = m_before;
-        shortOf.rlim_cur = bytes;
-        setrlimit(RLIMIT_AS, &shortOf);
-    }
-
-    rlimit m_before{};
-    std::vector<void *> m_reserve;
-};
 
 QByteArray contentsOf(const QString &path)
 {

@@ -13,6 +13,7 @@
 #include <limits>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -102,6 +103,8 @@ private slots:
             Outcome::Opens);
         add("no EXIF although announced", "exif.jpg", jpegWithExif(photo, {}), Outcome::Opens);
         add("a device", "device", {}, Outcome::Fails);
+        add("a device without end", "endless device", {}, Outcome::Fails);
+        add("a pipe", "pipe", {}, Outcome::Fails);
         add("a folder", "folder", {}, Outcome::Fails);
     }
 
@@ -115,6 +118,10 @@ private slots:
             QDir().mkpath(path);
         else if (name == "device")
             path = "/dev/null";
+        else if (name == "endless device")
+            path = "/dev/zero";
+        else if (name == "pipe")
+            QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
         else
             picturefiles::put(path, contents);
         const bool opened = openedWithinBounds(path);

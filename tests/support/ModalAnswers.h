@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "tests/support/ModalDialog.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -14,7 +16,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QWindow>
 
 #include <functional>
 #include <list>
@@ -80,18 +81,6 @@ private:
     {
         return dialog.acceptMode() == QFileDialog::AcceptSave ? QDialogButtonBox::Save
                                                               : QDialogButtonBox::Open;
-    }
-
-    /// Whether a dialog has come up and has the focus, which shortly after it was opened it hasn't yet: keys
-    /// that come before are lost. A bare X server has no one who would give it the focus.
-    static bool takesKeys(QWidget &modal)
-    {
-        const QWindow *window = modal.windowHandle();
-        if (window == nullptr || !window->isExposed())
-            return false;
-        if (!modal.isActiveWindow())
-            QApplication::setActiveWindow(&modal);
-        return modal.isActiveWindow();
     }
 
     void scheduleLook()

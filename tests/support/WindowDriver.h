@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/support/Activation.h"
+#include "tests/support/ModalDialog.h"
 
 #include <QAction>
 #include <QApplication>
@@ -58,7 +59,7 @@ private:
             dialog->close(); // do not wait for ever
             return;
         }
-        if (m_seen.contains(dialog))
+        if (m_seen.contains(dialog) || !testsupport::takesKeys(*dialog))
             return;
         m_seen.append(dialog);
         const Answer answer = m_answers.at(m_given++);
