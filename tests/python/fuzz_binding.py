@@ -101,10 +101,7 @@ def array_for(choose, size, parameter):
     if dtype.kind == "O" or large and dtype.kind == "V":
         return np.zeros((2, 2), dtype)
     if large:
-        try:
-            return np.lib.stride_tricks.as_strided(np.zeros(1, dtype), shape, (0,) * len(shape))
-        except ValueError:  # more than numpy makes, even of one element
-            return np.zeros((1, 1), dtype)
+        return np.lib.stride_tricks.as_strided(np.zeros(1, dtype), shape, (0,) * len(shape))
     array = memory_for(choose, shape, dtype) if 0 not in shape else np.zeros(shape, dtype)
     if parameter == "markers" and dtype.kind in "iu" and not choose.one_in(10):
         array[...] = np.where(choose.random.random(shape) < 0.05, choose.random.integers(0, choose.of([2, 5, 100]), shape), 0)
@@ -147,7 +144,10 @@ def value_for(choose, size, parameter):
         return choose.of(ODD_NUMBERS) if choose.one_in(4) else choose.below(NUMBERS[parameter])
     if parameter == "edges" and choose.one_in(2):
         return None
-    return array_for(choose, size, parameter)
+    try:
+        return array_for(choose, size, parameter)
+    except ValueError:  # more than numpy makes, even of nothing or of one element
+        return np.zeros((1, 1), np.uint8)
 
 
 def check_result(name, arguments, result):

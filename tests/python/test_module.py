@@ -3,11 +3,14 @@
 """The module as people meet it: its names, its help, what it loads."""
 
 import inspect
+import multiprocessing
+import pickle
 import pydoc
 import re
 import subprocess
 import sys
 
+import numpy as np
 import ornevo
 import pictures
 import pytest
@@ -52,6 +55,20 @@ def test_docstrings_have_the_usual_sections(name):
     ]
     for parameter in inspect.signature(getattr(ornevo, name)).parameters:
         assert re.search(rf"^{parameter} : ", text, re.MULTILINE)
+
+
+@every_function
+def test_functions_can_be_pickled(name):
+    function = getattr(ornevo, name)
+    assert pickle.loads(pickle.dumps(function)) is function
+    assert repr(function) == f"<built-in function {name}>"
+
+
+def test_processes_share_the_work():
+    images = [pictures.picture((20, 30), 3, seed) for seed in range(6)]
+    with multiprocessing.get_context("spawn").Pool(2) as pool:
+        for image, edges in zip(images, pool.map(ornevo.edge_map, images)):
+            np.testing.assert_array_equal(edges, ornevo.edge_map(image))
 
 
 def test_it_can_be_loaded_again():
