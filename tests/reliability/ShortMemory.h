@@ -3,14 +3,13 @@
 
 #pragma once
 
-#include <QByteArray>
-#include <QFile>
-
 #include <algorithm>
 #include <cstdlib>
 #include <vector>
 
+#include <fcntl.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 /// While it lives, the process gets some more memory and no more.
 class ShortMemory
@@ -52,12 +51,14 @@ private:
                 m_reserve.push_back(block);
     }
 
+    /// Without the heap, which may have nothing left to give.
     static rlim_t inUse()
     {
-        QFile file("/proc/self/statm");
-        if (!file.open(QIODevice::ReadOnly))
-            return 0;
-        return file.readAll().split(' ').constFirst().toULongLong() * 4096;
+        const int file = ::open("/proc/self/statm", O_RDONLY | O_CLOEXEC);
+        char text[64] = {};
+        const ssize_t read = ::read(file, text, sizeof(text) - 1);
+        ::close(file);
+        return read > 0 ? std::strtoull(text, nullptr, 10) * 4096 : 0;
     }
 
     void limitTo(rlim_t bytes) const
