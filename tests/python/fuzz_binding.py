@@ -102,7 +102,10 @@ def array_for(choose, size, parameter):
         return np.zeros((2, 2), dtype)
     if large:
         return np.lib.stride_tricks.as_strided(np.zeros(1, dtype), shape, (0,) * len(shape))
-    array = memory_for(choose, shape, dtype) if 0 not in shape else np.zeros(shape, dtype)
+    if 0 in shape:  # numpy itself refuses what would be too large with ones for the zeros
+        array = np.zeros([min(n, 1000) for n in shape], dtype)
+    else:
+        array = memory_for(choose, shape, dtype)
     if parameter == "markers" and dtype.kind in "iu" and not choose.one_in(10):
         array[...] = np.where(choose.random.random(shape) < 0.05, choose.random.integers(0, choose.of([2, 5, 100]), shape), 0)
     if choose.one_in(8):
