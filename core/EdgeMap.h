@@ -14,7 +14,8 @@ namespace ornevo {
 ///
 /// Each colour is smoothed (blurPlane(), sigma 1.4, seven taps), the low byte of its Sobel magnitude taken
 /// (sobelMagnitude()), and the three averaged. What lies below the mean of the picture becomes 0; the rest is
-/// lifted by 255 minus the largest average, modulo 256. A picture of one colour is 255 throughout.
+/// lifted by 255 minus the largest average, modulo 256. Black is 255 throughout; of another single colour the
+/// blur can lose levels inside and not in its border band, which makes an edge there.
 ///
 /// `progress` is called once a row or less and ends at 100. Time is linear in the pixels; working storage is
 /// some thirty rows, whatever the height. Throws std::invalid_argument and std::bad_alloc.
