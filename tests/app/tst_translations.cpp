@@ -185,7 +185,7 @@ void TestTranslations::placesAndMarkup()
     QFETCH(QString, language);
     for (const Entry &entry : catalogue(language))
         // Places for numbers, tags, patterns of file names, ends of lines.
-        for (const QString &kind : {"%[0-9L]+", "</?[a-z]+[^>]*>", R"(\([^)]*\*\.[^)]*\))", "\n"})
+        for (const QString kind : {"%[0-9L]+", "</?[a-z]+[^>]*>", R"(\([^)]*\*\.[^)]*\))", "\n"})
             QCOMPARE(found(kind, entry.translation), found(kind, entry.source));
 }
 
