@@ -122,7 +122,7 @@ void eraserDab(benchmark::State &state)
     }
 }
 
-void brushAtTheUndoLimit(benchmark::State &state)
+void brushAtTheUndoLimit(benchmark::State &state, const char *brush)
 {
     Hand hand(measuring::megapixelsOf(state));
     hand.program.layMarks();
@@ -130,6 +130,7 @@ void brushAtTheUndoLimit(benchmark::State &state)
     QUndoStack &undo = hand.program.state().undoStack();
     while (undo.count() < undo.undoLimit())
         hand.program.brush();
+    hand.choose(brush);
     showIt();
     const QPoint middle = hand.canvas.viewport()->rect().center();
     const auto batch = [&] {
@@ -261,7 +262,8 @@ void afterDabs(benchmark::internal::Benchmark *row)
 
 BENCHMARK(markerDab)->Apply(afterDabs);
 BENCHMARK(eraserDab)->Apply(afterDabs);
-BENCHMARK(brushAtTheUndoLimit)->Apply(measuring::megapixelsInUse);
+BENCHMARK_CAPTURE(brushAtTheUndoLimit, keep, "actionForeground_Brush")->Apply(measuring::megapixelsInUse);
+BENCHMARK_CAPTURE(brushAtTheUndoLimit, remove, "actionBackground_Brush")->Apply(measuring::megapixelsInUse);
 BENCHMARK(handStep)->Apply(measuring::megapixelsInUse);
 BENCHMARK(zoomStep)->Apply(measuring::megapixelsInUse);
 BENCHMARK(backgroundColour)->Apply(measuring::megapixelsInUse);
