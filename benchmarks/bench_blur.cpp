@@ -82,7 +82,7 @@ cv::Mat viewOf(QImage &picture)
             static_cast<std::size_t>(picture.bytesPerLine())};
 }
 
-/// OpenCV has other weights for the same size, so that the two differ along the border of the object; but
+/// Ours is wider than its sigma, so that the two differ along the border of the object; but
 /// they are nearer to each other than to the sharp mask.
 QByteArray faultOfOpenCv()
 {
