@@ -235,9 +235,9 @@ def draw(measured, path):
 
 
 def put_in(page, mark, text):
-    begin, end = f"<!-- {mark}: begin -->\n", f"\n<!-- {mark}: end -->"
+    begin, end = f"<!-- {mark}: begin -->\n", f"<!-- {mark}: end -->"
     before, rest = page.read_text(encoding="utf-8").split(begin)
-    page.write_text(before + begin + text + end + rest.split(end)[1], encoding="utf-8")
+    page.write_text(before + begin + text + "\n" + end + rest.split(end)[1], encoding="utf-8")
 
 
 def main():
