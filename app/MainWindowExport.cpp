@@ -16,6 +16,7 @@
 #include <QMessageBox>
 
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -66,9 +67,8 @@ bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSi
     if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
         return false;
     try {
-        const cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset,
-                                          extentOf(*backgroundItem)};
-        cutout::writePicture(cutout::composeExport(layers, size).toImage(), fileName, format);
+        cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
+        cutout::writePicture(cutout::composeExport(std::move(layers), size).toImage(), fileName, format);
     } catch (const std::bad_alloc &) {
         form->statusBar->showMessage(tr("Not enough memory to export"));
         return false;

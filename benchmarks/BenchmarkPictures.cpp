@@ -123,6 +123,11 @@ const QImage &photoMosaic(int megapixels)
     return mosaic;
 }
 
+QImage smallPicture()
+{
+    return photoMosaic(1).copy(tileSide - 150, tileSide - 100, 301, 203); // where four photographs meet
+}
+
 std::vector<QList<int>> strokes(QSize size, int regions)
 {
     std::vector<QList<int>> lists(static_cast<std::size_t>(regions));

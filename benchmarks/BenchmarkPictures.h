@@ -19,6 +19,10 @@ namespace benchmarkpictures {
 /// The mosaics are kept, so that benchmarks on one size share the work, in whatever order they run.
 const QImage &photoMosaic(int megapixels);
 
+/// A piece of a mosaic that the plain references manage in no time: what an answer is checked on before the
+/// large pictures are measured.
+QImage smallPicture();
+
 /// Seed lists as a user's strokes would make them: `regions` wavy bands of dabs that cross the picture side
 /// by side, none touching another.
 std::vector<QList<int>> strokes(QSize size, int regions);

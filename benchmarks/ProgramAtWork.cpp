@@ -73,11 +73,23 @@ void ProgramAtWork::preview()
     m_window.findChild<QAction *>("actionBackground_Brush")->setChecked(true);
 }
 
-void ProgramAtWork::brush()
+QList<QRect> ProgramAtWork::brushSquares()
 {
     QList<QRect> squares;
     for (int i = 0; i < 10; ++i)
         squares.append(QRect(size().width() / 2 + 8 * i, size().height() / 2, dabSide, dabSide));
-    if (!QMetaObject::invokeMethod(&m_window, "on_RemoveBrushPressed", Q_ARG(QList<QRect>, squares)))
+    return squares;
+}
+
+void ProgramAtWork::brush()
+{
+    if (!QMetaObject::invokeMethod(&m_window, "on_RemoveBrushPressed", Q_ARG(QList<QRect>, brushSquares())))
         throw std::runtime_error("on_RemoveBrushPressed");
+}
+
+void ProgramAtWork::changeBackground(QRgb colour, const QImage &picture)
+{
+    m_state.backgroundColor() = colour;
+    m_state.backgroundImage() = picture;
+    m_window.applypreviewmask();
 }

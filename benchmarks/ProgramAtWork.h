@@ -35,6 +35,10 @@ public:
     void preview();
     /// One batch of ten dabs of 20 pixels in the middle of the picture.
     void brush();
+    /// Where the dabs of brush() lie.
+    [[nodiscard]] QList<QRect> brushSquares();
+    /// What follows the choice of a background: a colour, or a picture that is not null.
+    void changeBackground(QRgb colour, const QImage &picture);
     [[nodiscard]] QString file() const { return m_photo; }
     [[nodiscard]] QString fileFor(const QString &name) const { return m_folder.filePath(name); }
 

@@ -7,6 +7,7 @@
 
 #include "benchmarks/Measuring.h"
 #include "benchmarks/ProgramAtWork.h"
+#include "benchmarks/StepChecks.h"
 #include "canvas/MarkerDabs.h"
 #include "segmentation/FrWatershed.h"
 
@@ -33,6 +34,8 @@ void showPreview(ProgramAtWork &program)
 
 void decoding(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     measuring::repeat(state, [&] { benchmark::DoNotOptimize(QImage(program.file()).width()); });
     program.open();
@@ -42,6 +45,8 @@ BENCHMARK(decoding)->Apply(measuring::megapixels);
 
 void opening(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     program.open(); // a photo stays until the next one is there: the third takes the memory of the first
     measuring::repeat(state, [&] { program.open(); });
@@ -51,6 +56,8 @@ BENCHMARK(opening)->Apply(measuring::megapixels);
 
 void openingShown(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     program.open(); // a photo stays until the next one is there: the third takes the memory of the first
     measuring::repeat(state, [&] {
@@ -63,6 +70,8 @@ BENCHMARK(openingShown)->Apply(measuring::megapixels);
 
 void flooding(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
@@ -79,6 +88,8 @@ BENCHMARK(flooding)->Apply(measuring::megapixels);
 
 void maskStep(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
@@ -93,6 +104,8 @@ BENCHMARK(maskStep)->Apply(measuring::megapixels);
 
 void previewWithoutFlooding(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
@@ -105,8 +118,10 @@ void previewWithoutFlooding(benchmark::State &state)
 }
 BENCHMARK(previewWithoutFlooding)->Apply(measuring::megapixels);
 
-void cutout::brushBatch(benchmark::State &state)
+void brushBatch(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     showPreview(program);
     measuring::repeat(state, [&] { program.brush(); });
@@ -115,6 +130,8 @@ BENCHMARK(brushBatch)->Apply(measuring::megapixels);
 
 void brushBatchAndUndoShown(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     showPreview(program);
     measuring::repeat(state, [&] {
@@ -128,6 +145,8 @@ BENCHMARK(brushBatchAndUndoShown)->Apply(measuring::megapixels);
 
 void brushUndo(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfSteps()))
+        return;
     ProgramAtWork program(measuring::megapixelsOf(state));
     showPreview(program);
     for (auto _ : state) {

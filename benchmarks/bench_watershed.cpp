@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: MIT
 
 // The watersheds on mosaics of photographs, beside OpenCV's with the same seeds. Run it with
-// --benchmark_enable_random_interleaving=true --benchmark_repetitions=5 and compare medians: the machine's
-// mood then strikes all rows alike.
+// --benchmark_enable_random_interleaving=true --benchmark_repetitions=5 and compare medians: noise then
+// strikes all rows alike.
 
 #include "benchmarks/BenchmarkPictures.h"
 #include "benchmarks/Measuring.h"
 #include "imaging/EdgeMap.h"
 #include "segmentation/FrWatershed.h"
 #include "segmentation/FrWatershedMany.h"
+#include "tests/reference/ImageReferences.h"
+#include "tests/support/Differences.h"
 
 #include <benchmark/benchmark.h>
 
@@ -45,8 +47,47 @@ Scene &scene(int megapixels)
     return on;
 }
 
+/// What the answers are checked on: small enough for the plain watershed.
+Scene smallScene()
+{
+    const QImage picture = benchmarkpictures::smallPicture();
+    return {picture, reference::edgeMap(picture)};
+}
+
+std::vector<std::vector<int>> plainSeeds(QSize size, int regions)
+{
+    std::vector<std::vector<int>> seeds;
+    for (const QList<int> &stroke : benchmarkpictures::strokes(size, regions))
+        seeds.emplace_back(stroke.begin(), stroke.end());
+    return seeds;
+}
+
+QByteArray faultOfTwoRegions()
+{
+    Scene on = smallScene();
+    std::vector<QList<int>> seeds = benchmarkpictures::strokes(on.picture.size(), 2);
+    QList<int> result;
+    QList<int> expected;
+    FrWatershed(&on.picture, seeds[0], seeds[1], result, on.edges.data(), nullptr);
+    reference::watershed(on.picture, seeds[0], seeds[1], expected, on.edges);
+    return testsupport::firstDifference(result, expected, on.picture.width());
+}
+
+QByteArray faultOfManyRegions()
+{
+    Scene on = smallScene();
+    const std::vector<std::vector<int>> seeds = plainSeeds(on.picture.size(), manyRegions);
+    QList<QList<int>> result{{}};
+    QList<QList<int>> expected{{}};
+    FrWatershedMany(&on.picture, seeds, result, on.edges.data(), nullptr);
+    reference::watershedMany(on.picture, seeds, expected, on.edges);
+    return result == expected ? "" : "other regions";
+}
+
 void ornevoTwoRegions(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfTwoRegions()))
+        return;
     Scene &on = scene(measuring::megapixelsOf(state));
     std::vector<QList<int>> seeds = benchmarkpictures::strokes(on.picture.size(), 2);
     measuring::repeat(state, [&] {
@@ -59,10 +100,10 @@ void ornevoTwoRegions(benchmark::State &state)
 
 void ornevoManyRegions(benchmark::State &state)
 {
+    if (!measuring::isRight(state, faultOfManyRegions()))
+        return;
     Scene &on = scene(measuring::megapixelsOf(state));
-    std::vector<std::vector<int>> seeds;
-    for (const QList<int> &stroke : benchmarkpictures::strokes(on.picture.size(), manyRegions))
-        seeds.emplace_back(stroke.begin(), stroke.end());
+    const std::vector<std::vector<int>> seeds = plainSeeds(on.picture.size(), manyRegions);
     measuring::repeat(state, [&] {
         QList<QList<int>> result{{}};
         FrWatershedMany(&on.picture, seeds, result, on.edges.data(), nullptr);
@@ -104,8 +145,23 @@ cv::Mat edgeMapOf(const Scene &on)
     return edges;
 }
 
+/// OpenCV's flooding ranks the neighbours otherwise, so that its regions are others than ours; but it has to
+/// reach every pixel from the same seeds.
+QByteArray faultOfOpenCv(cv::Mat (*pictureOf)(const Scene &), int regions)
+{
+    const Scene on = smallScene();
+    const cv::Mat seeds = markersOf(on, regions);
+    cv::Mat labels = seeds.clone();
+    cv::watershed(pictureOf(on), labels);
+    if (cv::countNonZero(labels == 0) != 0)
+        return "pixels left over";
+    return cv::countNonZero((seeds > 0) & (labels != seeds) & (labels != -1)) == 0 ? "" : "seeds were lost";
+}
+
 void openCv(benchmark::State &state, cv::Mat (*pictureOf)(const Scene &), int regions)
 {
+    if (!measuring::isRight(state, faultOfOpenCv(pictureOf, regions)))
+        return;
     cv::setNumThreads(1);
     const Scene &on = scene(measuring::megapixelsOf(state));
     const cv::Mat picture = pictureOf(on);

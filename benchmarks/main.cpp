@@ -4,6 +4,7 @@
 // Runs the measurements in one process, so that ours stand beside those of OpenCV in one run.
 
 #include "benchmarks/BenchmarkApplication.h"
+#include "benchmarks/Measuring.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,5 +15,5 @@ int main(int argc, char *argv[])
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return measuring::anyFailed() ? 1 : 0;
 }

@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Puts what scripts/measure found into docs/performance.md and draws the plot beside it.
 
-    report.py FOLDER PAGE PLOT
+    report.py FOLDER PAGE [PLOT]
 
-FOLDER has times.json of ornevo_benchmarks, memory.txt of road_memory and first.txt of first_open. In PAGE everything
-between the two "measured" marks is replaced.
+FOLDER has times.json and inuse.json of ornevo_benchmarks, memory.txt of road_memory and first.txt of first_open. In PAGE
+everything between the two "measured" marks is replaced by what times.json and the texts hold, and everything between
+the two "in use" marks by what inuse.json and the texts hold; a part whose file is missing stays as it is. Fails when a
+row was measured that no table shows, and when a table wants a row that was not measured.
 """
 
 import json
@@ -15,31 +17,34 @@ import statistics
 import subprocess
 import sys
 
-import matplotlib
-
-matplotlib.use("svg")
-matplotlib.rcParams["svg.hashsalt"] = "ornevo"  # the same figures give the same file
-import matplotlib.pyplot as plt
-
-SIZES = (4, 12, 24, 64)
+SIZES = ()  # in megapixels, those of times.json
 
 
 class Measurements:
-    """Medians over the repetitions, by the name of the row and the size in megapixels."""
+    """Medians over the repetitions, or what was measured once, by the name of the row and its size in megapixels."""
 
     def __init__(self, path):
         with open(path, encoding="utf-8") as file:
             everything = json.load(file)
         self.context = everything["context"]
         self.rows = {}
+        self.shown = set()
         for row in everything["benchmarks"]:
-            if row.get("aggregate_name") == "median":
-                name, size = row["run_name"].removesuffix("/process_time").rsplit("/", 1)
-                self.rows[name, int(size)] = row
+            if row.get("aggregate_name", "median") == "median":
+                self.rows[self.key_of(row["run_name"])] = row
         self.repetitions = max(row["repetitions"] for row in everything["benchmarks"])
+        self.sizes = sorted({size for _, size in self.rows})
+
+    @staticmethod
+    def key_of(run_name):
+        """("markerDab/5000", 24) of "markerDab/24/5000/process_time"."""
+        parts = run_name.removesuffix("/process_time").split("/")
+        size = next(index for index, part in enumerate(parts) if part.isdigit())
+        return "/".join(parts[:size] + parts[size + 1:]), int(parts[size])
 
     def ms(self, name, size):
         """Time of the processor in all threads, in milliseconds."""
+        self.shown.add(name)
         return self.rows[name, size]["cpu_time"]
 
     def ns(self, name, size):
@@ -47,7 +52,11 @@ class Measurements:
         return self.ms(name, size) * 1e6 / self.rows[name, size]["pixels"]
 
     def ratio(self, name, other):
-        return [self.ms(name, size) / self.ms(other, size) for size in SIZES]
+        return [self.ms(name, size) / self.ms(other, size) for size in self.sizes]
+
+    def forgotten(self):
+        """Names of rows that were measured for nobody."""
+        return sorted({name for name, _ in self.rows} - self.shown)
 
 
 def memory_of(path):
@@ -134,11 +143,51 @@ def machine(measured):
     caches = ", ".join(f"L{c['level']} {c['size'] // 1024} KiB"
                        for c in measured.context["caches"] if c["type"] != "Instruction")
     with open("/sys/kernel/mm/transparent_hugepage/enabled", encoding="ascii") as file:
-        large_pages = re.search(r"\[(\w+)\]", file.read()).group(1)
+        huge_pages = re.search(r"\[(\w+)\]", file.read()).group(1)
     load = ", ".join(f"{value:.1f}" for value in measured.context["load_avg"])
     return (f"{measured.context['date'][:10]}, {model} with {measured.context['num_cpus']} cores at "
-            f"{measured.context['mhz_per_cpu']} MHz ({caches}), Linux with large pages on \"{large_pages}\"; "
+            f"{measured.context['mhz_per_cpu']} MHz ({caches}), Linux with huge pages on \"{huge_pages}\"; "
             f"load before the start {load}. Medians of {measured.repetitions} repetitions in random order.")
+
+
+def rows_in_use(measured, folder):
+    """(work, figures at the sizes, bar); a figure for the size None is the same for all."""
+    sizes = measured.sizes
+
+    def ms(name):
+        return [measured.ms(name, size) for size in sizes]
+
+    def beyond(work, alone):
+        return [measured.ms(work, size) / measured.ms(alone, size) - 1 for size in sizes]
+
+    start = statistics.median(first_times(folder / "start.txt"))
+    return [
+        ("marker dab with 10 dabs laid, ms", ms("markerDab/10"), 4),
+        ("marker dab with 5,000 dabs laid, ms", ms("markerDab/5000"), 4),
+        ("eraser dab with 10 dabs laid, ms", ms("eraserDab/10"), 4),
+        ("eraser dab with 5,000 dabs laid, ms", ms("eraserDab/5000"), 4),
+        ("Keep brush, batch at the undo limit, ms", ms("brushAtTheUndoLimit/keep"), 4),
+        ("Remove brush, batch at the undo limit, ms", ms("brushAtTheUndoLimit/remove"), 4),
+        ("step of the hand tool, ms", ms("handStep"), 10),
+        ("zoom step of the preview, ms", ms("zoomStep"), 40),
+        ("another background colour, ns a pixel", [measured.ns("backgroundColour", size) for size in sizes], 8),
+        ("another background picture, ns a pixel", [measured.ns("backgroundPicture", size) for size in sizes], 8),
+        ("export as PNG beyond encoding and writing / these", beyond("exportFile/png", "encode/png"), 0.5),
+        ("export as JPEG beyond encoding and writing / these", beyond("exportFile/jpg", "encode/jpg"), 0.5),
+        ("from the start to an open window, without a photo, ms", [start] * len(sizes), 200),
+    ]
+
+
+def first_times(path):
+    """What `first_open start` printed, in milliseconds."""
+    with open(path, encoding="utf-8") as file:
+        return [float(line.split()[-1]) for line in file]
+
+
+def text_in_use(measured, folder):
+    rows = [[work, *map(number, figures), number(bar)] for work, figures, bar in rows_in_use(measured, folder)]
+    return "\n".join([machine(measured), "",
+                      *table(["Until the screen is right", *(f"{size} MP" for size in measured.sizes), "bar"], rows)])
 
 
 def text_of(measured, folder):
@@ -146,7 +195,7 @@ def text_of(measured, folder):
     goals = [[work, *map(number, figures), number(bar), number(aim)]
              for work, figures, bar, aim in rows_of_goals(measured, folder)]
     steps = [[label, *(number(measured.ns(name, size)) for size in SIZES),
-              number(measured.ns(name, 64) / measured.ns(name, 4))] for name, label in STEPS]
+              number(measured.ns(name, SIZES[-1]) / measured.ns(name, SIZES[0]))] for name, label in STEPS]
     first = first_opening(folder / "first.txt")
     photos = sorted({photo for photo, _ in first if not photo.isdigit()})
     opened = [[f"`{photo}`", number(first[photo, "decode"]), number(first[photo, "open"]),
@@ -161,6 +210,12 @@ def text_of(measured, folder):
 
 
 def draw(measured, path):
+    import matplotlib
+
+    matplotlib.use("svg")
+    matplotlib.rcParams["svg.hashsalt"] = "ornevo"  # the same figures give the same file
+    import matplotlib.pyplot as plt
+
     figure, axes = plt.subplots(figsize=(8, 6))
     pairs = [("edgeMap/ours", "edgeMap/openCv"), ("twoRegions/ours", "twoRegions/openCvOnEdges"),
              ("maskBlur/ours", "maskBlur/openCv"), ("opening", "decoding"), ("maskStep", None),
@@ -179,17 +234,30 @@ def draw(measured, path):
     figure.savefig(path, bbox_inches="tight", metadata={"Date": None})
 
 
+def put_in(page, mark, text):
+    begin, end = f"<!-- {mark}: begin -->\n", f"<!-- {mark}: end -->"
+    before, rest = page.read_text(encoding="utf-8").split(begin)
+    page.write_text(before + begin + text + "\n" + end + rest.split(end)[1], encoding="utf-8")
+
+
 def main():
-    folder = pathlib.Path(sys.argv[1])
-    page, plot = sys.argv[2:]
-    measured = Measurements(folder / "times.json")
-    begin, end = "<!-- measured: begin -->\n", "\n<!-- measured: end -->"
-    with open(page, encoding="utf-8") as file:
-        before, rest = file.read().split(begin)
-    after = rest.split(end)[1]
-    with open(page, "w", encoding="utf-8") as file:
-        file.write(before + begin + text_of(measured, folder) + end + after)
-    draw(measured, plot)
+    global SIZES
+    folder, page = map(pathlib.Path, sys.argv[1:3])
+    done = []
+    if (folder / "times.json").exists():
+        measured = Measurements(folder / "times.json")
+        SIZES = measured.sizes
+        put_in(page, "measured", text_of(measured, folder))
+        if len(sys.argv) > 3:
+            draw(measured, sys.argv[3])
+        done.append(measured)
+    if (folder / "inuse.json").exists():
+        measured = Measurements(folder / "inuse.json")
+        put_in(page, "in use", text_in_use(measured, folder))
+        done.append(measured)
+    for measured in done:
+        if measured.forgotten():
+            sys.exit("no table shows " + ", ".join(measured.forgotten()))
 
 
 if __name__ == "__main__":

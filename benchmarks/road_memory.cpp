@@ -1,18 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-// How much memory the program takes over the whole road: open, mask, preview, brush, export.
+// How much memory the program takes from opening to export: open, mask, preview, brush, export.
 //
 //   road_memory make MEGAPIXELS FILE   writes a photo to measure with
-//   road_memory FILE                   walks the road with it and prints by how many bytes a pixel the peak
+//   road_memory FILE                   takes it from step to step and prints by how many bytes a pixel the
+//   peak
 //                                      lies above what the started program had
 //
 // A process of its own for either, since a peak does not go down.
 
 #include "benchmarks/BenchmarkApplication.h"
 #include "benchmarks/ProgramAtWork.h"
-#include "cutout/ExportComposition.h"
-#include "cutout/PictureFile.h"
 
 #include <sys/resource.h>
 
@@ -26,17 +25,6 @@ double peakBytes()
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     return double(usage.ru_maxrss) * 1024.0; // kilobytes, but for Mac OS, where this has not been tried
-}
-
-/// The export without its dialog: what on_actionExport_triggered() does after it.
-void exportPicture(ProgramAtWork &program, const QString &name)
-{
-    QImage canvas(program.state().backgroundItem()->pixmap().size(), QImage::Format_ARGB32);
-    canvas.fill(program.state().backgroundColor());
-    const QSize size = canvas.size();
-    const cutout::ExportLayers layers{QPixmap::fromImage(std::move(canvas)), program.state().previewImage(),
-                                      QPoint(), size};
-    cutout::writePicture(cutout::composeExport(layers, size).toImage(), program.fileFor(name), "png");
 }
 
 } // namespace
@@ -62,7 +50,7 @@ int main(int argc, char *argv[])
     QApplication::processEvents();
     program.brush();
     QApplication::processEvents();
-    exportPicture(program, "cut-out.png");
+    program.state().exportTo(program.fileFor("cut-out.png"), "png", program.size());
     const double pixels = double(program.size().width()) * program.size().height();
     std::printf("%.1f megapixels: peak %.1f bytes a pixel above the started program\n", pixels * 1e-6,
                 (peakBytes() - started) / pixels);

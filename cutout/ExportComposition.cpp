@@ -49,20 +49,22 @@ QPixmap colourCanvas(QSize size, QRgb colour)
 {
     if (size.isEmpty())
         return {};
-    QImage canvas(size, QImage::Format_ARGB32);
+    // An opaque canvas without room for alpha needs neither a look for transparent pixels nor a conversion.
+    QImage canvas(size, qAlpha(colour) == 255 ? QImage::Format_RGB32 : QImage::Format_ARGB32);
     if (canvas.isNull())
         throw std::bad_alloc();
     canvas.fill(colour);
     return asPixmap(std::move(canvas));
 }
 
-QPixmap composeExport(const ExportLayers &layers, QSize size)
+QPixmap composeExport(ExportLayers layers, QSize size)
 {
     if (size.isEmpty() || layers.canvas.isNull())
         return {};
     QPixmap result = layers.canvas.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (result.isNull())
         throw std::bad_alloc();
+    layers.canvas = QPixmap(); // painting on a shared pixmap would copy it
     if (layers.cutOut.isNull() || layers.background.isEmpty())
         return result;
     QPainter painter;

@@ -45,6 +45,11 @@ public:
     QImage &backgroundImage() { return m_window.backgroundImage; }
     QGraphicsPixmapItem *previewItem() { return m_window.previewItem; }
 
+    bool exportTo(const QString &fileName, const QByteArray &format, QSize size)
+    {
+        return m_window.exportTo(fileName, format, size);
+    }
+
 private:
     MainWindow &m_window;
 };
