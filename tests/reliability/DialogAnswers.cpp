@@ -24,7 +24,7 @@ constexpr int mostPixelsASide = 300;
 
 } // namespace
 
-DialogAnswers::DialogAnswers(testpictures::Random &dice) : m_dice(dice)
+DialogAnswers::DialogAnswers(testpictures::Random &random) : m_random(random)
 {
     QTimer::singleShot(lookEvery, this, &DialogAnswers::look);
 }
@@ -54,15 +54,15 @@ void DialogAnswers::look()
 
 void DialogAnswers::answer(QDialog &dialog)
 {
-    const bool accepts = m_dice.below(4) != 0;
+    const bool accepts = m_random.below(4) != 0;
     if (auto *box = qobject_cast<QMessageBox *>(&dialog)) {
         const auto buttons = box->buttons();
-        buttons.at(m_dice.below(static_cast<int>(buttons.size())))->click();
+        buttons.at(m_random.below(static_cast<int>(buttons.size())))->click();
         return;
     }
     if (auto *files = qobject_cast<QFileDialog *>(&dialog)) {
         const QStringList &names = files->acceptMode() == QFileDialog::AcceptSave ? m_toSave : m_toOpen;
-        const QString name = names.at(m_dice.below(static_cast<int>(names.size())));
+        const QString name = names.at(m_random.below(static_cast<int>(names.size())));
         if (!accepts) {
             files->reject();
             return;
@@ -72,7 +72,7 @@ void DialogAnswers::answer(QDialog &dialog)
         return;
     }
     if (auto *colours = qobject_cast<QColorDialog *>(&dialog))
-        colours->setCurrentColor(QColor::fromRgba(m_dice.next()));
+        colours->setCurrentColor(QColor::fromRgba(m_random.next()));
     else
         turnKnobs(dialog);
     const QPointer<QDialog> alive(&dialog);
@@ -91,25 +91,25 @@ void DialogAnswers::turnKnobs(QDialog &dialog)
     const bool sizes = dialog.findChild<QSpinBox *>("spinBox_2") != nullptr &&
                        dialog.findChild<QSpinBox *>("spinBox_3") == nullptr;
     for (QSpinBox *box : dialog.findChildren<QSpinBox *>()) {
-        const int kind = m_dice.below(3);
+        const int kind = m_random.below(3);
         const int top = sizes ? std::min(box->maximum(), mostPixelsASide) : box->maximum();
-        const int value = box->minimum() + m_dice.below(top - box->minimum() + 1);
+        const int value = box->minimum() + m_random.below(top - box->minimum() + 1);
         if (kind == 1 || (sizes && box->value() > mostPixelsASide))
             box->setValue(value);
         else if (kind == 2)
-            box->setValue(m_dice.below(30));
+            box->setValue(m_random.below(30));
     }
     for (QDoubleSpinBox *box : dialog.findChildren<QDoubleSpinBox *>())
-        box->setValue(box->minimum() + (box->maximum() - box->minimum()) * m_dice.below(101) / 100.0);
+        box->setValue(box->minimum() + (box->maximum() - box->minimum()) * m_random.below(101) / 100.0);
     for (QAbstractButton *button : dialog.findChildren<QAbstractButton *>()) {
-        const int throwOfThree = m_dice.below(3);
+        const int oneOfThree = m_random.below(3);
         if (!button->isCheckable() || !button->isEnabled())
             continue;
-        if (throwOfThree == 0)
+        if (oneOfThree == 0)
             button->click();
     }
     for (const char *name : {"pushButton", "pushButton_2"})
         if (auto *chooser = dialog.findChild<QPushButton *>(name); chooser != nullptr)
-            if (m_dice.below(4) != 0 && chooser->isEnabled())
+            if (m_random.below(4) != 0 && chooser->isEnabled())
                 chooser->click(); // opens the next dialog, and comes back when that one is answered
 }

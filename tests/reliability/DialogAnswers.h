@@ -12,15 +12,15 @@
 
 class QDialog;
 
-/// Sits beside a window and answers every modal dialog that opens: once as the dice fall, and if the dialog
-/// will not go, by closing it. The dice are thrown once a dialog, whatever the timing, so that a seed gives
+/// Sits beside a window and answers every modal dialog that opens: once at random, and if the dialog
+/// will not go, by closing it. The random numbers are drawn once a dialog, whatever the timing, so that a seed gives
 /// the same answers again.
 class DialogAnswers : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit DialogAnswers(testpictures::Random &dice);
+    explicit DialogAnswers(testpictures::Random &random);
 
     /// Names to choose from when a file is asked for.
     void setFiles(const QStringList &toOpen, const QStringList &toSave);
@@ -31,7 +31,7 @@ private:
     void answer(QDialog &dialog);
     void turnKnobs(QDialog &dialog);
 
-    testpictures::Random &m_dice;
+    testpictures::Random &m_random;
     QStringList m_toOpen;
     QStringList m_toSave;
     QList<QPointer<QDialog>> m_seen;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/reliability/PictureFiles.h"
-#include "tests/reliability/TirelessUser.h"
+#include "tests/reliability/RandomUser.h"
 #include "tests/reliability/WindowInvariants.h"
 #include "tests/support/TestMain.h"
 
@@ -48,7 +48,7 @@ QStringList temporaryFiles()
 
 /// A walk through the program without aim or end. ORNEVO_WALK_SEED and ORNEVO_WALK_STEPS choose it;
 /// scripts/walk does it for you.
-class TirelessUserTest : public QObject
+class RandomUserTest : public QObject
 {
     Q_OBJECT
 
@@ -85,7 +85,7 @@ private slots:
         auto window = std::make_unique<MainWindow>();
         MainWindowProbe probe(*window);
         {
-            TirelessUser user(*window, static_cast<unsigned>(seed), folder);
+            RandomUser user(*window, static_cast<unsigned>(seed), folder);
             WindowInvariants invariants(*window);
             window->show();
             QVERIFY(QTest::qWaitForWindowActive(window.get()));
@@ -133,5 +133,5 @@ private:
     int m_mails = 0;
 };
 
-ORNEVO_TEST_MAIN(TirelessUserTest)
-#include "tst_tirelessuser.moc"
+ORNEVO_TEST_MAIN(RandomUserTest)
+#include "tst_randomuser.moc"

@@ -11,16 +11,16 @@
 #include <QString>
 
 /// Somebody who does to a window whatever can be done, in no order. The same seed does the same again: time
-/// stands still for the window's timers, and whether one of them fires is one more throw of the dice.
-class TirelessUser
+/// stands still for the window's timers, and whether one of them fires is decided by the random number generator.
+class RandomUser
 {
 public:
     /// `folder` is the user's own, to fill with pictures.
-    TirelessUser(MainWindow &window, unsigned seed, const QString &folder);
+    RandomUser(MainWindow &window, unsigned seed, const QString &folder);
 
     /// Does one thing and returns what it was.
     QString step();
-    /// Opens a picture without asking the dice, as far as that can be told from outside.
+    /// Opens a picture without leaving it to chance, as far as that can be told from outside.
     void openForSure(const QString &path);
     [[nodiscard]] int dialogsAnswered() const { return m_answers.answered(); }
 
@@ -43,7 +43,7 @@ private:
     MainWindow &m_window;
     MainWindowProbe m_probe;
     QGraphicsView *m_canvas;
-    testpictures::Random m_dice;
+    testpictures::Random m_random;
     QString m_folder;
     DialogAnswers m_answers;
     bool m_brushDue = false;

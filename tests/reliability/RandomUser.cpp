@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/reliability/TirelessUser.h"
+#include "tests/reliability/RandomUser.h"
 
 #include "canvas/SettingsKeys.h"
 #include "tests/reliability/PictureFiles.h"
@@ -24,22 +24,22 @@ constexpr std::array settingValues = {"0",   "1",    "10",          "255",  "256
 
 } // namespace
 
-TirelessUser::TirelessUser(MainWindow &window, unsigned seed, const QString &folder)
+RandomUser::RandomUser(MainWindow &window, unsigned seed, const QString &folder)
     : m_window(window),
       m_probe(window),
       m_canvas(window.findChild<QGraphicsView *>("graphicsView")),
-      m_dice(seed),
+      m_random(seed),
       m_folder(folder),
-      m_answers(m_dice)
+      m_answers(m_random)
 {
     meddleWithFiles();
 }
 
-QString TirelessUser::step()
+QString RandomUser::step()
 {
     const QString what = act();
     stopTime();
-    if (m_dice.below(3) == 0) {
+    if (m_random.below(3) == 0) {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         stopTime();
@@ -47,43 +47,43 @@ QString TirelessUser::step()
     return what;
 }
 
-QString TirelessUser::act()
+QString RandomUser::act()
 {
-    const int throwOfHundred = m_dice.below(100);
-    if (throwOfHundred < 52)
+    const int oneOfHundred = m_random.below(100);
+    if (oneOfHundred < 52)
         return useMouse();
-    if (throwOfHundred < 75)
+    if (oneOfHundred < 75)
         return triggerAction();
-    if (throwOfHundred < 82)
+    if (oneOfHundred < 82)
         return pressKey();
-    if (throwOfHundred < 88)
+    if (oneOfHundred < 88)
         return undoOrRedo();
-    if (throwOfHundred < 94)
+    if (oneOfHundred < 94)
         return letTimersFire();
-    if (throwOfHundred < 97)
+    if (oneOfHundred < 97)
         return reshapeWindow();
-    if (throwOfHundred < 98)
+    if (oneOfHundred < 98)
         return zoomFar();
-    return m_dice.below(2) == 0 ? meddleWithSettings() : meddleWithFiles();
+    return m_random.below(2) == 0 ? meddleWithSettings() : meddleWithFiles();
 }
 
-void TirelessUser::openForSure(const QString &path)
+void RandomUser::openForSure(const QString &path)
 {
     m_answers.setFiles({path}, {path});
     for (int attempt = 0; attempt < 50 && m_probe.currentFile() != path; ++attempt)
         m_window.findChild<QAction *>("actionOpen")->trigger();
 }
 
-QPoint TirelessUser::somewhere()
+QPoint RandomUser::somewhere()
 {
     const QSize size = m_canvas->viewport()->size();
     // Often in the view, now and then beyond its edges.
-    if (m_dice.below(8) == 0)
-        return {m_dice.below(size.width() + 400) - 200, m_dice.below(size.height() + 400) - 200};
-    return {m_dice.below(std::max(size.width(), 1)), m_dice.below(std::max(size.height(), 1))};
+    if (m_random.below(8) == 0)
+        return {m_random.below(size.width() + 400) - 200, m_random.below(size.height() + 400) - 200};
+    return {m_random.below(std::max(size.width(), 1)), m_random.below(std::max(size.height(), 1))};
 }
 
-void TirelessUser::sendMouse(QEvent::Type type, QPoint position, Qt::MouseButton button,
+void RandomUser::sendMouse(QEvent::Type type, QPoint position, Qt::MouseButton button,
                              Qt::MouseButtons buttons)
 {
     QWidget *viewport = m_canvas->viewport();
@@ -92,11 +92,11 @@ void TirelessUser::sendMouse(QEvent::Type type, QPoint position, Qt::MouseButton
     QCoreApplication::sendEvent(viewport, &event);
 }
 
-QString TirelessUser::useMouse()
+QString RandomUser::useMouse()
 {
     const auto button = std::array{Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
-                                   Qt::MiddleButton}[static_cast<std::size_t>(m_dice.below(5))];
-    switch (m_dice.below(6)) {
+                                   Qt::MiddleButton}[static_cast<std::size_t>(m_random.below(5))];
+    switch (m_random.below(6)) {
     case 0: // a press that is never released, or later
         sendMouse(QEvent::MouseButtonPress, somewhere(), button, button);
         return "press";
@@ -107,7 +107,7 @@ QString TirelessUser::useMouse()
         sendMouse(QEvent::MouseMove, somewhere(), Qt::NoButton, Qt::NoButton);
         return "move";
     case 3: {
-        if (m_dice.below(4) == 0)
+        if (m_random.below(4) == 0)
             sendMouse(QEvent::MouseButtonDblClick, somewhere(), button, button);
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(m_canvas->viewport(), &leave);
@@ -118,28 +118,28 @@ QString TirelessUser::useMouse()
         break;
     }
     QPoint position = somewhere();
-    const int moves = 1 + m_dice.below(14);
-    const QPoint stride(m_dice.below(41) - 20, m_dice.below(41) - 20);
+    const int moves = 1 + m_random.below(14);
+    const QPoint stride(m_random.below(41) - 20, m_random.below(41) - 20);
     sendMouse(QEvent::MouseButtonPress, position, button, button);
     for (int move = 0; move < moves; ++move) {
         position += stride;
         sendMouse(QEvent::MouseMove, position, Qt::NoButton, button);
     }
-    if (m_dice.below(4) != 0)
+    if (m_random.below(4) != 0)
         sendMouse(QEvent::MouseButtonRelease, position, button, Qt::NoButton);
     return "drag";
 }
 
-QString TirelessUser::triggerAction()
+QString RandomUser::triggerAction()
 {
     // The help windows stay with the window until it goes: a few will do.
     static const QStringList rare = {"actionIndex", "actionOpen", "actionExport", "actionSave_As"};
     const QList<QAction *> actions = m_window.findChildren<QAction *>();
-    QAction *action = actions.at(m_dice.below(static_cast<int>(actions.size())));
-    const bool wanted = m_dice.below(4) == 0;
+    QAction *action = actions.at(m_random.below(static_cast<int>(actions.size())));
+    const bool wanted = m_random.below(4) == 0;
     if (!wanted && rare.contains(action->objectName()))
         return "nothing";
-    if (action->objectName() == "actionIndex" && m_dice.below(10) != 0)
+    if (action->objectName() == "actionIndex" && m_random.below(10) != 0)
         return "nothing";
     const QString name = action->objectName().isEmpty() ? action->text() : action->objectName();
     if (action->isEnabled()) // hidden or not: an enabled action can be reached
@@ -147,7 +147,7 @@ QString TirelessUser::triggerAction()
     return name;
 }
 
-QString TirelessUser::pressKey()
+QString RandomUser::pressKey()
 {
     struct Press
     {
@@ -162,21 +162,21 @@ QString TirelessUser::pressKey()
         Press{Qt::Key_Tab, Qt::NoModifier},        Press{Qt::Key_PageDown, Qt::NoModifier},
         Press{Qt::Key_A, Qt::NoModifier},          Press{Qt::Key_O, Qt::ControlModifier},
         Press{Qt::Key_S, Qt::ControlModifier}};
-    const auto chosen = static_cast<std::size_t>(m_dice.below(static_cast<int>(presses.size())));
-    const int times = m_dice.below(12) == 0 && chosen < 6 ? 300 : 1; // leant on the key: sizes wrap around
+    const auto chosen = static_cast<std::size_t>(m_random.below(static_cast<int>(presses.size())));
+    const int times = m_random.below(12) == 0 && chosen < 6 ? 300 : 1; // leant on the key: sizes wrap around
     if (m_window.isVisible())
         for (int i = 0; i < times; ++i)
             QTest::keyClick(&m_window, presses[chosen].key, presses[chosen].modifiers);
     return "key " + QKeySequence(presses[chosen].modifiers | presses[chosen].key).toString();
 }
 
-QString TirelessUser::undoOrRedo()
+QString RandomUser::undoOrRedo()
 {
     QUndoStack &stack = m_probe.undoStack();
-    const int times = 1 + m_dice.below(8);
-    const int kind = m_dice.below(3);
+    const int times = 1 + m_random.below(8);
+    const int kind = m_random.below(3);
     if (kind == 2) {
-        stack.setIndex(m_dice.below(stack.count() + 1));
+        stack.setIndex(m_random.below(stack.count() + 1));
         return "travel through the history";
     }
     for (int i = 0; i < times; ++i)
@@ -184,18 +184,18 @@ QString TirelessUser::undoOrRedo()
     return kind == 0 ? "undo" : "redo";
 }
 
-QString TirelessUser::zoomFar()
+QString RandomUser::zoomFar()
 {
-    const int times = 5 + m_dice.below(m_dice.below(3) == 0 ? 400 : 30);
-    QAction *zoom = m_window.findChild<QAction *>(m_dice.below(2) == 0 ? "actionZoom_In" : "actionZoom_Out");
+    const int times = 5 + m_random.below(m_random.below(3) == 0 ? 400 : 30);
+    QAction *zoom = m_window.findChild<QAction *>(m_random.below(2) == 0 ? "actionZoom_In" : "actionZoom_Out");
     for (int i = 0; i < times; ++i)
         zoom->trigger();
     return QStringLiteral("%1 %2 times").arg(zoom->objectName()).arg(times);
 }
 
-QString TirelessUser::reshapeWindow()
+QString RandomUser::reshapeWindow()
 {
-    switch (m_dice.below(5)) {
+    switch (m_random.below(5)) {
     case 0:
         m_window.setVisible(!m_window.isVisible());
         return "hide or show";
@@ -206,12 +206,12 @@ QString TirelessUser::reshapeWindow()
         m_window.setWindowState(m_window.windowState() ^ Qt::WindowMaximized);
         return "maximise or restore";
     default:
-        m_window.resize(30 + m_dice.below(900), 30 + m_dice.below(700));
+        m_window.resize(30 + m_random.below(900), 30 + m_random.below(700));
         return "resize";
     }
 }
 
-void TirelessUser::stopTime()
+void RandomUser::stopTime()
 {
     const auto stop = [](QTimer &timer, bool &due) {
         if (!timer.isActive() || timer.interval() == 0) // what waits for the next turn only may have it
@@ -223,13 +223,13 @@ void TirelessUser::stopTime()
     stop(m_probe.skipLastRectTimer(), m_forgettingDue);
 }
 
-QString TirelessUser::letTimersFire()
+QString RandomUser::letTimersFire()
 {
     if (m_brushDue) {
         m_brushDue = false;
         QMetaObject::invokeMethod(&m_window, "on_ProcessBrushMouseEvent");
     }
-    if (m_forgettingDue && m_dice.below(2) == 0) {
+    if (m_forgettingDue && m_random.below(2) == 0) {
         m_forgettingDue = false;
         QMetaObject::invokeMethod(&m_window, "on_TimeToSkipLastRect");
     }
@@ -237,17 +237,17 @@ QString TirelessUser::letTimersFire()
     return "wait";
 }
 
-QString TirelessUser::meddleWithSettings()
+QString RandomUser::meddleWithSettings()
 {
-    const QString name = settings::all[static_cast<std::size_t>(m_dice.below(settings::all.size()))]->name;
-    const QString value = settingValues[static_cast<std::size_t>(m_dice.below(settingValues.size()))];
+    const QString name = settings::all[static_cast<std::size_t>(m_random.below(settings::all.size()))]->name;
+    const QString value = settingValues[static_cast<std::size_t>(m_random.below(settingValues.size()))];
     m_probe.settings().setValue(name, value);
     m_window.updatetoolssettings();
     m_window.findChild<QAction *>("actionPreferences")->trigger();
     return name + " = " + value;
 }
 
-QString TirelessUser::meddleWithFiles()
+QString RandomUser::meddleWithFiles()
 {
     const QDir folder(m_folder);
     QDir(folder).removeRecursively();
@@ -258,7 +258,7 @@ QString TirelessUser::meddleWithFiles()
         folder.filePath("out-4.gif"),       folder.filePath("out-5"),     folder.filePath("folder.png"),
         folder.filePath("nowhere/out.jpg"), folder.filePath("photo.jpg"), folder.filePath("drawing.png")};
     m_answers.setFiles(files, targets);
-    if (m_dice.below(3) == 0) // gone between choosing and reading
+    if (m_random.below(3) == 0) // gone between choosing and reading
         QFile::remove(m_probe.currentFile());
     return "meddle with the files";
 }
