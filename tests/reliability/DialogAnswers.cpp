@@ -9,18 +9,28 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTest>
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr int lookEvery = 1; // ms
 constexpr int mostPixelsASide = 300;
+
+/// The one dialog that asks for a width and a height.
+bool asksForSize(const QDialog &dialog)
+{
+    return dialog.findChild<QSpinBox *>("spinBox_2") != nullptr &&
+           dialog.findChild<QSpinBox *>("spinBox_3") == nullptr;
+}
 
 } // namespace
 
@@ -76,6 +86,9 @@ void DialogAnswers::answer(QDialog &dialog)
     else
         turnKnobs(dialog);
     const QPointer<QDialog> alive(&dialog);
+    if (m_random.below(4) == 0)
+        pressKeys(dialog);
+    noteExport(dialog);
     if (auto *box = dialog.findChild<QDialogButtonBox *>(); alive != nullptr && box != nullptr)
         if (auto *ok = box->button(QDialogButtonBox::Ok); accepts && ok != nullptr && ok->isEnabled()) {
             ok->click();
@@ -85,11 +98,34 @@ void DialogAnswers::answer(QDialog &dialog)
         accepts ? dialog.accept() : dialog.reject();
 }
 
+void DialogAnswers::pressKeys(QDialog &dialog)
+{
+    constexpr std::array keys = {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up,   Qt::Key_Down,
+                                 Qt::Key_7,   Qt::Key_Delete,  Qt::Key_Home, Qt::Key_PageUp};
+    for (int presses = 1 + m_random.below(6); presses > 0; --presses) {
+        QWidget *focus = dialog.focusWidget();
+        const Qt::Key key = keys[static_cast<std::size_t>(m_random.below(static_cast<int>(keys.size())))];
+        QTest::keyClick(focus != nullptr ? focus : &dialog, key);
+    }
+}
+
+void DialogAnswers::noteExport(QDialog &dialog)
+{
+    if (!asksForSize(dialog))
+        return;
+    // Typing can have left a size that takes minutes.
+    for (const char *name : {"spinBox", "spinBox_2"})
+        if (auto *box = dialog.findChild<QSpinBox *>(name); box->value() > mostPixelsASide)
+            box->setValue(mostPixelsASide);
+    ++m_exports;
+    m_lastExport = {dialog.findChild<QLabel *>("label_2")->text(),
+                    {dialog.findChild<QSpinBox *>("spinBox")->value(),
+                     dialog.findChild<QSpinBox *>("spinBox_2")->value()}};
+}
+
 void DialogAnswers::turnKnobs(QDialog &dialog)
 {
-    // Pictures of this size keep an export short.
-    const bool sizes = dialog.findChild<QSpinBox *>("spinBox_2") != nullptr &&
-                       dialog.findChild<QSpinBox *>("spinBox_3") == nullptr;
+    const bool sizes = asksForSize(dialog); // small pictures keep an export short
     for (QSpinBox *box : dialog.findChildren<QSpinBox *>()) {
         const int kind = m_random.below(3);
         const int top = sizes ? std::min(box->maximum(), mostPixelsASide) : box->maximum();
