@@ -13,7 +13,7 @@
 
 namespace {
 
-QTemporaryDir &world()
+QTemporaryDir &sandbox()
 {
     static QTemporaryDir folder;
     return folder;
@@ -30,7 +30,7 @@ QApplication &WindowHarness::application()
                 fprintf(stderr, "%s\n", qPrintable(text));
         });
         for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-            QSettings::setPath(format, QSettings::UserScope, world().path());
+            QSettings::setPath(format, QSettings::UserScope, sandbox().path());
         QCoreApplication::setApplicationName("Ornevo");
         QCoreApplication::setOrganizationName("Ornevo fuzzing");
         return true;
@@ -40,6 +40,11 @@ QApplication &WindowHarness::application()
     static char *argv[] = {name, nullptr};
     static QApplication app(argc, argv);
     return app;
+}
+
+QString WindowHarness::scratchFile()
+{
+    return sandbox().filePath("scratch");
 }
 
 WindowHarness &WindowHarness::instance()
@@ -53,7 +58,7 @@ WindowHarness::WindowHarness() : m_probe(m_window) {}
 
 QString WindowHarness::file(const QByteArray &contents)
 {
-    const QString path = world().filePath("input");
+    const QString path = sandbox().filePath("input");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         qFatal("no room for the input");

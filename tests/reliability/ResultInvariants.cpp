@@ -274,7 +274,7 @@ QString ResultInvariants::exportedFile()
         return {};
     const DialogAnswers::Export &wanted = m_answers.lastExport();
     const QByteArray suffix = QFileInfo(wanted.path).suffix().toLower().toLatin1();
-    if (!canBeWritten(wanted.path) || m_probe.backgroundItem() == nullptr ||
+    if (wanted.size.isEmpty() || !canBeWritten(wanted.path) || m_probe.backgroundItem() == nullptr ||
         m_probe.previewItem() == nullptr || !QByteArrayList{"jpg", "jpeg", "png"}.contains(suffix))
         return {};
     const QTransform zoom = m_probe.backgroundItem()->transform();
@@ -293,9 +293,12 @@ QString ResultInvariants::exportedFile()
         source.previewImage.height() * wanted.size.height() / background.height() > mostScaled)
         return {};
     const QPixmap expected = reference::exportComposition(source, wanted.size.width(), wanted.size.height());
-    return samePixels(QImage(wanted.path), throughFile(expected.toImage(), suffix))
-               ? QString()
-               : "the exported file is not the composition";
+    if (samePixels(QImage(wanted.path), throughFile(expected.toImage(), suffix)))
+        return {};
+    return QStringLiteral("the exported file is not the composition (%1, %2 x %3)")
+        .arg(QFileInfo(wanted.path).fileName())
+        .arg(wanted.size.width())
+        .arg(wanted.size.height());
 }
 
 QString ResultInvariants::shownCutOut()
@@ -332,7 +335,13 @@ QString ResultInvariants::staleScreen()
 {
     if (!m_window.isVisible() || m_window.isMinimized() || QApplication::activeModalWidget() != nullptr)
         return {};
-    QWidget *viewport = m_window.findChild<QGraphicsView *>("graphicsView")->viewport();
+    const auto *canvas = m_window.findChild<QGraphicsView *>("graphicsView");
+    constexpr double mostZoom =
+        64; // far beyond it, single pixels fill the canvas, and rounding decides which
+    const double zoom = canvas->transform().m11();
+    if (!(zoom < mostZoom) || zoom < 1 / mostZoom)
+        return {};
+    QWidget *viewport = canvas->viewport();
     const auto shown = [&] {
         const QPoint corner = viewport->mapTo(&m_window, QPoint());
         return m_window.screen()
