@@ -9,8 +9,9 @@ namespace {
 
 QRect anySquare(Input &input, bool wild)
 {
+    const auto far = [&input] { return input.integer() / 4; }; // a corner plus a side is an int
     if (wild)
-        return {input.integer(), input.integer(), input.integer(), input.integer()};
+        return {far(), far(), far(), far()};
     return {input.below(120) - 40, input.below(120) - 40, input.below(60) - 4, input.below(60) - 4};
 }
 

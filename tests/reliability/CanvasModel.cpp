@@ -142,7 +142,11 @@ QString CanvasModel::send(QMouseEvent &event)
         (dabsIn(scene->items(*expected.erased)) != 0 || scene->items().size() != all - touched))
         return "the eraser left something, or took something else";
     if (expected.offset && m_probe.previewOffset() != *expected.offset)
-        return "the hand has moved the object elsewhere";
+        return QStringLiteral("the hand has moved the object to %1, %2 instead of %3, %4")
+            .arg(m_probe.previewOffset().x())
+            .arg(m_probe.previewOffset().y())
+            .arg(expected.offset->x())
+            .arg(expected.offset->y());
     if (expected.square && (press || pressed)) {
         const bool counts = !press || scene->sceneRect().contains(*expected.square);
         const QList<QRect> &pending = m_probe.pendingBrushRects();
@@ -174,6 +178,13 @@ QString CanvasModel::compareDab(const std::optional<QPointF> &expected, int entr
         return expected && m_pressed ? "a marker laid no dab" : QString();
     if (!expected)
         return "a dab came from nowhere";
+    const bool keep = m_tool == ToolKeepMarker;
+    const bool hasSize = sizeOf(keep ? settings::keepMarkerSize : settings::removeMarkerSize) != 0;
+    if (!hasSize) { // the scene finds nothing where there is no area
+        if (dabPushed)
+            dabPushed(nullptr);
+        return {};
+    }
     QGraphicsItem *dab = newestDab(*expected);
     if (const QString wrong = wrongDab(dab, *expected); !wrong.isEmpty())
         return wrong;

@@ -123,6 +123,7 @@ bool ResultInvariants::isSmall() const
 void ResultInvariants::beforeStep()
 {
     m_complaint.clear();
+    m_photoWasThere = photo() != nullptr;
     QGraphicsPixmapItem *topmost = m_probe.maskItem() != nullptr ? m_probe.maskItem() : photo();
     m_topmostBefore = topmost == nullptr ? QPixmap() : topmost->pixmap();
     m_photoBefore = m_probe.imagePixmap().cacheKey();
@@ -259,7 +260,8 @@ QString ResultInvariants::layers()
 
 QString ResultInvariants::savedFile()
 {
-    const bool reopened = m_probe.imagePixmap().cacheKey() != m_photoBefore || photo() == nullptr;
+    const bool reopened = m_probe.imagePixmap().cacheKey() != m_photoBefore ||
+                          (m_photoWasThere && photo() == nullptr);
     if (!reopened || m_topmostBefore.isNull() || !canBeWritten(m_probe.currentFile()))
         return {};
     const QImage saved(m_probe.currentFile());

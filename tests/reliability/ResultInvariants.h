@@ -53,6 +53,7 @@ private:
     QString m_complaint;
     QPixmap m_topmostBefore;
     qint64 m_photoBefore = 0;
+    bool m_photoWasThere = false;
     int m_exportsBefore = 0;
     qint64 m_shownChecked = 0;
     qint64 m_shownPixmap = 0;
