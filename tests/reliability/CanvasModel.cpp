@@ -83,8 +83,9 @@ CanvasModel::Expected CanvasModel::predict(const QMouseEvent &event) const
 {
     Expected expected;
     const QPoint position = event.position().toPoint();
+    const QRectF picture =
+        m_canvas->scene()->sceneRect(); // first: it may have to grow, and the canvas scrolls
     const QPointF there = m_canvas->mapToScene(position);
-    const QRectF picture = m_canvas->scene()->sceneRect();
     const bool press = event.type() == QEvent::MouseButtonPress;
     const bool move = event.type() == QEvent::MouseMove;
     if (m_tool == ToolKeepMarker || m_tool == ToolRemoveMarker) {
