@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "cutout/ExportComposition.h"
-#include "cutout/PictureWriting.h"
+#include "cutout/PictureFile.h"
 #include "fuzz/Input.h"
 #include "fuzz/WindowHarness.h"
 #include "tests/reference/MaskReference.h"
