@@ -38,7 +38,8 @@ QApplication &WindowHarness::application()
     static int argc = quiet ? 1 : 0;
     static char name[] = "fuzz";
     static char *argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
+    // Never destroyed: at the end of the program, what of Qt's it would need has gone before it.
+    static auto &app = *new QApplication(argc, argv);
     return app;
 }
 

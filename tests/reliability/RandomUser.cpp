@@ -392,10 +392,10 @@ QString RandomUser::meddleWithFiles()
     folder.mkpath(".");
     QStringList files = picturefiles::writeAssortment(m_folder);
     if (m_random.below(6) == 0) {
-        files.append(folder.filePath("large.png"));
+        files.append(folder.filePath("large.bmp"));
         const int width = 400 + m_random.below(1600);
         picturefiles::put(files.last(),
-                          picturefiles::encoded(picturefiles::smallPicture(width, 2400 - width, 11), "png"));
+                          picturefiles::encoded(picturefiles::smallPicture(width, 2400 - width, 11), "bmp"));
     }
     QStringList targets = {
         folder.filePath("out-1.jpg"),       folder.filePath("out-2.png"), folder.filePath("out-3.jpeg"),
