@@ -71,6 +71,28 @@ bool areModest(const QList<reference::Marker> &markers)
     });
 }
 
+/// Pixels that differ visibly, and all those around them. Smoothly scaled pixels may differ by a hair where
+/// the painting begins elsewhere, and edges by a pixel.
+int solidDifferences(const QImage &left, const QImage &right)
+{
+    constexpr int hair = 24;
+    const auto differ = [&](int x, int y) {
+        const QRgb one = left.pixel(x, y);
+        const QRgb other = right.pixel(x, y);
+        return std::abs(qRed(one) - qRed(other)) > hair || std::abs(qGreen(one) - qGreen(other)) > hair ||
+               std::abs(qBlue(one) - qBlue(other)) > hair;
+    };
+    int solid = 0;
+    for (int y = 1; y < left.height() - 1; ++y)
+        for (int x = 1; x < left.width() - 1; ++x) {
+            bool all = differ(x, y);
+            for (int neighbour = 0; all && neighbour < 9; ++neighbour)
+                all = differ(x - 1 + neighbour % 3, y - 1 + neighbour / 3);
+            solid += all ? 1 : 0;
+        }
+    return solid;
+}
+
 } // namespace
 
 ResultInvariants::ResultInvariants(MainWindow &window, const DialogAnswers &answers)
@@ -260,8 +282,8 @@ QString ResultInvariants::layers()
 
 QString ResultInvariants::savedFile()
 {
-    const bool reopened = m_probe.imagePixmap().cacheKey() != m_photoBefore ||
-                          (m_photoWasThere && photo() == nullptr);
+    const bool reopened =
+        m_probe.imagePixmap().cacheKey() != m_photoBefore || (m_photoWasThere && photo() == nullptr);
     if (!reopened || m_topmostBefore.isNull() || !canBeWritten(m_probe.currentFile()))
         return {};
     const QImage saved(m_probe.currentFile());
@@ -360,17 +382,7 @@ QString ResultInvariants::staleScreen()
     const QImage after = shown();
     if (before.isNull() || before.size() != after.size())
         return {};
-    // Smoothly scaled pixels may differ by a hair where the painting begins elsewhere, and edges by a pixel.
-    constexpr int hair = 24;
-    int different = 0;
-    for (int y = 0; y < after.height(); ++y)
-        for (int x = 0; x < after.width(); ++x) {
-            const QRgb left = before.pixel(x, y);
-            const QRgb right = after.pixel(x, y);
-            different += std::abs(qRed(left) - qRed(right)) > hair ||
-                         std::abs(qGreen(left) - qGreen(right)) > hair ||
-                         std::abs(qBlue(left) - qBlue(right)) > hair;
-        }
-    constexpr int few = 40;
+    const int different = solidDifferences(before, after);
+    constexpr int few = 8;
     return different <= few ? QString() : QStringLiteral("%1 pixels on the screen are stale").arg(different);
 }
