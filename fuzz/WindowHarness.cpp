@@ -13,7 +13,7 @@
 
 namespace {
 
-QTemporaryDir &world()
+QTemporaryDir &sandbox()
 {
     static QTemporaryDir folder;
     return folder;
@@ -30,7 +30,7 @@ QApplication &WindowHarness::application()
                 fprintf(stderr, "%s\n", qPrintable(text));
         });
         for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-            QSettings::setPath(format, QSettings::UserScope, world().path());
+            QSettings::setPath(format, QSettings::UserScope, sandbox().path());
         QCoreApplication::setApplicationName("Ornevo");
         QCoreApplication::setOrganizationName("Ornevo fuzzing");
         return true;
@@ -38,8 +38,14 @@ QApplication &WindowHarness::application()
     static int argc = quiet ? 1 : 0;
     static char name[] = "fuzz";
     static char *argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
+    // Never destroyed: at the end of the program, what of Qt's it would need has gone before it.
+    static auto &app = *new QApplication(argc, argv);
     return app;
+}
+
+QString WindowHarness::scratchFile()
+{
+    return sandbox().filePath("scratch");
 }
 
 WindowHarness &WindowHarness::instance()
@@ -53,7 +59,7 @@ WindowHarness::WindowHarness() : m_probe(m_window) {}
 
 QString WindowHarness::file(const QByteArray &contents)
 {
-    const QString path = world().filePath("input");
+    const QString path = sandbox().filePath("input");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         qFatal("no room for the input");

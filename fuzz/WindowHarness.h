@@ -9,12 +9,14 @@
 #include <QByteArray>
 #include <QString>
 
-/// The real window, off screen and in a world of its own, one for all inputs of a fuzzer's run.
+/// The real window, off screen and in a sandbox of its own, one for all inputs of a fuzzer's run.
 class WindowHarness
 {
 public:
     static WindowHarness &instance();
     static QApplication &application();
+    /// A name for a file of a target's own.
+    static QString scratchFile();
 
     MainWindow &window() { return m_window; }
     MainWindowProbe &probe() { return m_probe; }

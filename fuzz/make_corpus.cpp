@@ -34,8 +34,7 @@ int main(int argc, char *argv[])
         corpus.mkpath(target);
         picturefiles::put(corpus.filePath(target + '/' + name), bytes);
     };
-    for (const char *target : {"fuzz_watershed", "fuzz_watershedmany", "fuzz_wavesegment", "fuzz_feathering",
-                               "fuzz_blurs", "fuzz_edgedetectors"}) {
+    for (const QString &target : QStringLiteral(TARGETS_OF_BYTES).split(',')) {
         put(target, "nothing", {});
         for (int i = 0; i < 12; ++i) {
             testpictures::Random random(static_cast<std::uint32_t>(i));

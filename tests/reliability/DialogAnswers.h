@@ -7,33 +7,47 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
 class QDialog;
 
-/// Sits beside a window and answers every modal dialog that opens: once as the dice fall, and if the dialog
-/// will not go, by closing it. The dice are thrown once a dialog, whatever the timing, so that a seed gives
-/// the same answers again.
+/// Sits beside a window and answers every modal dialog that opens: once at random, and if the dialog
+/// will not go, by closing it. The random numbers are drawn once a dialog, whatever the timing, so that a
+/// seed gives the same answers again.
 class DialogAnswers : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit DialogAnswers(testpictures::Random &dice);
+    explicit DialogAnswers(testpictures::Random &random);
 
     /// Names to choose from when a file is asked for.
     void setFiles(const QStringList &toOpen, const QStringList &toSave);
     [[nodiscard]] int answered() const { return m_answered; }
 
+    /// What an export dialog held when it was closed.
+    struct Export
+    {
+        QString path;
+        QSize size;
+    };
+    [[nodiscard]] int exports() const { return m_exports; }
+    [[nodiscard]] const Export &lastExport() const { return m_lastExport; }
+
 private:
     void look();
     void answer(QDialog &dialog);
     void turnKnobs(QDialog &dialog);
+    void pressKeys(QDialog &dialog);
+    void noteExport(QDialog &dialog);
 
-    testpictures::Random &m_dice;
+    testpictures::Random &m_random;
     QStringList m_toOpen;
     QStringList m_toSave;
     QList<QPointer<QDialog>> m_seen;
     int m_answered = 0;
+    Export m_lastExport;
+    int m_exports = 0;
 };
