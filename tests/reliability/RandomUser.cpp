@@ -52,6 +52,7 @@ QString RandomUser::step()
 {
     constexpr int stepsBetweenLooks = 100;
     m_complaint.clear();
+    m_brushed = false;
     m_canvasModel.forgetPress();
     m_results.beforeStep();
     const qint64 photo = m_probe.imagePixmap().cacheKey();
@@ -67,7 +68,9 @@ QString RandomUser::step()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         stopTime();
     }
-    if (++m_stepsDone % stepsBetweenLooks == 0)
+    // Later, whatever passes over the canvas repaints what was left out.
+    const bool brushed = m_brushed && m_random.below(4) == 0;
+    if (++m_stepsDone % stepsBetweenLooks == 0 || brushed)
         check(m_results.staleScreen());
     return what;
 }
@@ -365,7 +368,9 @@ QString RandomUser::letTimersFire()
 {
     if (m_brushDue) {
         m_brushDue = false;
+        const int entries = m_probe.undoStack().index();
         check(m_cutOutModel.processBatch());
+        m_brushed = m_probe.undoStack().index() != entries;
     }
     if (m_forgettingDue && m_random.below(2) == 0) {
         m_forgettingDue = false;

@@ -70,5 +70,6 @@ private:
     QString m_complaint;
     int m_stepsDone = 0;
     bool m_brushDue = false;
+    bool m_brushed = false; ///< in this step
     bool m_forgettingDue = false;
 };
