@@ -137,8 +137,24 @@ QString RandomUser::chooseTool()
     return perform(names[static_cast<std::size_t>(m_random.below(static_cast<int>(names.size())))]);
 }
 
+// Seldom enough do a picture behind, its zoom and an export come together by themselves.
+QString RandomUser::exportOverZoomedPicture()
+{
+    m_window.findChild<QAction *>("actionPreview")->setChecked(true);
+    for (int attempt = 0; attempt < 6 && m_probe.backgroundImage().isNull(); ++attempt)
+        perform("actionSelect_Background");
+    const char *zoom = m_random.below(2) == 0 ? "actionBackgroundZoomPlus" : "actionBackgroundZoomMinus";
+    for (int times = m_random.below(12); times > 0; --times)
+        perform(zoom);
+    perform("actionExport");
+    return "export over a zoomed picture";
+}
+
 QString RandomUser::openOrWrite()
 {
+    if (m_random.below(6) == 0)
+        return exportOverZoomedPicture();
+
     constexpr std::array names = {"actionOpen",   "actionSave",   "actionSave_As", "actionExport",
                                   "actionExport", "actionExport", "actionExport"};
     return perform(names[static_cast<std::size_t>(m_random.below(static_cast<int>(names.size())))]);

@@ -47,6 +47,7 @@ private:
     QString meddleWithFiles();
     QString chooseTool();
     QString openOrWrite();
+    QString exportOverZoomedPicture();
     QString turnWheel();
     QString changeLooks();
     QString goThroughHistory();
