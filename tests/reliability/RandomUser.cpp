@@ -52,6 +52,7 @@ QString RandomUser::step()
 {
     constexpr int stepsBetweenLooks = 100;
     m_complaint.clear();
+    m_brushed = false;
     m_canvasModel.forgetPress();
     m_results.beforeStep();
     const qint64 photo = m_probe.imagePixmap().cacheKey();
@@ -67,7 +68,9 @@ QString RandomUser::step()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         stopTime();
     }
-    if (++m_stepsDone % stepsBetweenLooks == 0)
+    // Later, whatever passes over the canvas repaints what was left out.
+    const bool brushed = m_brushed && m_random.below(4) == 0;
+    if (++m_stepsDone % stepsBetweenLooks == 0 || brushed)
         check(m_results.staleScreen());
     return what;
 }
@@ -134,8 +137,24 @@ QString RandomUser::chooseTool()
     return perform(names[static_cast<std::size_t>(m_random.below(static_cast<int>(names.size())))]);
 }
 
+// Seldom enough do a picture behind, its zoom and an export come together by themselves.
+QString RandomUser::exportOverZoomedPicture()
+{
+    m_window.findChild<QAction *>("actionPreview")->setChecked(true);
+    for (int attempt = 0; attempt < 6 && m_probe.backgroundImage().isNull(); ++attempt)
+        perform("actionSelect_Background");
+    const char *zoom = m_random.below(2) == 0 ? "actionBackgroundZoomPlus" : "actionBackgroundZoomMinus";
+    for (int times = m_random.below(12); times > 0; --times)
+        perform(zoom);
+    perform("actionExport");
+    return "export over a zoomed picture";
+}
+
 QString RandomUser::openOrWrite()
 {
+    if (m_random.below(6) == 0)
+        return exportOverZoomedPicture();
+
     constexpr std::array names = {"actionOpen",   "actionSave",   "actionSave_As", "actionExport",
                                   "actionExport", "actionExport", "actionExport"};
     return perform(names[static_cast<std::size_t>(m_random.below(static_cast<int>(names.size())))]);
@@ -365,7 +384,9 @@ QString RandomUser::letTimersFire()
 {
     if (m_brushDue) {
         m_brushDue = false;
+        const int entries = m_probe.undoStack().index();
         check(m_cutOutModel.processBatch());
+        m_brushed = m_probe.undoStack().index() != entries;
     }
     if (m_forgettingDue && m_random.below(2) == 0) {
         m_forgettingDue = false;

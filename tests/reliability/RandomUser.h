@@ -47,6 +47,7 @@ private:
     QString meddleWithFiles();
     QString chooseTool();
     QString openOrWrite();
+    QString exportOverZoomedPicture();
     QString turnWheel();
     QString changeLooks();
     QString goThroughHistory();
@@ -70,5 +71,6 @@ private:
     QString m_complaint;
     int m_stepsDone = 0;
     bool m_brushDue = false;
+    bool m_brushed = false; ///< in this step
     bool m_forgettingDue = false;
 };

@@ -17,10 +17,10 @@
 #include <QImageWriter>
 #include <QPen>
 #include <QScreen>
-#include <QSet>
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -63,12 +63,18 @@ QList<reference::Marker> markersOn(const QGraphicsScene &scene)
     return markers;
 }
 
+/// Whether the plain code, which visits every pixel under every dab, is done in a moment.
 bool areModest(const QList<reference::Marker> &markers)
 {
     constexpr double most = 10000;
-    return std::all_of(markers.cbegin(), markers.cend(), [](const reference::Marker &marker) {
-        return QRectF(0, 0, most, most).contains(marker.rect.normalized());
-    });
+    constexpr double mostPixels = 1e6;
+    double pixels = 0;
+    for (const reference::Marker &marker : markers) {
+        if (!QRectF(0, 0, most, most).contains(marker.rect.normalized()))
+            return false;
+        pixels += marker.rect.width() * marker.rect.height();
+    }
+    return pixels < mostPixels;
 }
 
 /// Pixels that differ visibly, and all those around them. Smoothly scaled pixels may differ by a hair where
@@ -211,29 +217,37 @@ QString ResultInvariants::seedsOnTheirSide()
     if (!areModest(markers))
         return {};
     const auto seeds = reference::collectSeeds(markers, picture.width(), picture.height());
-    const QSet<int> keep(seeds.keep.cbegin(), seeds.keep.cend());
-    const QSet<int> remove(seeds.remove.cbegin(), seeds.remove.cend());
-    const QSet<int> mask(m_probe.outmask().cbegin(), m_probe.outmask().cend());
-    const auto inside = [&](int index) { // the frame of a picture belongs to no region
-        const int x = index % picture.width();
-        const int y = index / picture.width();
-        return x > 0 && y > 0 && x < picture.width() - 1 && y < picture.height() - 1;
+    const auto pixelsOf = [&picture](const QList<int> &indices) {
+        std::vector<char> pixels(static_cast<std::size_t>(picture.width()) *
+                                 static_cast<std::size_t>(picture.height()));
+        for (const int index : indices)
+            if (index >= 0 && static_cast<std::size_t>(index) < pixels.size())
+                pixels[static_cast<std::size_t>(index)] = 1;
+        return pixels;
     };
-    if (keep.isEmpty() || remove.isEmpty())
+    const std::vector<char> keep = pixelsOf(seeds.keep);
+    const std::vector<char> remove = pixelsOf(seeds.remove);
+    const std::vector<char> mask = pixelsOf(m_probe.outmask());
+    if (seeds.keep.isEmpty() || seeds.remove.isEmpty())
         return {};
-    if (std::any_of(keep.cbegin(), keep.cend(),
-                    [&](int seed) { return inside(seed) && !remove.contains(seed) && !mask.contains(seed); }))
-        return "a Keep dab is not in the mask";
-    if (std::any_of(remove.cbegin(), remove.cend(),
-                    [&](int seed) { return inside(seed) && !keep.contains(seed) && mask.contains(seed); }))
-        return "a Remove dab is in the mask";
+    // The frame of a picture belongs to no region.
+    for (int y = 1; y < picture.height() - 1; ++y)
+        for (int x = 1; x < picture.width() - 1; ++x) {
+            const auto index = static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width()) +
+                               static_cast<std::size_t>(x);
+            if (keep[index] != 0 && remove[index] == 0 && mask[index] == 0)
+                return "a Keep dab is not in the mask";
+            if (remove[index] != 0 && keep[index] == 0 && mask[index] != 0)
+                return "a Remove dab is in the mask";
+        }
     return {};
 }
 
 QString ResultInvariants::overlay()
 {
     QGraphicsPixmapItem *item = m_probe.maskItem();
-    if (photo() == nullptr || item == nullptr)
+    constexpr int mostPixels = 300000;
+    if (photo() == nullptr || item == nullptr || m_probe.outmask().size() > mostPixels)
         return {};
     const QSize size = m_probe.workingImage().size();
     if (!samePixels(item->pixmap().toImage(),
