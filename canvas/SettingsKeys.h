@@ -43,7 +43,8 @@ inline constexpr Key maskOpacity{"MOPACITY", "0.6", "0.6", "0.6"};
 // What a batch of brush dabs adds to the alpha, or takes from it; 0 .. 254.
 inline constexpr Key keepBrushIntensity{"KEEPBINTEN", "150", nullptr, "50"};
 inline constexpr Key removeBrushIntensity{"REMOVEBINTEN", "100", nullptr, "20"};
-/// Whether the border of the cut-out is smoothed, and with how many taps, 1 .. 15; see cutout::blurFourChannels().
+/// Whether the border of the cut-out is smoothed, and with how many taps, 1 .. 15; see
+/// cutout::blurFourChannels().
 inline constexpr Key smoothEdges{"SMOOTHEDGESCHECKED", "true", nullptr, "true"};
 inline constexpr Key gaussSize{"GOUSSIZE", "5", nullptr, "5"};
 /// The folder of the photo that was opened last, where file dialogs begin.

@@ -63,8 +63,8 @@ BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size)
         outline = cutAround(outline, size);
         bounds = outline.boundingRect();
     }
-    const QRect box(ornevo::roundToInt(bounds.x()), ornevo::roundToInt(bounds.y()), ornevo::roundToInt(bounds.width()),
-                    ornevo::roundToInt(bounds.height()));
+    const QRect box(ornevo::roundToInt(bounds.x()), ornevo::roundToInt(bounds.y()),
+                    ornevo::roundToInt(bounds.width()), ornevo::roundToInt(bounds.height()));
     // By winding, so that overlapping dabs are one area and no pixel is counted twice.
     return {windingRegion(outline.toPolygon(), QRect(QPoint(0, 0), size)), box};
 }
