@@ -41,7 +41,7 @@ QPoint rounded(QPointF point)
 } // namespace
 
 CanvasModel::CanvasModel(MainWindow &window)
-    : m_window(window), m_probe(window), m_canvas(window.findChild<QGraphicsView *>("graphicsView"))
+    : m_probe(window), m_canvas(window.findChild<QGraphicsView *>("graphicsView"))
 {
     struct Row
     {

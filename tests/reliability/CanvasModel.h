@@ -48,7 +48,6 @@ private:
     [[nodiscard]] QGraphicsItem *newestDab(QPointF position) const;
     void trackPress(const QMouseEvent &event);
 
-    MainWindow &m_window;
     mutable MainWindowProbe m_probe;
     QGraphicsView *m_canvas;
     DrawingTools m_tool = ToolNone;
