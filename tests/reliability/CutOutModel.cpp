@@ -42,7 +42,7 @@ void CutOutModel::push(const Entry &entry)
 
 void CutOutModel::dabPushed(QGraphicsItem *dab)
 {
-    push({dab, {}, {}, true});
+    push({dab, {}, {}, {}});
 }
 
 void CutOutModel::forgetDabs()
@@ -74,29 +74,24 @@ QString CutOutModel::processBatch()
             byteOf(m_probe.settings(), keep ? settings::keepBrushIntensity : settings::removeBrushIntensity));
     else
         adopt();
-    push({nullptr, area, before, true});
+    push({nullptr, area, before, area.isEmpty() ? QImage() : m_cutOut.copy(area)});
     return m_cutOut == m_probe.previewImage() ? QString() : "a batch of brush dabs has another effect";
 }
 
-void CutOutModel::swap(Entry &entry)
+// The cut-out may have been made anew since, of another size even.
+void CutOutModel::putBack(const QRect &area, const QImage &pixels)
 {
-    const QRect area = entry.area.intersected(m_cutOut.rect());
-    if (entry.pixels.isNull() || area.isEmpty())
+    const QRect here = area.intersected(m_cutOut.rect());
+    if (pixels.isNull() || here.isEmpty())
         return;
-    for (int y = area.top(); y <= area.bottom(); ++y)
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const QPoint there = QPoint(x, y) - entry.area.topLeft();
-            const QRgb old = m_cutOut.pixel(x, y);
-            m_cutOut.setPixel(x, y, entry.pixels.pixel(there));
-            entry.pixels.setPixel(there, old);
-        }
-    entry.holdsBefore = !entry.holdsBefore;
+    for (int y = here.top(); y <= here.bottom(); ++y)
+        for (int x = here.left(); x <= here.right(); ++x)
+            m_cutOut.setPixel(x, y, pixels.pixel(QPoint(x, y) - area.topLeft()));
 }
 
 QString CutOutModel::undo(Entry &entry)
 {
-    if (entry.holdsBefore)
-        swap(entry);
+    putBack(entry.area, entry.before);
     QGraphicsItem *dab = std::exchange(entry.dab, nullptr);
     const bool there = dab != nullptr && (m_probe.imageScene().items().contains(dab) ||
                                           m_probe.previewScene().items().contains(dab));
@@ -118,7 +113,6 @@ QString CutOutModel::follow()
         if (const QString complaint = undo(m_entries[--m_index]); !complaint.isEmpty())
             return complaint;
     for (; m_index < stack.index(); ++m_index)
-        if (!m_entries[m_index].holdsBefore)
-            swap(m_entries[m_index]);
+        putBack(m_entries[m_index].area, m_entries[m_index].after);
     return m_cutOut == m_probe.previewImage() ? QString() : "the cut-out is not what was made of it";
 }

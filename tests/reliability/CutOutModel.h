@@ -34,12 +34,12 @@ private:
     {
         QGraphicsItem *dab = nullptr;
         QRect area;
-        QImage pixels; ///< null: nothing to put back
-        bool holdsBefore = true;
+        QImage before; ///< of the area; null: nothing to put back
+        QImage after;
     };
 
     void push(const Entry &entry);
-    void swap(Entry &entry);
+    void putBack(const QRect &area, const QImage &pixels);
     [[nodiscard]] QString undo(Entry &entry);
 
     MainWindow &m_window;
