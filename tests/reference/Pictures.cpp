@@ -188,15 +188,15 @@ Picture blobPicture(int width, int height, std::uint32_t seed)
         int green = 110;
         int blue = 130;
         for (const Blob &blob : blobs) {
-            const int dx = x - blob.x;
-            const int dy = y - blob.y;
-            const int reach = blob.radius * blob.radius;
-            const int weight = reach - (dx * dx + dy * dy);
+            const std::int64_t dx = x - blob.x;
+            const std::int64_t dy = y - blob.y;
+            const std::int64_t reach = std::int64_t{blob.radius} * blob.radius;
+            const std::int64_t weight = reach - (dx * dx + dy * dy);
             if (weight <= 0)
                 continue;
-            red += (blob.red - red) * weight / reach;
-            green += (blob.green - green) * weight / reach;
-            blue += (blob.blue - blue) * weight / reach;
+            red += static_cast<int>((blob.red - red) * weight / reach);
+            green += static_cast<int>((blob.green - green) * weight / reach);
+            blue += static_cast<int>((blob.blue - blue) * weight / reach);
         }
         const auto noisy = [&random](int value) { return std::clamp(value + random.below(7) - 3, 0, 255); };
         red = noisy(red);
