@@ -26,12 +26,6 @@ QString described(const QWidget &widget)
 
 } // namespace
 
-void expect(bool holds, const QString &message)
-{
-    if (!holds)
-        throw TourError(message);
-}
-
 Awaiting::Awaiting(const QString &what)
 {
     names() << what;

@@ -15,7 +15,11 @@ public:
 };
 
 /// Throws a TourError with `message` unless `holds`.
-void expect(bool holds, const QString &message);
+inline void expect(bool holds, const QString &message)
+{
+    if (!holds)
+        throw TourError(message);
+}
 
 /// While it lives, the tour waits for what it names: that is what is reported when it never comes.
 class Awaiting

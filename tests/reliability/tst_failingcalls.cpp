@@ -6,6 +6,7 @@
 #include "tests/reliability/FailingCalls.h"
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/WindowUser.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TestMain.h"
 
 #include <QDir>
@@ -52,6 +53,7 @@ public:
     [[nodiscard]] bool isThere() const { return m_mounted; }
 
 private:
+    UncountedLeaks m_uncounted;
     QByteArray m_folder;
     bool m_mounted;
 };

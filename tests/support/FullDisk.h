@@ -10,15 +10,31 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
+/// While it lives, leaks are not counted: Qt's PNG writer loses its list of rows when it can't write.
+struct UncountedLeaks
+{
+#ifdef ORNEVO_ADDRESS_SANITIZER
+    UncountedLeaks()
+    {
+        __lsan_disable();
+    }
+    ~UncountedLeaks()
+    {
+        __lsan_enable();
+    }
+#else
+    UncountedLeaks() = default;
+#endif
+    UncountedLeaks(const UncountedLeaks &) = delete;
+    UncountedLeaks &operator=(const UncountedLeaks &) = delete;
+};
+
 /// While it lives, a file can't grow beyond some bytes: writing fails as it does on a full disk.
 class FullDisk
 {
 public:
     explicit FullDisk(rlim_t bytes)
     {
-#ifdef ORNEVO_ADDRESS_SANITIZER
-        __lsan_disable(); // Qt's PNG writer loses its list of rows when it can't write
-#endif
         m_signal = std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_before);
         rlimit full = m_before;
@@ -29,14 +45,12 @@ public:
     {
         setrlimit(RLIMIT_FSIZE, &m_before);
         std::signal(SIGXFSZ, m_signal);
-#ifdef ORNEVO_ADDRESS_SANITIZER
-        __lsan_enable();
-#endif
     }
     FullDisk(const FullDisk &) = delete;
     FullDisk &operator=(const FullDisk &) = delete;
 
 private:
+    UncountedLeaks m_uncounted;
     rlimit m_before{};
     void (*m_signal)(int) = nullptr;
 };
