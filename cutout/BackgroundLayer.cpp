@@ -66,10 +66,9 @@ QPixmap colourOverBoard(QSize size, QRgb colour, const QImage &board)
         return QPixmap::fromImage(std::move(layer));
     }
     // Stretching repeats whole rows, so that the work on each can be done once. Which rows, QImage::scaled()
-    // decides otherwise for pixels that it can't draw as they are.
-    const bool drawnAsItIs =
-        board.format() == QImage::Format_RGB32 || board.format() == QImage::Format_ARGB32_Premultiplied;
-    if (drawnAsItIs && board.height() < size.height())
+    // decides otherwise for pixels with alpha, and where the width stays as it is.
+    const bool rowsAreKnown = board.format() == QImage::Format_RGB32 && board.width() != size.width();
+    if (rowsAreKnown && board.height() < size.height())
         return QPixmap::fromImage(stretchedDown(
             colourOverStretched(board, QSize(size.width(), board.height()), colour), size.height()));
     return QPixmap::fromImage(colourOverStretched(board, size, colour));

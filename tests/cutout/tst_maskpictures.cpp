@@ -12,6 +12,7 @@
 #include "tests/support/TestMain.h"
 
 #include <limits>
+#include <random>
 
 using testsupport::described;
 
@@ -108,6 +109,7 @@ private slots:
     void backgroundAgrees_data();
     void backgroundAgrees();
     void backgroundPictureKeepsItsProportions();
+    void backgroundOverBoardsOfAnySize();
     void backgroundWithoutABoard();
     void exportAgrees_data();
     void exportAgrees();
@@ -356,6 +358,21 @@ void TestMaskPictures::backgroundPictureKeepsItsProportions()
     const QPixmap layer = cutout::backgroundLayer({40, 30}, 0, board(), filled(100, 20, 0xFF336699));
     QCOMPARE(layer.size(), QSize(40, 8)); // a strip stays uncovered
     QCOMPARE(argb(layer).pixel(20, 4), 0xFF336699);
+}
+
+/// Which rows of the board are repeated depends on whether its width stays as it is.
+void TestMaskPictures::backgroundOverBoardsOfAnySize()
+{
+    std::mt19937 random(7);
+    const auto upTo = [&random](unsigned int most) { return static_cast<int>(1 + random() % most); };
+    for (int i = 0; i < 400; ++i) {
+        const QImage noise =
+            testpictures::randomImage(upTo(40), upTo(40), i).convertToFormat(QImage::Format_RGB32);
+        const QSize size(i % 2 == 0 ? noise.width() : upTo(70), upTo(70));
+        const auto colour = static_cast<QRgb>(random());
+        VERIFY_SAME(described(size), argb(cutout::backgroundLayer(size, colour, noise, {})),
+                    argb(reference::backgroundLayer(colour, {}, noise, size.width(), size.height())));
+    }
 }
 
 void TestMaskPictures::backgroundWithoutABoard()
