@@ -27,8 +27,8 @@ double anyNumber(Input &input)
 
 bool isModest(const QRectF &rect)
 {
-    return rect.x() > -1e4 && rect.y() > -1e4 && rect.x() < 1e4 && rect.y() < 1e4 && rect.width() > -1e4 &&
-           rect.width() < 1e4;
+    return rect.x() > -1e3 && rect.y() > -1e3 && rect.x() < 1e3 && rect.y() < 1e3 && rect.width() > -1e3 &&
+           rect.width() < 1e3;
 }
 
 } // namespace
