@@ -145,7 +145,6 @@ private:
     void showScene(QGraphicsScene &scene);
     void scaleBackground(double factor);
     bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
-    [[nodiscard]] QPixmap exportCanvas() const;
     bool writeScene(const QString &path);
 
     std::unique_ptr<Ui_MainWindow> form;

@@ -5,7 +5,7 @@
 
 #include "canvas/CBrushCommand.h"
 #include "canvas/PictureItem.h"
-#include "cutout/AlphaBrush.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <algorithm>

@@ -6,22 +6,13 @@
 #include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
-#include "cutout/BackgroundLayer.h"
-#include "cutout/CutOut.h"
-#include "cutout/FourChannelBlur.h"
-#include "cutout/IndexPicture.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
 #include <QScrollBar>
 
 #include <new>
-
-namespace {
-
-constexpr double sizeToSigma = 5.0;
-
-} // namespace
 
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
@@ -66,14 +57,12 @@ void MainWindow::updatepreview()
 
 void MainWindow::updatepreviewmask()
 {
-    constexpr QRgb black = qRgb(0, 0, 0);
-    constexpr QRgb white = qRgb(255, 255, 255);
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
-    QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
+    QImage sharp = cutout::objectMask(workingImage.size(), outmask);
     maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : sharp;
     if (smoothEdges && !maskImage.isNull())
-        blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
+        blur(&sharp, &maskImage, gaussSize, cutout::smoothingSigma(gaussSize));
 }
 
 void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
