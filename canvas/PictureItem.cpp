@@ -112,7 +112,7 @@ const QImage *PictureItem::reducedFor(qreal scale)
         ++levels;
     }
     while (m_reduced.size() < levels) {
-        QImage half = cutout::halved(m_reduced.empty() ? pixmap().toImage() : m_reduced.back());
+        QImage half = cutout::nextMipmapLevel(m_reduced.empty() ? pixmap().toImage() : m_reduced.back());
         if (half.isNull())
             break;
         m_reduced.push_back(std::move(half));
@@ -125,7 +125,7 @@ void PictureItem::renewReduced(const QRect &area)
     QRect changed = area;
     QImage larger = pixmap().toImage();
     for (QImage &reduced : m_reduced) {
-        changed = cutout::renewHalved(reduced, larger, changed);
+        changed = cutout::renewMipmapLevel(reduced, larger, changed);
         larger = reduced;
     }
     m_reducedFrom = pixmap().cacheKey();
