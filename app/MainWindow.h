@@ -42,7 +42,7 @@ public:
     /// the photo before.
     void open();
     /// Writes the topmost picture of the editing scene (the overlay, if there is one) as JPEG, whatever the
-    /// name ends in. A failure is not told.
+    /// name ends in. A failure is not reported.
     void save(const QString &path);
 
     /// Fills `edgeMap` from `workingImage`.

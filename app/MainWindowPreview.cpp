@@ -69,7 +69,7 @@ void MainWindow::updatepreviewmask()
     constexpr QRgb black = qRgb(0, 0, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
     qWarning() << "outmask size is" << outmask.size();
-    maskImage = QImage(); // what memory it had can serve the next one
+    maskImage = QImage(); // its memory can be used for the next one
     QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
     maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : sharp;
     if (smoothEdges && !maskImage.isNull())
@@ -130,7 +130,7 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
         form->statusBar->showMessage(tr("feather done"));
     }
-    // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
+    // With an alpha channel even where nothing is transparent yet, the brushes can change it piece by piece.
     *object = QPixmap::fromImage(cutout::premultiplied(previewImage), Qt::NoOpaqueDetection);
     *background = cutout::backgroundLayer(workingImage.size(), backgroundColor,
                                           QImage(":/icons/chessbackground.png"), backgroundImage);

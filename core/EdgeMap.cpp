@@ -50,7 +50,7 @@ public:
     }
 
     /// Writes the averaged gradient magnitudes of row `y`, neither the first nor the last; each row is asked
-    /// for once, in order. `out` has room for the padding.
+    /// for once, in order. `out` includes the padding.
     void row(int y, std::uint8_t *out)
     {
         while (m_nextBlurred <= y + 1)
