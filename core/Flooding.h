@@ -185,7 +185,8 @@ private:
                 }
             };
             queue.reserve();
-            // This order decides ties. The same four neighbours: seed(), queueIfNextToSeed(), StepCosts.
+            // This order decides ties: promised, see docs/compatibility.md. The same four neighbours: seed(),
+            // queueIfNextToSeed(), StepCosts.
             reach(layout.left(i), costs[i].left);
             reach(layout.right(i), costs[i].right);
             reach(layout.above(i), costs[i].up);
