@@ -69,7 +69,7 @@ bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSi
         return false;
     try {
         cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
-        cutout::writePicture(cutout::composeExport(std::move(layers), size).toImage(), fileName, format);
+        cutout::writePicture(cutout::composeExport(std::move(layers), size), fileName, format);
     } catch (const std::bad_alloc &) {
         form->statusBar->showMessage(tr("Not enough memory to export"));
         return false;

@@ -100,7 +100,9 @@ void MainWindow::applypreviewmask()
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
     }
-    backgroundItem = new PictureItem(background);
+    auto *behind = new PictureItem(background);
+    behind->keepPainted();
+    backgroundItem = behind;
     previewItem = new PictureItem(object);
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);

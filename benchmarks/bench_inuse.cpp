@@ -247,7 +247,7 @@ void encode(benchmark::State &state, const QByteArray &format)
                                           program.state().previewImage(),
                                           {},
                                           size};
-        const QImage picture = cutout::composeExport(layers, size).toImage();
+        const QImage picture = cutout::composeExport(layers, size);
         measuring::repeat(state, [&] { picture.save(file, type, 100); });
     });
 }

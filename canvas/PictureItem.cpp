@@ -10,6 +10,7 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStyleOptionGraphicsItem>
 
 #include <algorithm>
@@ -100,6 +101,13 @@ void PictureItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*op
         painter->drawPixmap(offset(), pixmap());
 }
 
+void PictureItem::keepPainted()
+{
+    constexpr int limit = 256 * 1024; // KiB; a screen of 7680 x 4320 takes half of it
+    QPixmapCache::setCacheLimit(std::max(QPixmapCache::cacheLimit(), limit));
+    setCacheMode(DeviceCoordinateCache);
+}
+
 const QImage *PictureItem::reducedFor(qreal scale)
 {
     if (m_reducedFrom != pixmap().cacheKey()) {
@@ -142,9 +150,9 @@ void PictureItem::renew(const QImage &image, const QRect &area)
     const QRect changed = area.intersected(image.rect());
     if (changed.isEmpty())
         return;
-    const bool reducedIsCurrent = m_reducedFrom == shown.cacheKey();
     {
-        const RepaintsHeldBack held(scene());
+        const RepaintsHeldBack held(scene()); // may paint what was due, which makes the copies
+        const bool reducedIsCurrent = m_reducedFrom == shown.cacheKey();
         setPixmap(QPixmap()); // painting on a shared pixmap would copy all of it
         QPainter painter(&shown);
         painter.setCompositionMode(QPainter::CompositionMode_Source);

@@ -20,6 +20,10 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
+    /// Keeps a copy of what has been painted of the item, at the size of the screen: for a picture that lies
+    /// under others and is painted again and again only because they change.
+    void keepPainted();
+
     /// Brings the pixels of `area` in the pixmap up to date with `image`, a picture in Format_ARGB32 of the
     /// same size. Only these are converted and repainted; a pixmap of another size or without alpha is
     /// replaced as a whole.
