@@ -81,6 +81,6 @@ QPixmap MainWindow::exportCanvas() const
 {
     if (!backgroundImage.isNull())
         return cutout::asPixmap(backgroundImage);
-    // The colour alone: the checkerboard of the preview only stands for what is transparent.
+    // The colour alone: the chessboard of the preview only stands for what is transparent.
     return cutout::colourCanvas(backgroundItem->pixmap().size(), backgroundColor);
 }

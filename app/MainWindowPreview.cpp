@@ -69,7 +69,7 @@ void MainWindow::updatepreviewmask()
     constexpr QRgb black = qRgb(0, 0, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
     qWarning() << "outmask size is" << outmask.size();
-    maskImage = QImage(); // its memory can be used for the next one
+    maskImage = QImage(); // what memory it had can serve the next one
     QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
     maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : sharp;
     if (smoothEdges && !maskImage.isNull())
