@@ -47,7 +47,8 @@ void MainWindow::on_actionExport_triggered()
     int width = 0;
     int height = 0;
     QString fileName;
-    dialog.GetSettings(&width, &height, &fileName); // a file that was chosen is written, Cancel or not
+    // A file that was chosen is written, Cancel or not: see docs/compatibility.md.
+    dialog.GetSettings(&width, &height, &fileName);
     const QString suffix = QFileInfo(fileName).suffix();
     if (!exportTo(fileName, suffix.toLatin1(), QSize(width, height)))
         return;

@@ -121,7 +121,7 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
         form->statusBar->showMessage(tr("feather done"));
     }
-    // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
+    // With an alpha channel even where nothing is transparent yet, the brushes can change it piece by piece.
     *object = QPixmap::fromImage(cutout::premultiplied(previewImage), Qt::NoOpaqueDetection);
     *background = cutout::backgroundLayer(workingImage.size(), backgroundColor,
                                           QImage(":/icons/chessbackground.png"), backgroundImage);

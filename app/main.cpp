@@ -11,7 +11,7 @@
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    // These two words scope the settings store.
+    // These two name the file of the settings that people have, and stay: see docs/compatibility.md.
     QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
     QApplication::setOrganizationName("Tirelo software");
     avoidSpecialSettingsFiles();

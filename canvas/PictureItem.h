@@ -10,9 +10,9 @@
 
 /// A pixmap item that is shown smoothly where it is reduced and with sharp pixels where it is enlarged.
 ///
-/// Where it is reduced to less than a half, it is drawn from copies of half, a quarter ... of its size: a
-/// plain bilinear reduction would skip pixels, and a large photo would shimmer. The copies are made when they
-/// are first needed and take a third of the pixmap's memory.
+/// Where it is reduced to less than a half, it is drawn from mipmap levels of half, a quarter ... of its
+/// size: a plain bilinear reduction would skip pixels, and a large photo would shimmer. The copies are made
+/// when they are first needed and take a third of the pixmap's memory.
 class PictureItem : public QGraphicsPixmapItem
 {
 public:
@@ -30,11 +30,11 @@ public:
     void renew(const QImage &image, const QRect &area);
 
 private:
-    [[nodiscard]] const QImage *reducedFor(qreal scale);
-    void renewReduced(const QRect &area);
+    [[nodiscard]] const QImage *mipmapFor(qreal scale);
+    void renewMipmaps(const QRect &area);
 
-    std::vector<QImage> m_reduced; ///< [k] has 1 / 2^(k + 1) of the size
-    qint64 m_reducedFrom = 0;      ///< cache key of the pixmap that m_reduced was made from
+    std::vector<QImage> m_mipmaps; ///< [k] has 1 / 2^(k + 1) of the size
+    qint64 m_mipmapsFrom = 0;      ///< cache key of the pixmap that m_mipmaps was made from
 };
 
 /// Has `item` show `image`, of which `area` has changed: a PictureItem renews that alone, any other item gets

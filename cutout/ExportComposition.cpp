@@ -111,7 +111,7 @@ QPixmap colourCanvas(QSize size, QRgb colour)
 {
     if (size.isEmpty())
         return {};
-    // An opaque canvas without room for alpha needs neither a look for transparent pixels nor a conversion.
+    // An opaque canvas without an alpha channel needs neither a look for transparent pixels nor a conversion.
     QImage canvas(size, qAlpha(colour) == 255 ? QImage::Format_RGB32 : QImage::Format_ARGB32);
     if (canvas.isNull())
         throw std::bad_alloc();
