@@ -334,6 +334,35 @@ private slots:
         QVERIFY(shown.isNull() || qAlpha(shown.pixel(1000, 1000)) < 8); // smoothed, white is a little less
     }
 
+    /// With memory again, a background choice shows the object as the marks have it, or nothing at all.
+    void backgroundAfterAShortPreview_data() { previewLargerThanMemory_data(); }
+
+    void backgroundAfterAShortPreview()
+    {
+        QFETCH(int, mebibytes);
+        if (hasSanitizer())
+            QSKIP("the address sanitizer needs an address space without limit");
+        const QString path = file("large.bmp");
+        picturefiles::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        m_user->open(path);
+        m_user->layDabs();
+        m_user->preview(true);
+        const QImage whole = m_user->probe().previewImage();
+        QVERIFY(!whole.isNull());
+        m_user->preview(false);
+        {
+            const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
+            m_user->preview(true);
+        }
+        m_user->window().applypreviewmask();
+        if (m_user->status() == "Ready") {
+            QVERIFY(m_user->probe().previewImage() == whole);
+        } else {
+            QCOMPARE(m_user->status(), "Not enough memory for a preview");
+            QVERIFY(m_user->probe().previewItem() == nullptr);
+        }
+    }
+
     /// A picture that is nothing but width takes little memory, and its edges much.
     void edgesLargerThanMemory()
     {
