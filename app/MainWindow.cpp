@@ -39,11 +39,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     connectCanvas();
 }
 
-MainWindow::~MainWindow()
-{
-    // The stack speaks once more when it goes, and what would listen has gone before it.
-    undoStack.disconnect(this);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::setUpProgress()
 {

@@ -98,6 +98,16 @@ void ZelGraphicsView::mousePressEvent(QMouseEvent *event)
     QGraphicsView::mousePressEvent(event);
 }
 
+void ZelGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // The second of two quick presses comes as this and as nothing else; a stroke may begin with it as well.
+    mousePressed = true;
+    if (scene() == nullptr)
+        return;
+    handle(rowOf(currentTool).press, event);
+    QGraphicsView::mouseDoubleClickEvent(event);
+}
+
 void ZelGraphicsView::mouseMoveEvent(QMouseEvent *event)
 {
     if (scene() == nullptr)

@@ -27,6 +27,7 @@ private slots:
     void squareLeftOfTheOrigin();
     void pressOutsideIsSilentAndMoveIsNot();
     void anyButtonPresses();
+    void secondOfTwoQuickPressesCounts();
     void movingWithoutAButton();
     void circle();
     void circleGoesAndComesBack();
@@ -244,6 +245,32 @@ void TestBrushTools::anyButtonPresses()
         driver::release(*view, view->mapFromScene(52, 50), button);
     }
     QCOMPARE(spy.size(), 6);
+}
+
+/// The window system turns it into a double click.
+void TestBrushTools::secondOfTwoQuickPressesCounts()
+{
+    view->SetTool(ToolKeepBrush);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    const QPoint position = view->mapFromScene(100, 70);
+    testsupport::CanvasMouse mouse(*view);
+    mouse.click(position);
+    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(position),
+                       QPointF(view->viewport()->mapToGlobal(position)), Qt::LeftButton, Qt::LeftButton,
+                       Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &second);
+    QCOMPARE(spy.size(), 2);
+    QCOMPARE(spy.at(1), spy.at(0));
+    // The button is held now, and draws.
+    QMouseEvent move(QEvent::MouseMove, QPointF(position), QPointF(view->viewport()->mapToGlobal(position)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QCOMPARE(spy.size(), 3);
+    mouse.release(position);
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QCOMPARE(spy.size(), 3);
+    view->setScene(nullptr);
+    QCoreApplication::sendEvent(view->viewport(), &second); // nothing to draw on, and nothing to crash over
 }
 
 void TestBrushTools::movingWithoutAButton()
