@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Ornevo developers
+# SPDX-License-Identifier: MIT
+#
 # One place for what every target of the project is compiled with.
 
 set(CMAKE_CXX_STANDARD 20)
