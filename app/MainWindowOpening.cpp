@@ -18,6 +18,8 @@
 #include <cstdint>
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Null when memory is short.
@@ -31,7 +33,8 @@ ornevo::LargeArray<unsigned char> bytesFor(const QImage &picture)
 
 QString MainWindow::lastDirectory() const
 {
-    return settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault)
+    return settings
+        .value(settings::currentDirectory.name, QLatin1StringView(settings::currentDirectory.windowDefault))
         .toString();
 }
 
@@ -75,7 +78,7 @@ void MainWindow::open()
         return;
     }
     form->hint->hide();
-    setWindowTitle("Ornevo Pro - " + QFileInfo(currentFile).fileName());
+    setWindowTitle(u"Ornevo Pro - "_s + QFileInfo(currentFile).fileName());
     form->statusBar->showMessage(tr("image opened"));
 
     imagePixmap = pixmap;

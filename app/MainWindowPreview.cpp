@@ -17,6 +17,8 @@
 
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double sizeToSigma = 5.0;
@@ -133,5 +135,5 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
     // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
     *object = QPixmap::fromImage(cutout::premultiplied(previewImage), Qt::NoOpaqueDetection);
     *background = cutout::backgroundLayer(workingImage.size(), backgroundColor,
-                                          QImage(":/icons/chessbackground.png"), backgroundImage);
+                                          QImage(u":/icons/chessbackground.png"_s), backgroundImage);
 }

@@ -8,12 +8,14 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     // These two words scope the settings store.
-    QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
-    QApplication::setOrganizationName("Tirelo software");
+    QApplication::setApplicationName(u"Ornevo Pro 2.7 for Mac OS X"_s);
+    QApplication::setOrganizationName(u"Tirelo software"_s);
     avoidSpecialSettingsFiles();
     removeAbandonedSnapshots();
     translations::installForDesktop();
