@@ -64,7 +64,7 @@ void MainWindow::on_actionExport_triggered()
 
 bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSize size)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
         return false;

@@ -32,9 +32,9 @@ void MainWindow::updatemask()
     if (topmostPicture() == nullptr)
         return;
 
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     form->statusBar->showMessage(tr("Isolating object"));
-    const ProgressStep progress(form->progressBar);
+    const app::ProgressStep progress(form->progressBar);
     outmask.clear();
     qWarning() << "outmask size before watd is" << outmask.size();
     try {
@@ -51,7 +51,7 @@ void MainWindow::on_actionMask_triggered()
 {
     constexpr QRgb green = qRgb(0, 255, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     const QString noMemory = tr("Not enough memory for a mask");
     updatemask();
     if (memoryRanOut) {
@@ -65,7 +65,7 @@ void MainWindow::on_actionMask_triggered()
         form->statusBar->showMessage(noMemory);
         return;
     }
-    maskItem = new PictureItem(overlay);
+    maskItem = new canvas::PictureItem(overlay);
     imageScene.addItem(maskItem);
     maskItem->setZValue(layers::maskOverlayZ);
     maskItem->setOpacity(maskOpacity);

@@ -47,7 +47,7 @@ void MainWindow::on_actionOpen_triggered()
         form->statusBar->showMessage(tr("No file selected"));
         return;
     }
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     open();
     // Whether or not the picture could be read, what belonged to the one before goes.
@@ -62,7 +62,7 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::open()
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     settings.setValue(settings::currentDirectory.name, QFileInfo(currentFile).canonicalPath());
     imageScene.clear();
     previewScene.clear();
@@ -82,7 +82,7 @@ void MainWindow::open()
     form->statusBar->showMessage(tr("image opened"));
 
     imagePixmap = pixmap;
-    imageScene.addItem(new PictureItem(imagePixmap));
+    imageScene.addItem(new canvas::PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
     // The canvas scales with its size: scroll bars that come later, with the first zoom, would scale it too.
     form->graphicsView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -94,7 +94,7 @@ void MainWindow::open()
 
     form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
     {
-        const ProgressStep progress(form->progressBar);
+        const app::ProgressStep progress(form->progressBar);
         workingImage = picture;
         edgeMap = std::move(edges);
         colorsobel();

@@ -27,7 +27,7 @@ constexpr double sizeToSigma = 5.0;
 
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     if (checked) {
         updatemask();
         setEditingActionsEnabled(false);
@@ -55,7 +55,7 @@ void MainWindow::showScene(QGraphicsScene &scene)
 
 void MainWindow::updatepreview()
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     updatepreviewmask();
     // Without a mask all of the photo would be shown, or nothing of it.
     if (memoryRanOut || (maskImage.isNull() && !workingImage.isNull())) {
@@ -102,8 +102,8 @@ void MainWindow::applypreviewmask()
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
     }
-    backgroundItem = new PictureItem(background);
-    previewItem = new PictureItem(object);
+    backgroundItem = new canvas::PictureItem(background);
+    previewItem = new canvas::PictureItem(object);
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);
     backgroundItem->setZValue(layers::backgroundZ);

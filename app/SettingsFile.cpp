@@ -32,7 +32,7 @@ QString settingsFolder()
 
 } // namespace
 
-void avoidSpecialSettingsFiles()
+void app::avoidSpecialSettingsFiles()
 {
     const QDir folder(settingsFolder());
     const QString organization = QCoreApplication::organizationName();

@@ -16,8 +16,8 @@ int main(int argc, char *argv[])
     // These two words scope the settings store.
     QApplication::setApplicationName(u"Ornevo Pro 2.7 for Mac OS X"_s);
     QApplication::setOrganizationName(u"Tirelo software"_s);
-    avoidSpecialSettingsFiles();
-    removeAbandonedSnapshots();
+    app::avoidSpecialSettingsFiles();
+    canvas::removeAbandonedSnapshots();
     translations::installForDesktop();
     MainWindow window(nullptr);
     QObject::connect(&window, SIGNAL(mwquit()), &application, SLOT(quit()));

@@ -87,6 +87,8 @@ bool isAbandoned(const QByteArray & /*path*/)
 
 } // namespace
 
+namespace canvas {
+
 bool UndoSnapshot::openFile()
 {
     m_file.setFileTemplate(QDir::tempPath() + u'/' + nameBeginning + u"XXXXXX"_s);
@@ -152,3 +154,5 @@ void removeAbandonedSnapshots()
             QFile::remove(path);
     }
 }
+
+} // namespace canvas
