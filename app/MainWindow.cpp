@@ -80,7 +80,7 @@ void MainWindow::setUpUndo()
 
 void MainWindow::letTabIntoTheToolBar()
 {
-    // The buttons of a tool bar never have the focus unless told to, and many actions stand there only. By
+    // The buttons of a tool bar never take the focus by themselves, and many actions stand there only. By
     // Tab alone, so that a click leaves the keys with the canvas.
     QList<QWidget *> buttons;
     for (QAction *action : form->mainToolBar->actions())

@@ -27,8 +27,9 @@ class Ui_MainWindow;
 /// The program's one window. It owns the state that the canvas, the mask pipeline and the output share; the
 /// loops over pixels are elsewhere. Its bodies are split by concern over MainWindow*.cpp.
 ///
-/// The names of the slots bind them to the actions of the form, misspellings included: setupUi() connects
-/// on_<object>_<signal>() by name, and no connect() is to be found.
+/// The names of the slots bind them to the actions of the form, misspellings included
+/// (docs/compatibility.md): setupUi() connects on_<object>_<signal>() by name, and no connect() is to be
+/// found.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -42,7 +43,7 @@ public:
     /// the photo before.
     void open();
     /// Writes the topmost picture of the editing scene (the overlay, if there is one) as JPEG, whatever the
-    /// name ends in. A failure is not told.
+    /// name ends in. A failure is not reported. (All of it is kept, see docs/compatibility.md.)
     void save(const QString &path);
 
     /// Fills `edgeMap` from `workingImage`.
@@ -145,7 +146,6 @@ private:
     void showScene(QGraphicsScene &scene);
     void scaleBackground(double factor);
     bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
-    [[nodiscard]] QPixmap exportCanvas() const;
     bool writeScene(const QString &path);
 
     std::unique_ptr<Ui_MainWindow> form;

@@ -5,7 +5,7 @@
 
 #include "app/WaitCursor.h"
 #include "app/dialogs/BackgroundDialog.h"
-#include "cutout/PictureFile.h"
+#include "cutout/Pipeline.h"
 
 #include <QGraphicsPixmapItem>
 

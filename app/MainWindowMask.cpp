@@ -8,8 +8,7 @@
 #include "canvas/MarkerDabs.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
-#include "cutout/IndexPicture.h"
-#include "segmentation/FrWatershed.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -38,8 +37,9 @@ void MainWindow::updatemask()
     outmask.clear();
     qWarning() << "outmask size before watd is" << outmask.size();
     try {
-        markers::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
-        FrWatershed(&workingImage, seeds.keep, seeds.remove, outmask, edgeMap.get(), form->progressBar);
+        const cutout::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
+        outmask = cutout::floodObject(workingImage, edgeMap, seeds,
+                                      [this](int percent) { form->progressBar->setValue(percent); });
     } catch (const std::bad_alloc &) {
         outmask = {}; // the picture has no mask; the program goes on
         memoryRanOut = true;
@@ -49,8 +49,6 @@ void MainWindow::updatemask()
 
 void MainWindow::on_actionMask_triggered()
 {
-    constexpr QRgb green = qRgb(0, 255, 0);
-    constexpr QRgb white = qRgb(255, 255, 255);
     const app::WaitCursor busy;
     const QString noMemory = tr("Not enough memory for a mask");
     updatemask();
@@ -59,8 +57,7 @@ void MainWindow::on_actionMask_triggered()
         return;
     }
     form->statusBar->showMessage(tr("Displaying image"));
-    const QPixmap overlay =
-        QPixmap::fromImage(cutout::paintIndices(workingImage.size(), outmask, green, white));
+    const QPixmap overlay = QPixmap::fromImage(cutout::objectOverlay(workingImage.size(), outmask));
     if (overlay.isNull() && !workingImage.isNull()) {
         form->statusBar->showMessage(noMemory);
         return;

@@ -7,29 +7,15 @@
 #include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SettingsKeys.h"
-#include "cutout/PictureFile.h"
-#include "imaging/EdgeMap.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include <algorithm>
-#include <cstdint>
 #include <new>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Null when memory is short.
-ornevo::LargeArray<unsigned char> bytesFor(const QImage &picture)
-{
-    return ornevo::makeLargeArray<unsigned char>(static_cast<std::size_t>(picture.width()) *
-                                                 static_cast<std::size_t>(picture.height()));
-}
-
-} // namespace
 
 QString MainWindow::lastDirectory() const
 {
@@ -69,10 +55,10 @@ void MainWindow::open()
     maskItem = nullptr;
     outmask.clear();
 
-    const QImage picture = cutout::readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
+    const QImage picture = cutout::readPhoto(currentFile);
     // All the memory that the picture takes is got before anything refers to the picture.
     const QPixmap pixmap = QPixmap::fromImage(picture);
-    ornevo::LargeArray<unsigned char> edges = bytesFor(picture);
+    cutout::EdgeMap edges = cutout::newEdgeMap(picture);
     if (pixmap.isNull() || edges == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;
@@ -108,9 +94,8 @@ void MainWindow::colorsobel()
     if (edgeMap == nullptr)
         return;
     try {
-        imaging::computeEdgeMap(workingImage, edgeMap.get());
-    } catch (const std::bad_alloc &) { // short of memory, there are no edges; differences of colour remain
+        cutout::findEdges(workingImage, edgeMap);
+    } catch (const std::bad_alloc &) { // differences of brightness remain to go by
         memoryRanOut = true;
-        std::fill_n(edgeMap.get(), workingImage.sizeInBytes() / 4, std::uint8_t{0});
     }
 }

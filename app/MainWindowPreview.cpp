@@ -6,10 +6,7 @@
 #include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
-#include "cutout/BackgroundLayer.h"
-#include "cutout/CutOut.h"
-#include "cutout/FourChannelBlur.h"
-#include "cutout/IndexPicture.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -18,12 +15,6 @@
 #include <new>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr double sizeToSigma = 5.0;
-
-} // namespace
 
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
@@ -68,14 +59,12 @@ void MainWindow::updatepreview()
 
 void MainWindow::updatepreviewmask()
 {
-    constexpr QRgb black = qRgb(0, 0, 0);
-    constexpr QRgb white = qRgb(255, 255, 255);
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
-    QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
+    QImage sharp = cutout::objectMask(workingImage.size(), outmask);
     maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : sharp;
     if (smoothEdges && !maskImage.isNull())
-        blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
+        blur(&sharp, &maskImage, gaussSize, cutout::smoothingSigma(gaussSize));
 }
 
 void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
@@ -102,7 +91,9 @@ void MainWindow::applypreviewmask()
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
     }
-    backgroundItem = new canvas::PictureItem(background);
+    auto *behind = new canvas::PictureItem(background);
+    behind->keepPainted();
+    backgroundItem = behind;
     previewItem = new canvas::PictureItem(object);
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);
@@ -132,7 +123,7 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
         form->statusBar->showMessage(tr("feather done"));
     }
-    // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
+    // With an alpha channel even where nothing is transparent yet, the brushes can change it piece by piece.
     *object = QPixmap::fromImage(cutout::premultiplied(previewImage), Qt::NoOpaqueDetection);
     *background = cutout::backgroundLayer(workingImage.size(), backgroundColor,
                                           QImage(u":/icons/chessbackground.png"_s), backgroundImage);

@@ -5,7 +5,7 @@
 
 #include "app/WaitCursor.h"
 #include "cutout/FlatPicture.h"
-#include "cutout/PictureFile.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>

@@ -6,7 +6,8 @@
 
 namespace {
 
-// Sizes and intensities are bytes: a stored 300 counts as 44, and a step beyond either end wraps around.
+// Sizes and intensities are bytes: a stored 300 counts as 44, and a step beyond either end wraps around. That
+// is kept, see docs/compatibility.md.
 unsigned char byteFrom(int value)
 {
     return static_cast<unsigned char>(value);
@@ -62,7 +63,7 @@ void MainWindow::stepToolSize(int step)
     if (used != &keepMarker && form->actionKeep_arker->isEnabled() &&
         settings.value(settings::sameSize.name, QLatin1StringView(settings::sameSize.windowDefault))
             .toBool()) {
-        changeByte(keepMarker.size, tr("Tool size is %1"), step); // which is that of every tool
+        changeByte(keepMarker.size, tr("Tool size is %1"), step); // which is that of all tools
         form->graphicsView->updatetoolssettings();
     } else if (used != nullptr) {
         changeByte(used->size, tr(used->size.message), step);

@@ -65,7 +65,7 @@ QStringList translations::languages()
 
 QString translations::languageFor(const QStringList &preferred)
 {
-    // Not QTranslator's own search, which has no catalogue for English and would pass it over for the next
+    // Not QTranslator's own search, which has no catalogue for English and would ignore it for the next
     // language of the list.
     for (const QString &name : preferred) {
         const QLocale locale(name);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    // These two words scope the settings store.
+    // These two name the file of the settings that people have, and stay: see docs/compatibility.md.
     QApplication::setApplicationName(u"Ornevo Pro 2.7 for Mac OS X"_s);
     QApplication::setOrganizationName(u"Tirelo software"_s);
     app::avoidSpecialSettingsFiles();

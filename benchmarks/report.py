@@ -4,10 +4,10 @@
 
     report.py FOLDER PAGE [PLOT]
 
-FOLDER has times.json and inuse.json of ornevo_benchmarks, memory.txt of road_memory and first.txt of first_open. In PAGE
-everything between the two "measured" marks is replaced by what times.json and the texts hold, and everything between
-the two "in use" marks by what inuse.json and the texts hold; a part whose file is missing stays as it is. Fails when a
-row was measured that no table shows, and when a table wants a row that was not measured.
+FOLDER has times.json and inuse.json of ornevo_benchmarks, memory.txt of pipeline_memory and first.txt of first_open.
+In PAGE everything between the two "measured" comments is replaced by what times.json and the texts hold, and everything
+between the two "in use" comments by what inuse.json and the texts hold; a part whose file is missing stays as it is.
+Fails when a row was measured that no table shows, and when a table wants a row that was not measured.
 """
 
 import json

@@ -69,7 +69,7 @@ void ZelGraphicsView::readSizes()
     keepMarkerSize = sizeOf(settings::keepMarkerSize);
     if (sameSize) {
         removeMarkerSize = keepBrushSize = removeBrushSize = eraserSize = keepMarkerSize;
-        return; // the Blue marker and the opacity keep what they had
+        return; // the Blue marker and the opacity keep what they had: see docs/compatibility.md
     }
     removeMarkerSize = sizeOf(settings::removeMarkerSize);
     keepBrushSize = sizeOf(settings::keepBrushSize);

@@ -26,7 +26,7 @@ void ZelGraphicsView::KeepBrushMouseMoved(QMouseEvent *event)
 void ZelGraphicsView::RemoveBrushMouseMoved(QMouseEvent *event)
 {
     moveBrush(event, removeBrushSize);
-    if (brushOutline != nullptr)
+    if (brushOutline != nullptr) // after a move of this brush alone: kept, see docs/compatibility.md
         scene()->update();
 }
 
@@ -44,7 +44,8 @@ void ZelGraphicsView::moveBrush(QMouseEvent *event, int size)
     showBrushOutline(square);
     if (!mousePressed)
         return;
-    emit AnyBrush(square, false); // unlike a press, a move counts even where the square leaves the scene
+    // Unlike a press, a move counts even where the square leaves the scene: see docs/compatibility.md.
+    emit AnyBrush(square, false);
     lastMousePos = position;
 }
 

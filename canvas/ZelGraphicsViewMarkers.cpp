@@ -34,6 +34,8 @@ bool ZelGraphicsView::acceptsDabAt(QPointF position) const
     return x >= 1 && y >= 1 && x < picture.width() && y < picture.height();
 }
 
+// The pointer is at the corner of these dabs and in the middle of the Blue ones: kept, see
+// docs/compatibility.md.
 void ZelGraphicsView::KeepMarkerMouseMoved(QMouseEvent *event)
 {
     const QPointF position = scenePosition(*this, *event);
@@ -70,7 +72,7 @@ void ZelGraphicsView::BlueMarkerMouseMoved(QMouseEvent *event)
     const QColor colour(markers::blueColour);
     QGraphicsItem *dab = scene()->addEllipse(square, QPen(colour), QBrush(colour));
     dab->setZValue(layers::dabZ);
-    dab->setOpacity(markerOpacity / 10.0); // barely tinted, so that what lies under it stays visible
+    dab->setOpacity(markerOpacity / 10.0); // barely tinted: kept, see docs/compatibility.md
 }
 
 void ZelGraphicsView::EraserMousePressed(QMouseEvent *event)

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The pencils are drawn so that their tip lies there at this width.
+// The pencils are drawn so that their tip lies there at this width: kept, see docs/compatibility.md.
 constexpr int pencilWidth = 8;
 constexpr QPoint pencilTip(4, 21);
 constexpr int penWidth = 32;

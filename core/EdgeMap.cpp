@@ -50,7 +50,7 @@ public:
     }
 
     /// Writes the averaged gradient magnitudes of row `y`, neither the first nor the last; each row is asked
-    /// for once, in order. `out` has room for the padding.
+    /// for once, in order. `out` includes the padding.
     void row(int y, std::uint8_t *out)
     {
         while (m_nextBlurred <= y + 1)
@@ -166,7 +166,7 @@ void computeEdgeMap(const PictureView &picture, const MutablePlaneView &edges,
     const std::uint64_t pixels =
         static_cast<std::uint64_t>(picture.width) * static_cast<std::uint64_t>(picture.height);
     const auto mean = static_cast<std::uint8_t>(all.sum / pixels);
-    const auto lift = static_cast<std::uint8_t>(255 - all.largest);
+    const auto lift = static_cast<std::uint8_t>(255 - all.largest); // promised, see docs/compatibility.md
     if (edges.bytesPerRow == edges.width) {
         liftAbove(edges.bytes, static_cast<std::size_t>(pixels), mean, lift);
         return;

@@ -27,6 +27,7 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
     for (const settings::Key *key : settings::all) {
         QWidget *field = fieldOf(*key);
         // "Same size for all tools" is not read: confirming the dialog turns it off unless it is ticked.
+        // Kept, see docs/compatibility.md.
         if (field == nullptr || key->dialogDefault == nullptr)
             continue;
         const QMetaProperty value = valueOf(*field);
@@ -58,7 +59,7 @@ void OptionsDialog::on_checkBox_toggled(bool checked)
     for (QSpinBox *size : {m_form->spinBox_2, m_form->spinBox_3, m_form->spinBox_4, m_form->spinBox_5})
         size->setEnabled(!checked);
     if (checked)
-        m_form->spinBox_8->setEnabled(false); // and stays so: the Blue marker's size is not given back
+        m_form->spinBox_8->setEnabled(false); // and stays so: see docs/compatibility.md
 }
 
 void OptionsDialog::changeEvent(QEvent *event)

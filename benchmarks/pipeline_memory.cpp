@@ -3,10 +3,11 @@
 
 // How much memory the program takes from opening to export: open, mask, preview, brush, export.
 //
-//   road_memory make MEGAPIXELS FILE   writes a photo to measure with
-//   road_memory FILE                   takes it from step to step and prints by how many bytes a pixel the
-//   peak
-//                                      lies above what the started program had
+//   pipeline_memory make MEGAPIXELS FILE
+//       writes a photo to measure with
+//   pipeline_memory FILE
+//       takes it from step to step and prints by how many bytes a pixel the peak lies above what the started
+//       program had
 //
 // A process of its own for either, since a peak does not go down.
 
@@ -37,7 +38,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     if (argc != 2) {
-        std::fprintf(stderr, "usage: road_memory make MEGAPIXELS FILE | road_memory FILE\n");
+        std::fprintf(stderr, "usage: pipeline_memory make MEGAPIXELS FILE | pipeline_memory FILE\n");
         return 2;
     }
     ProgramAtWork program{QString(argv[1])};
