@@ -13,6 +13,8 @@
 #include <QThread>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int undoLimit = 200;
@@ -80,7 +82,7 @@ void MainWindow::letTabIntoTheToolBar()
     for (QAction *action : form->mainToolBar->actions())
         buttons << form->mainToolBar->widgetForAction(action);
     nameToolBar();
-    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>(u"qt_toolbar_ext_button"_s))
         buttons << overflow;
     QWidget *previous = form->graphicsView;
     for (QWidget *button : buttons) {
@@ -106,7 +108,7 @@ void MainWindow::repaintAfterDialog()
     // given the place back, which is when this window is the active one again, and the window has painted it.
     // Work that keeps the one thread busy waits for that, though not for long: there need not be a manager.
     constexpr int patience = 100; // ms
-    const QDeadlineTimer deadline(QGuiApplication::platformName() == "xcb" && isVisible() ? patience : 0);
+    const QDeadlineTimer deadline(QGuiApplication::platformName() == "xcb"_L1 && isVisible() ? patience : 0);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     while (!isActiveWindow() && !deadline.hasExpired()) {
         QThread::msleep(1);

@@ -158,15 +158,15 @@ private:
     bool isOriginalFile = false;               ///< currentFile is the user's photo: saving over it asks first
     QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
     ornevo::LargeArray<unsigned char> edgeMap; ///< of workingImage, a byte a pixel
-    ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
-    bool memoryRanOut = false;                 ///< in the last finding of edges or of the mask
-    QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order
-    QPoint previewOffset;                      ///< where the object lies on the preview, in pixels
-    ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's
-    QImage previewImage;                             ///< the cut-out, ARGB32, brushed; null: to be cut anew
-    QTimer brushTimer;                               ///< ends the wait for more dabs of a batch
-    QTimer skipLastRectTimer;                        ///< sets skipLastRect a while after a batch
-    QRect lastBrushRect;                             ///< the last dab of the last batch, in scene pixels
+    canvas::ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
+    bool memoryRanOut = false;                         ///< in the last finding of edges or of the mask
+    QList<int> outmask;   ///< the pixels found, y · width + x, in increasing order
+    QPoint previewOffset; ///< where the object lies on the preview, in pixels
+    canvas::ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's
+    QImage previewImage;      ///< the cut-out, ARGB32, brushed; null: to be cut anew
+    QTimer brushTimer;        ///< ends the wait for more dabs of a batch
+    QTimer skipLastRectTimer; ///< sets skipLastRect a while after a batch
+    QRect lastBrushRect;      ///< the last dab of the last batch, in scene pixels
     bool skipLastRect = true; ///< false: lastBrushRect is left out of the next batch; never in this program
     QList<QRect> pendingBrushRects; ///< the batch that is being collected
     QUndoStack undoStack;
@@ -184,5 +184,5 @@ private:
     int gaussSize = 0;                 ///< taps; a fifth of it is the sigma
     QRgb backgroundColor = 0xFFFFFFFF; ///< not premultiplied; counts while backgroundImage is null
     QImage backgroundImage;
-    ItemPointer<QGraphicsPixmapItem> previewItem; ///< shows previewImage; the preview scene's
+    canvas::ItemPointer<QGraphicsPixmapItem> previewItem; ///< shows previewImage; the preview scene's
 };

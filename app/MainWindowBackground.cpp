@@ -22,7 +22,7 @@ void MainWindow::on_actionSelect_Background_triggered()
     dialog.exec();
     if (!dialog.accepted)
         return;
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     if (dialog.useColor) {
         backgroundColor = dialog.color;

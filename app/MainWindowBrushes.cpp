@@ -79,7 +79,7 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
 void MainWindow::showCutOut(const QRect &area)
 {
     if (previewItem != nullptr && !previewImage.isNull())
-        updatePixmap(*previewItem, previewImage, area);
+        canvas::updatePixmap(*previewItem, previewImage, area);
 }
 
 void MainWindow::on_HandToolPressed(QPoint prevpos, QPoint pos)

@@ -17,12 +17,14 @@
 #include <new>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isJpeg(const QString &suffix)
 {
-    return suffix.compare("JPG", Qt::CaseInsensitive) == 0 ||
-           suffix.compare("JPEG", Qt::CaseInsensitive) == 0;
+    return suffix.compare("JPG"_L1, Qt::CaseInsensitive) == 0 ||
+           suffix.compare("JPEG"_L1, Qt::CaseInsensitive) == 0;
 }
 
 /// How far a picture reaches on its scene, its own zoom included, in whole pixels.
@@ -62,7 +64,7 @@ void MainWindow::on_actionExport_triggered()
 
 bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSize size)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
         return false;

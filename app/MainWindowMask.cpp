@@ -31,9 +31,9 @@ void MainWindow::updatemask()
     if (topmostPicture() == nullptr)
         return;
 
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     form->statusBar->showMessage(tr("Isolating object"));
-    const ProgressStep progress(form->progressBar);
+    const app::ProgressStep progress(form->progressBar);
     outmask.clear();
     qWarning() << "outmask size before watd is" << outmask.size();
     try {
@@ -49,7 +49,7 @@ void MainWindow::updatemask()
 
 void MainWindow::on_actionMask_triggered()
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     const QString noMemory = tr("Not enough memory for a mask");
     updatemask();
     if (memoryRanOut) {
@@ -62,7 +62,7 @@ void MainWindow::on_actionMask_triggered()
         form->statusBar->showMessage(noMemory);
         return;
     }
-    maskItem = new PictureItem(overlay);
+    maskItem = new canvas::PictureItem(overlay);
     imageScene.addItem(maskItem);
     maskItem->setZValue(layers::maskOverlayZ);
     maskItem->setOpacity(maskOpacity);

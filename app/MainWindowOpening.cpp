@@ -15,9 +15,12 @@
 
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 QString MainWindow::lastDirectory() const
 {
-    return settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault)
+    return settings
+        .value(settings::currentDirectory.name, QLatin1StringView(settings::currentDirectory.windowDefault))
         .toString();
 }
 
@@ -30,7 +33,7 @@ void MainWindow::on_actionOpen_triggered()
         form->statusBar->showMessage(tr("No file selected"));
         return;
     }
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     open();
     // Whether or not the picture could be read, what belonged to the one before goes.
@@ -45,7 +48,7 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::open()
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     settings.setValue(settings::currentDirectory.name, QFileInfo(currentFile).canonicalPath());
     imageScene.clear();
     previewScene.clear();
@@ -61,11 +64,11 @@ void MainWindow::open()
         return;
     }
     form->hint->hide();
-    setWindowTitle("Ornevo Pro - " + QFileInfo(currentFile).fileName());
+    setWindowTitle(u"Ornevo Pro - "_s + QFileInfo(currentFile).fileName());
     form->statusBar->showMessage(tr("image opened"));
 
     imagePixmap = pixmap;
-    imageScene.addItem(new PictureItem(imagePixmap));
+    imageScene.addItem(new canvas::PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
     // The canvas scales with its size: scroll bars that come later, with the first zoom, would scale it too.
     form->graphicsView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -77,7 +80,7 @@ void MainWindow::open()
 
     form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
     {
-        const ProgressStep progress(form->progressBar);
+        const app::ProgressStep progress(form->progressBar);
         workingImage = picture;
         edgeMap = std::move(edges);
         colorsobel();

@@ -14,9 +14,11 @@
 
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     if (checked) {
         updatemask();
         setEditingActionsEnabled(false);
@@ -44,7 +46,7 @@ void MainWindow::showScene(QGraphicsScene &scene)
 
 void MainWindow::updatepreview()
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     updatepreviewmask();
     // Without a mask all of the photo would be shown, or nothing of it.
     memoryRanOut = memoryRanOut || (maskImage.isNull() && !workingImage.isNull());
@@ -90,10 +92,10 @@ void MainWindow::applypreviewmask()
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
     }
-    auto *behind = new PictureItem(background);
+    auto *behind = new canvas::PictureItem(background);
     behind->keepPainted();
     backgroundItem = behind;
-    previewItem = new PictureItem(object);
+    previewItem = new canvas::PictureItem(object);
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);
     backgroundItem->setZValue(layers::backgroundZ);
@@ -125,5 +127,5 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
     // With an alpha channel even where nothing is transparent yet, the brushes can change it piece by piece.
     *object = QPixmap::fromImage(cutout::premultiplied(previewImage), Qt::NoOpaqueDetection);
     *background = cutout::backgroundLayer(workingImage.size(), backgroundColor,
-                                          QImage(":/icons/chessbackground.png"), backgroundImage);
+                                          QImage(u":/icons/chessbackground.png"_s), backgroundImage);
 }

@@ -18,7 +18,7 @@ unsigned char byteFrom(int value)
 void MainWindow::updatetoolssettings()
 {
     const auto stored = [this](const settings::Key &key) {
-        return settings.value(key.name, key.windowDefault);
+        return settings.value(key.name, QLatin1StringView(key.windowDefault));
     };
     for (const ToolAction &row : ToolTable::rows)
         for (const ToolSetting &setting : {row.size, row.intensity})
@@ -61,7 +61,8 @@ void MainWindow::stepToolSize(int step)
     const ToolAction *used = toolInUse(&ToolAction::size);
     const ToolAction &keepMarker = ToolTable::rows.front();
     if (used != &keepMarker && form->actionKeep_arker->isEnabled() &&
-        settings.value(settings::sameSize.name, settings::sameSize.windowDefault).toBool()) {
+        settings.value(settings::sameSize.name, QLatin1StringView(settings::sameSize.windowDefault))
+            .toBool()) {
         changeByte(keepMarker.size, tr("Tool size is %1"), step); // which is that of all tools
         form->graphicsView->updatetoolssettings();
     } else if (used != nullptr) {

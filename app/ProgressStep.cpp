@@ -11,6 +11,8 @@ constexpr int pauseBetweenPaintings = 40; // ms; flows for the eye
 
 } // namespace
 
+namespace app {
+
 ProgressStep::ProgressStep(QProgressBar *bar) : m_bar(bar)
 {
     m_bar->show();
@@ -35,3 +37,5 @@ void ProgressStep::paintIfDue()
     m_bar->setUpdatesEnabled(false);
     m_sincePainted.restart();
 }
+
+} // namespace app

@@ -8,6 +8,8 @@
 
 class QProgressBar;
 
+namespace app {
+
 /// Shows a progress bar for as long as it lives, and paints it a few times a second, however often its value
 /// changes.
 ///
@@ -27,3 +29,5 @@ private:
     QElapsedTimer m_sincePainted;
     QMetaObject::Connection m_connection;
 };
+
+} // namespace app

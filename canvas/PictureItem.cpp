@@ -83,6 +83,8 @@ int reachOfChange(const QGraphicsItem &item)
 
 } // namespace
 
+namespace canvas {
+
 PictureItem::PictureItem(const QPixmap &pixmap) : QGraphicsPixmapItem(pixmap)
 {
     // By default the shape is made of all the pixels' alpha, after every change anew, as soon as somebody
@@ -176,3 +178,5 @@ void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &a
     else
         item.setPixmap(QPixmap::fromImage(image));
 }
+
+} // namespace canvas

@@ -8,6 +8,8 @@
 
 #include <vector>
 
+namespace canvas {
+
 /// A pixmap item that is shown smoothly where it is reduced and with sharp pixels where it is enlarged.
 ///
 /// Where it is reduced to less than a half, it is drawn from mipmap levels of half, a quarter ... of its
@@ -40,3 +42,5 @@ private:
 /// Has `item` show `image`, of which `area` has changed: a PictureItem renews that alone, any other item gets
 /// a new pixmap.
 void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &area);
+
+} // namespace canvas

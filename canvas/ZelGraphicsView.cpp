@@ -61,9 +61,11 @@ void ZelGraphicsView::updatetoolssettings()
 void ZelGraphicsView::readSizes()
 {
     const auto sizeOf = [this](const settings::Key &key) {
-        return static_cast<unsigned char>(settings->value(key.name, key.viewDefault).toInt());
+        return static_cast<unsigned char>(
+            settings->value(key.name, QLatin1StringView(key.viewDefault)).toInt());
     };
-    const bool sameSize = settings->value(settings::sameSize.name, settings::sameSize.viewDefault).toBool();
+    const bool sameSize =
+        settings->value(settings::sameSize.name, QLatin1StringView(settings::sameSize.viewDefault)).toBool();
     keepMarkerSize = sizeOf(settings::keepMarkerSize);
     if (sameSize) {
         removeMarkerSize = keepBrushSize = removeBrushSize = eraserSize = keepMarkerSize;
@@ -74,7 +76,9 @@ void ZelGraphicsView::readSizes()
     removeBrushSize = sizeOf(settings::removeBrushSize);
     eraserSize = sizeOf(settings::eraserSize);
     blueMarkerSize = sizeOf(settings::blueMarkerSize);
-    markerOpacity = settings->value(settings::maskOpacity.name, settings::maskOpacity.viewDefault).toDouble();
+    markerOpacity =
+        settings->value(settings::maskOpacity.name, QLatin1StringView(settings::maskOpacity.viewDefault))
+            .toDouble();
 }
 
 void ZelGraphicsView::updateellipse(int size)

@@ -117,11 +117,11 @@ private:
     void removeBrushOutline();
 
     DrawingTools currentTool = ToolNone;
-    ItemPointer<QGraphicsPathItem> penPathItem; ///< the line being drawn
-    ItemPointer<BrushOutline> brushOutline;     ///< the brush circle
-    QMutex toolMutex;                           // unused
-    QPoint lastMousePos;                        ///< in view pixels
-    unsigned char keepMarkerSize = 0;           // units: SettingsKeys.h
+    canvas::ItemPointer<QGraphicsPathItem> penPathItem;     ///< the line being drawn
+    canvas::ItemPointer<canvas::BrushOutline> brushOutline; ///< the brush circle
+    QMutex toolMutex;                                       // unused
+    QPoint lastMousePos;                                    ///< in view pixels
+    unsigned char keepMarkerSize = 0;                       // units: SettingsKeys.h
     unsigned char removeMarkerSize = 0;
     unsigned char keepBrushSize = 0;
     unsigned char removeBrushSize = 0;
@@ -130,5 +130,5 @@ private:
     double markerOpacity = 0.0; ///< ten times that of the Blue marker's dabs
     bool mousePressed = false;
     QPointF m_penStart; ///< in scene pixels
-    std::vector<ItemPointer<QGraphicsItem>> m_erasedDabs;
+    std::vector<canvas::ItemPointer<QGraphicsItem>> m_erasedDabs;
 };

@@ -56,7 +56,7 @@ void ZelGraphicsView::showBrushOutline(const QRect &square)
         return;
     }
     if (brushOutline == nullptr) {
-        brushOutline = new BrushOutline;
+        brushOutline = new canvas::BrushOutline;
         scene()->addItem(brushOutline);
     }
     brushOutline->showAt(square, pixelInScene());

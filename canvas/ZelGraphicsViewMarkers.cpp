@@ -93,7 +93,7 @@ void ZelGraphicsView::EraserMousePressed(QMouseEvent *event)
 
 void ZelGraphicsView::discardErasedDabs()
 {
-    for (const ItemPointer<QGraphicsItem> &dab : m_erasedDabs)
+    for (const canvas::ItemPointer<QGraphicsItem> &dab : m_erasedDabs)
         delete dab.get();
     m_erasedDabs.clear();
 }

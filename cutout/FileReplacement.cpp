@@ -146,7 +146,7 @@ bool overwrite(const QByteArray &path, const QByteArray &contents)
 
 bool replaceFile(const QString &path, const QByteArray &contents)
 {
-    if (path.isEmpty() || path.endsWith('/'))
+    if (path.isEmpty() || path.endsWith(u'/'))
         return false;
     const QByteArray name = QFile::encodeName(endOfLinks(path));
     if (name.isEmpty())

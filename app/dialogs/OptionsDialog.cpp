@@ -31,7 +31,7 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
         if (field == nullptr || key->dialogDefault == nullptr)
             continue;
         const QMetaProperty value = valueOf(*field);
-        QVariant stored = m_settings->value(key->name, key->dialogDefault);
+        QVariant stored = m_settings->value(key->name, QLatin1StringView(key->dialogDefault));
         stored.convert(value.metaType()); // whatever cannot be read counts as 0 or unticked
         value.write(field, stored);
     }
@@ -42,7 +42,7 @@ OptionsDialog::~OptionsDialog() = default;
 QWidget *OptionsDialog::fieldOf(const settings::Key &key) const
 {
     for (QWidget *widget : findChildren<QWidget *>())
-        if (widget->property("settingsKey").toString() == key.name)
+        if (widget->property("settingsKey").toString() == QLatin1StringView(key.name))
             return widget;
     return nullptr;
 }

@@ -240,8 +240,8 @@ void LongWorkTest::exceptions()
 {
     WindowUnderTest t;
     try {
-        const WaitCursor busy;
-        const ProgressStep progress(&t.progressBar());
+        const app::WaitCursor busy;
+        const app::ProgressStep progress(&t.progressBar());
         QVERIFY(pointerWaits());
         throw std::runtime_error("the work fails");
     } catch (const std::runtime_error &) {

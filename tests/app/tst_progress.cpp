@@ -44,7 +44,7 @@ private slots:
         t.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&t.window));
         const Paintings paintings(t.progressBar());
-        const ProgressStep step(&t.progressBar());
+        const app::ProgressStep step(&t.progressBar());
         for (int percent = 1; percent <= 5; ++percent) {
             QTest::qSleep(50);
             t.progressBar().setValue(percent);
@@ -61,7 +61,7 @@ private slots:
         const Paintings paintings(t.progressBar());
         QElapsedTimer age;
         age.start();
-        const ProgressStep step(&t.progressBar());
+        const app::ProgressStep step(&t.progressBar());
         for (int percent = 1; percent <= 100; ++percent) {
             QTest::qSleep(1);
             t.progressBar().setValue(percent);
@@ -80,7 +80,7 @@ private slots:
         QCoreApplication::processEvents();
         const QImage before = onScreen();
         {
-            const ProgressStep step(&t.progressBar());
+            const app::ProgressStep step(&t.progressBar());
             QTest::qSleep(60);
             t.progressBar().setValue(42);
             QVERIFY(onScreen() != before);
@@ -98,7 +98,7 @@ private slots:
         const int below = t.window.centralWidget()->height() - canvas.bottom();
         QVERIFY2(below <= 14, qPrintable(QString::number(below)));
         {
-            const ProgressStep step(&t.progressBar());
+            const app::ProgressStep step(&t.progressBar());
             driver::settle();
             QCOMPARE(t.view.geometry(), canvas);
             QVERIFY(t.progressBar().height() >= 4); // enough to be seen
@@ -114,7 +114,7 @@ private slots:
         t.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&t.window));
         {
-            const ProgressStep step(&t.progressBar());
+            const app::ProgressStep step(&t.progressBar());
             QVERIFY(t.progressBar().isVisible());
         }
         QVERIFY(!t.progressBar().isVisible());
