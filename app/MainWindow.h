@@ -71,6 +71,7 @@ signals:
     void mwquit();
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -121,6 +122,7 @@ private:
     struct ToolTable;
 
     void setUpProgress();
+    void setUpStatusBar();
     void setUpHint();
     void setUpTools();
     void setUpUndo();
