@@ -367,6 +367,22 @@ private slots:
         QVERIFY(isTaken(jpeg(20488, 16384, 3)));
     }
 
+    /// Kept is what the pixels take, to the byte. Each code of these stands for one pixel more than the one
+    /// before.
+    void codesOfAGif()
+    {
+        const QByteArray data = longCodes(0);
+        int bits = 3 + 3; // the code that begins, and that of the first pixel
+        int size = 3;
+        for (int code = 2; code < 60; ++code) {
+            bits += size;
+            if (code + 5 == 1 << size)
+                ++size;
+            const int pixels = code * (code + 1) / 2;
+            QCOMPARE(cutout::leanGif(gif(pixels, 1, data)), gif(pixels, 1, data.left((bits + 7) / 8)));
+        }
+    }
+
     void orientation()
     {
         for (int side = 1; side <= 8; ++side) {
