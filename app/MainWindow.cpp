@@ -31,6 +31,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     setUpUndo();
     letTabIntoTheToolBar();
     setUpProgress();
+    setUpStatusBar();
     setUpHint();
     QGuiApplication::setWindowIcon(windowIcon()); // which the dialogs take
     updatetoolssettings();
@@ -41,11 +42,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     connectCanvas();
 }
 
-MainWindow::~MainWindow()
-{
-    // The stack speaks once more when it goes, and what would listen has gone before it.
-    undoStack.disconnect(this);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::setUpProgress()
 {
@@ -54,6 +51,21 @@ void MainWindow::setUpProgress()
     policy.setRetainSizeWhenHidden(true);
     form->progressBar->setSizePolicy(policy);
     form->progressBar->hide();
+}
+
+void MainWindow::setUpStatusBar()
+{
+    // Most texts tell of work that begins now and keeps the event loop from painting them. All else that
+    // waits to be painted comes along, such as the photo that was opened.
+    connect(form->statusBar, &QStatusBar::messageChanged, form->statusBar,
+            [bar = form->statusBar] { bar->repaint(); });
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    // No action has a status tip; the empty one of whatever menu or button the pointer comes by would wipe
+    // out what the status bar says.
+    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
 }
 
 void MainWindow::setUpHint()

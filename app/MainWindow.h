@@ -72,6 +72,7 @@ signals:
     void mwquit();
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -122,6 +123,7 @@ private:
     struct ToolTable;
 
     void setUpProgress();
+    void setUpStatusBar();
     void setUpHint();
     void setUpTools();
     void setUpUndo();

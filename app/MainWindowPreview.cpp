@@ -49,7 +49,8 @@ void MainWindow::updatepreview()
     const app::WaitCursor busy;
     updatepreviewmask();
     // Without a mask all of the photo would be shown, or nothing of it.
-    if (memoryRanOut || (maskImage.isNull() && !workingImage.isNull())) {
+    memoryRanOut = memoryRanOut || (maskImage.isNull() && !workingImage.isNull());
+    if (memoryRanOut) {
         previewScene.clear();
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
@@ -115,7 +116,7 @@ void MainWindow::framePreview()
 void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
 {
     if (previewImage.isNull()) {
-        if (topmostPicture() == nullptr)
+        if (topmostPicture() == nullptr || memoryRanOut) // no mask to cut it with
             return;
         form->statusBar->showMessage(tr("getting inversed mask"));
         previewImage = cutout::cutOut(imagePixmap.toImage(), maskImage);

@@ -16,6 +16,7 @@ namespace app {
 ProgressStep::ProgressStep(QProgressBar *bar) : m_bar(bar)
 {
     m_bar->show();
+    m_bar->repaint(); // not every step has values to tell, and the bar is to be seen during it all the same
     m_bar->setUpdatesEnabled(false);
     m_sincePainted.start();
     m_connection = QObject::connect(bar, &QProgressBar::valueChanged, bar, [this] { paintIfDue(); });

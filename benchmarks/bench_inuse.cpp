@@ -7,7 +7,7 @@
 #include "benchmarks/Measuring.h"
 #include "benchmarks/ProgramAtWork.h"
 #include "benchmarks/StepChecks.h"
-#include "cutout/ExportComposition.h"
+#include "cutout/Pipeline.h"
 #include "tests/support/CanvasMouse.h"
 
 #include <QAction>
@@ -243,7 +243,7 @@ void encode(benchmark::State &state, const QByteArray &format)
 {
     exporting(state, format, [&](ProgramAtWork &program, const QString &file, const QByteArray &type) {
         const QSize size = program.size();
-        const cutout::ExportLayers layers{cutout::colourCanvas(size, program.state().backgroundColor()),
+        const cutout::ExportLayers layers{cutout::exportCanvas(size, program.state().backgroundColor(), {}),
                                           program.state().previewImage(),
                                           {},
                                           size};

@@ -102,6 +102,16 @@ void ZelGraphicsView::mousePressEvent(QMouseEvent *event)
     QGraphicsView::mousePressEvent(event);
 }
 
+void ZelGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // The second of two quick presses comes as this and as nothing else; a stroke may begin with it as well.
+    mousePressed = true;
+    if (scene() == nullptr)
+        return;
+    handle(rowOf(currentTool).press, event);
+    QGraphicsView::mouseDoubleClickEvent(event);
+}
+
 void ZelGraphicsView::mouseMoveEvent(QMouseEvent *event)
 {
     if (scene() == nullptr)
@@ -165,6 +175,7 @@ void ZelGraphicsView::resizeEvent(QResizeEvent *event)
 
 void ZelGraphicsView::scrollContentsBy(int dx, int dy)
 {
+    markPointer(std::nullopt); // it would move along
     // Zoomed far in, one step can be so long that Qt's moving of the pixels overflows and reads beyond them.
     // Beyond the view's own size it makes no difference how far the pixels move.
     const int farthest = 2 * std::max({1, viewport()->width(), viewport()->height()});

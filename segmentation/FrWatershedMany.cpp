@@ -14,9 +14,9 @@
 int FrWatershedMany(QImage *image, std::vector<std::vector<int>> seeds, QList<QList<int>> &result,
                     unsigned char *edges, QProgressBar *progress)
 {
-    assert(!result.isEmpty());
     if (seeds.empty())
         return -1;
+    assert(!result.isEmpty());
     const ornevo::Regions regions =
         ornevo::floodRegions(imaging::viewOf(*image), {edges, image->width(), image->height()},
                              {seeds.begin(), seeds.end()}, segmentation::showOn(progress));

@@ -35,6 +35,9 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
         stored.convert(value.metaType()); // whatever cannot be read counts as 0 or unticked
         value.write(field, stored);
     }
+    // As Tab does for the other fields. The first one has the focus from the start, and would only take a
+    // number that fits beside its own.
+    m_form->spinBox->selectAll();
 }
 
 OptionsDialog::~OptionsDialog() = default;
