@@ -7,8 +7,8 @@
 
 namespace ornevo {
 
-/// Half of a symmetric sampled Gaussian: `[0]` is the weight of the centre, `[k]` that of the offsets -k and
-/// +k, for k = 1 .. taps / 2.
+/// Half of a symmetric sampled Gaussian (see core/GaussianBlur.h for the literature): `[0]` is the weight of
+/// the centre, `[k]` that of the offsets -k and +k, for k = 1 .. taps / 2.
 ///
 /// The weight of the offset d is sqrt(exp(-d² / (2σ²)) / (σ · 6.283 · σ)), divided by the sum over all
 /// `taps` offsets 0 - taps/2 .. taps - 1 - taps/2. The square root widens the kernel: promised, see
