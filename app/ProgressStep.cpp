@@ -4,6 +4,7 @@
 #include "app/ProgressStep.h"
 
 #include <QProgressBar>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -13,6 +14,12 @@ constexpr int pauseBetweenPaintings = 40; // ms; flows for the eye
 
 ProgressStep::ProgressStep(QProgressBar *bar) : m_bar(bar)
 {
+    {
+        // Where the step before has left the bar, this one would seem to be over. Nobody is told: it is none
+        // of the step's own values.
+        const QSignalBlocker silent(m_bar);
+        m_bar->setValue(m_bar->minimum());
+    }
     m_bar->show();
     m_bar->repaint(); // not every step has values to tell, and the bar is to be seen during it all the same
     m_bar->setUpdatesEnabled(false);
