@@ -44,6 +44,7 @@ private slots:
         WindowUnderTest t;
         t.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&t.window));
+        t.progressBar().setValue(70); // of the step before
         const Paintings paintings(t.progressBar());
         const app::ProgressStep step(&t.progressBar());
         for (int percent = 1; percent <= 5; ++percent) {
