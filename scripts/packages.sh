@@ -7,7 +7,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config python3 qt6-base-dev qt6
     qt6-l10n-tools libgl-dev libhwy-dev libgtest-dev
     python3-dev pybind11-dev python3-numpy python3-pil python3-pytest python3-mypy mypy)
 # For core/ and its tests alone, which need no Qt.
-core_packages=(g++ cmake ninja-build ccache libhwy-dev libgtest-dev)
+core_packages=(g++ cmake ninja-build ccache pkg-config libhwy-dev libgtest-dev)
 # qt6-image-formats-plugins reads TIFF; qt6-translations-l10n has Qt's own dialogs in other languages; the fonts are for
 # machines that have none yet.
 run_packages=(qt6-image-formats-plugins qt6-translations-l10n fontconfig fonts-dejavu-core)
