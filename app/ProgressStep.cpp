@@ -4,6 +4,7 @@
 #include "app/ProgressStep.h"
 
 #include <QProgressBar>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -15,7 +16,12 @@ namespace app {
 
 ProgressStep::ProgressStep(QProgressBar *bar) : m_bar(bar)
 {
-    m_bar->reset(); // where the step before has left it, this one would seem to be over
+    {
+        // Where the step before has left the bar, this one would seem to be over. Nobody is told: it is none
+        // of the step's own values.
+        const QSignalBlocker silent(m_bar);
+        m_bar->setValue(m_bar->minimum());
+    }
     m_bar->show();
     m_bar->repaint(); // not every step has values to tell, and the bar is to be seen during it all the same
     m_bar->setUpdatesEnabled(false);
