@@ -15,6 +15,7 @@ namespace app {
 
 ProgressStep::ProgressStep(QProgressBar *bar) : m_bar(bar)
 {
+    m_bar->reset(); // where the step before has left it, this one would seem to be over
     m_bar->show();
     m_bar->repaint(); // not every step has values to tell, and the bar is to be seen during it all the same
     m_bar->setUpdatesEnabled(false);

@@ -41,9 +41,9 @@ private:
     QByteArray m_before;
 };
 
-/// The temporary files that there are: in the folder, and those without a name that only we hold open. A path
-/// for each file by its number on the disk, for one file can have both.
-QMap<quint64, QString> temporaryFiles()
+/// Files in the temporary folder, and those without a name on its disk that we hold open. A path for each
+/// file by its number on the disk, for one file can have both.
+QMap<quint64, QString> filesOfTheMoment()
 {
     QMap<quint64, QString> found;
     struct stat folder
@@ -63,6 +63,16 @@ QMap<quint64, QString> temporaryFiles()
                 found.insert(file.st_ino, entries.filePath(name));
         }
     }
+    return found;
+}
+
+/// Without what the program that runs the tests had open, such as a log that somebody has deleted meanwhile.
+QMap<quint64, QString> temporaryFiles()
+{
+    static const QMap<quint64, QString> inherited = filesOfTheMoment();
+    QMap<quint64, QString> found = filesOfTheMoment();
+    for (const quint64 number : inherited.keys())
+        found.remove(number);
     return found;
 }
 
