@@ -185,14 +185,9 @@ TEST(Regions, inEveryForm)
 
     const std::vector<std::size_t> sizes = regions.sizes();
     std::vector<std::vector<int>> lists(3);
-    std::vector<int *> destinations;
-    for (std::size_t k = 0; k < 3; ++k)
+    for (const std::size_t k : {0U, 2U})
         lists[k].resize(sizes[k]);
-    for (auto &list : lists)
-        destinations.push_back(list.data());
-    destinations[1] = nullptr;
-    lists[1].clear();
-    regions.listPixels(destinations);
+    regions.listPixels({lists[0].data(), nullptr, lists[2].data()});
     for (std::size_t k = 1; k <= 3; ++k) {
         std::vector<int> expected;
         for (std::size_t i = 0; i < labels->size() && k != 2; ++i)
