@@ -9,6 +9,7 @@
 #include "tests/reliability/PictureFiles.h"
 #include "tests/support/TestMain.h"
 
+#include <QBuffer>
 #include <QImageWriter>
 #include <QProcess>
 #include <QtEndian>
@@ -381,6 +382,22 @@ private slots:
             const int pixels = code * (code + 1) / 2;
             QCOMPARE(cutout::leanGif(gif(pixels, 1, data)), gif(pixels, 1, data.left((bits + 7) / 8)));
         }
+    }
+
+    void tilesOfATiff()
+    {
+        const auto isModest = [](QByteArray bytes) {
+            QBuffer file(&bytes);
+            return file.open(QIODevice::ReadOnly) && cutout::hasModestTiles(file);
+        };
+        const QByteArray plain = tiff(8, 8, {}, QByteArray(64, 0));
+        QVERIFY(isModest(plain));
+        for (const int bytes : {0, 1, 15, 16, 72}) // before the directory
+            QVERIFY2(!isModest(plain.left(bytes)), qPrintable(QString::number(bytes)));
+        QVERIFY(isModest(tiff(8, 8, {{322, 4, 1, 16384}, {323, 4, 1, 8192}}, QByteArray(64, 0))));
+        QVERIFY(!isModest(tiff(8, 8, {{322, 4, 1, 16384}, {323, 4, 1, 8193}}, QByteArray(64, 0))));
+        QVERIFY(isModest(tiff(1 << 26, 8, {{277, 3, 1, 2}}, QByteArray(64, 0))));
+        QVERIFY(!isModest(tiff(1 << 26, 8, {{277, 3, 1, 3}}, QByteArray(64, 0))));
     }
 
     void orientation()
