@@ -4,6 +4,7 @@
 #include "app/ProgressStep.h"
 
 #include <QProgressBar>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -11,9 +12,18 @@ constexpr int pauseBetweenPaintings = 40; // ms; flows for the eye
 
 } // namespace
 
+namespace app {
+
 ProgressStep::ProgressStep(QProgressBar *bar) : m_bar(bar)
 {
+    {
+        // Where the step before has left the bar, this one would seem to be over. Nobody is told: it is none
+        // of the step's own values.
+        const QSignalBlocker silent(m_bar);
+        m_bar->setValue(m_bar->minimum());
+    }
     m_bar->show();
+    m_bar->repaint(); // not every step has values to tell, and the bar is to be seen during it all the same
     m_bar->setUpdatesEnabled(false);
     m_sincePainted.start();
     m_connection = QObject::connect(bar, &QProgressBar::valueChanged, bar, [this] { paintIfDue(); });
@@ -35,3 +45,5 @@ void ProgressStep::paintIfDue()
     m_bar->setUpdatesEnabled(false);
     m_sincePainted.restart();
 }
+
+} // namespace app

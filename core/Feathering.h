@@ -14,7 +14,7 @@ namespace ornevo {
 /// \param picture changed in place
 /// \param mask    one channel; a byte other than 0 is set. Usually of the size of the picture: what of it
 ///                lies off the picture is left out
-/// \param rings   how many rings are walked beyond the first; more than 3 make no difference
+/// \param rings   how many rings are walked beyond the first, none below 1; more than 3 make no difference
 ///
 /// Ring 1 are the clear pixels that touch a set one (eight neighbours, the outermost rows and columns left
 /// out); each further ring are the set pixels next to the ring before (four neighbours). A step down looks at

@@ -13,11 +13,14 @@
 /// function says so; anything in between is the caller's error that is not noticed. Where a picture is lower
 /// or narrower than a border band named below, the band ends with the picture.
 ///
-/// The Gaussian is sampled, in double precision: the weight of the offset d is
-/// sqrt(exp(-d² / (2σ²)) / (σ · 6.283 · σ)), divided by the sum over all taps. The square root widens it on
-/// purpose. Where the weights can't be formed (sigma 0, not a number, or so far out that their sum is zero or
-/// infinite), the kernel changes nothing. Sums are formed centre first, then pair by pair outward, so that
-/// results are the same to the bit on every machine.
+/// The Gaussian (D. Marr, E. Hildreth: Theory of edge detection, 1980, on why it comes before an edge
+/// operator) is separable and sampled (T. Lindeberg: Scale-space for discrete signals, 1990, on what sampling
+/// does to it), in double precision: with sigma in pixels, the weight of the offset d is
+/// sqrt(exp(-d² / (2σ²)) / (σ · 6.283 · σ)), divided by the sum over all taps. The square root widens it,
+/// which is promised like all that looks odd below: see docs/compatibility.md. Where the weights can't be
+/// formed (sigma 0, not a number, or so far out that their sum is zero or infinite), the kernel changes
+/// nothing. Sums are formed centre first, then pair by pair outward, so that results are the same to the bit
+/// on every machine.
 ///
 /// All throw std::invalid_argument; those with a sigma std::bad_alloc as well.
 namespace ornevo {
@@ -41,15 +44,15 @@ ORNEVO_CORE_EXPORT void blurFourChannels(const PictureView &src, const MutablePi
 
 /// Smooths a plane of one channel, and keeps doubles between the passes: the horizontal sums are not
 /// truncated, the vertical ones after every pair of taps. An even number of taps acts as the next odd one but
-/// for the division by the sum of the weights, which then is over `size` taps. The outer size / 2 pixels are
-/// copied from `src`. `dst` may be `src`.
+/// for the division by the sum of the weights, which then is over `size` taps; below 1 acts as 1. The outer
+/// size / 2 pixels are copied from `src`. `dst` may be `src`.
 ORNEVO_CORE_EXPORT void blurPlane(const PlaneView &src, const MutablePlaneView &dst, double sigma, int size);
 
 /// The same with nine taps and one truncation, at the end. The outer 4 pixels are copied.
 ORNEVO_CORE_EXPORT void blurPlaneNineTaps(const PlaneView &src, const MutablePlaneView &dst, double sigma);
 
-/// A fixed 5 x 5 integer kernel of sum 159. The outer 5 pixels are copied, although the kernel reaches
-/// only 2.
+/// A fixed 5 x 5 integer kernel of sum 159, about a Gaussian of sigma 1.4. The outer 5 pixels are copied,
+/// although the kernel reaches only 2.
 ORNEVO_CORE_EXPORT void blurPlaneFiveByFive(const PlaneView &src, const MutablePlaneView &dst);
 
 /// A fixed 3 x 3 kernel whose right neighbour weighs half as much as the left one; each product is truncated

@@ -30,7 +30,9 @@
 /// which the result keeps 1 (4).
 namespace ornevo {
 
-/// The regions of a flooded picture, numbered from 1 in the order of their seed lists.
+/// The regions of a flooded picture, numbered from 1 in the order of their seed lists. What is to be
+/// filled is the caller's; std::invalid_argument is thrown where it is not of the picture's size or has not
+/// one entry for each region, and then nothing is written.
 class ORNEVO_CORE_EXPORT Regions
 {
 public:
@@ -52,11 +54,11 @@ public:
     [[nodiscard]] std::vector<std::size_t> sizes() const;
 
     /// Writes the indices of the pixels of each region in increasing order: those of region k to
-    /// destinations[k - 1], which has room for sizes()[k - 1] of them. A null one leaves its region out.
+    /// destinations[k - 1], which holds sizes()[k - 1] of them. A null one leaves its region out.
     void listPixels(const std::vector<int *> &destinations) const;
 
     /// Writes `value` for the pixels of `region` and 0 for all others to a plane of one channel and of the
-    /// picture's size. All 0 when nothing was flooded.
+    /// picture's size. All 0 when nothing was flooded, and for a number that no region has.
     void writeMask(std::size_t region, const MutablePlaneView &mask, std::uint8_t value = 1) const;
 
     /// Writes the region of each pixel, 0 where there is none, to `width · height` elements. With `names`,

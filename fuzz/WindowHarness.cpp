@@ -62,7 +62,7 @@ QString WindowHarness::file(const QByteArray &contents)
     const QString path = sandbox().filePath("input");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("no room for the input");
+        qFatal("the input can't be written");
     return path;
 }
 

@@ -24,7 +24,7 @@ public:
     QString file(const QByteArray &contents);
     /// Ticks or unticks the preview.
     void preview(bool on);
-    /// Lays a Keep and a Remove dab, which any picture from 8 x 8 has room for.
+    /// Lays a Keep and a Remove dab, which lie on any picture from 8 x 8 on.
     void layDabs();
 
 private:

@@ -18,7 +18,7 @@ class QImage;
 ///                done to a picture of another depth
 /// \param mask    the mask, of the size of the picture; where it is larger, what lies off the picture is
 ///                left out. Nothing is done when it is null
-/// \param count   how many rings are walked beyond the first; more than 3 make no difference
+/// \param count   how many rings are walked beyond the first, none below 1; more than 3 make no difference
 ///
 /// Ring 1 are the clear pixels that touch a set one (eight neighbours, the outermost rows and columns left
 /// out); each further ring are the set pixels next to the ring before (four neighbours). A step down looks at

@@ -487,7 +487,12 @@ void PreviewTest::handToolAfterThePreviewWent()
     t.mouse.move(t.at(35, 20));
     t.mouse.release(t.at(35, 20));
     QCOMPARE(t.probe.previewItem(), nullptr);
+    const QPoint offset = t.probe.previewOffset(); // the hand has moved, and the next object lies there
+    QVERIFY(!offset.isNull());
     t.trigger("actionBackgroundZoomPlus");
+    QVERIFY(t.probe.previewScene().items().isEmpty());
+    t.window.applypreviewmask();
+    QCOMPARE(t.probe.previewItem()->pos(), QPointF(offset));
 }
 
 void PreviewTest::undoOfBrushAfterRebuilding()

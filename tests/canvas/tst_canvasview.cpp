@@ -296,6 +296,8 @@ void CanvasViewTest::settingsByDefault()
     canvas.mouse.move(QPoint(50, 50));
     QVERIFY(canvas.circle() != nullptr);
     QCOMPARE(canvas.circle()->rect(), QRectF(45, 45, 10, 10));
+    // Repainted is a line of a pixel, a white one to each side of it, and another where smoothing may reach.
+    QCOMPARE(canvas.circle()->boundingRect(), QRectF(42.5, 42.5, 15, 15));
     canvas.mouse.stroke({QPoint(50, 50)});
     bool found = false;
     for (auto *disc : canvas.itemsOf<QGraphicsEllipseItem>(canvas.scene))

@@ -3,6 +3,7 @@
 
 // What can't be right is refused, with the name of the argument, before anything is done.
 
+#include "core/Checks.h"
 #include "core/EdgeDetectors.h"
 #include "core/EdgeMap.h"
 #include "core/Feathering.h"
@@ -89,6 +90,14 @@ TEST(Checks, sizesThatDiffer)
     EXPECT_EQ(blamed([&] { blurFourChannels(picture, MutablePictureView(bytes, 10, 9), 3, 1.0); }), "dst");
     EXPECT_EQ(blamed([&] { blurChannels({bytes, 5, 5, 20, 3}, {bytes, 5, 5, 20, 4}, 3, 1.0); }), "dst");
     EXPECT_EQ(blamed([&] { blurChannels({bytes, 5, 5, 25, 5}, {bytes, 5, 5, 25, 5}, 3, 1.0); }), "src");
+}
+
+TEST(Checks, asManyPixelsAsAnIntCanCount)
+{
+    constexpr int most = std::numeric_limits<int>::max();
+    EXPECT_NO_THROW(checks::indexable(1, most, "picture"));
+    EXPECT_NO_THROW(checks::indexable(most, 1, "picture"));
+    EXPECT_EQ(blamed([] { checks::indexable(1 << 16, 1 << 15, "picture"); }), "picture");
 }
 
 TEST(Checks, picturesThatNoIntCanCount)

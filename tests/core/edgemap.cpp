@@ -4,11 +4,13 @@
 #include "core/EdgeMap.h"
 
 #include "core/EdgeDetectors.h"
+#include "core/EdgeKernels.h"
 #include "tests/core/SimdTargets.h"
 #include "tests/core/Views.h"
 #include "tests/reference/EdgeDetectorsReference.h"
 #include "tests/reference/Pictures.h"
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -72,6 +74,14 @@ TEST(EdgeMap, ofAwkwardSizes)
         expectReference(randomPicture(width, height, 11));
 }
 
+// Wider than the rows that are worked on at a time, by a little and by more.
+TEST(EdgeMap, ofTilesOfColumns)
+{
+    for (const auto &[width, height] :
+         {std::pair{65536, 9}, {65537, 9}, {131071, 8}, {196611, 11}, {70000, 3}})
+        expectReference(randomPicture(width, height, 12));
+}
+
 // Nearly black areas, where products are small and zeros abound.
 TEST(EdgeMap, ofDeepBlack)
 {
@@ -89,6 +99,26 @@ TEST(EdgeMap, floatRootsOfSquares)
         if (static_cast<int>(std::sqrt(static_cast<float>(n))) !=
             static_cast<int>(std::sqrt(static_cast<double>(n))))
             FAIL() << n;
+}
+
+// A product of the vertical pass goes through eight roundings, of 2^-24 of it at most each, and through one
+// to a whole unit. With less slack one next to a whole number could get another floor than in doubles, on a
+// picture that nobody may ever meet; with more, more pixels than needed are computed twice.
+TEST(EdgeMap, hasSlackForEveryRounding)
+{
+    const double eightRoundings = std::pow(1.0 + std::ldexp(1.0, -24), 8) - 1.0;
+    const auto expectJustAbove = [=](int slack, double largestProduct, int bits) {
+        const double off = eightRoundings * std::ldexp(largestProduct, bits) + 0.5;
+        EXPECT_GT(slack, off);
+        EXPECT_LE(slack, off + 1.5);
+    };
+    for (const double sigma : {0.4, 0.7, 1.0, 1.4, 2.0, 5.0}) {
+        SCOPED_TRACE(sigma);
+        const ornevo::edgekernels::Weights weights(sigma);
+        const auto [w0, w1, w2, w3] = weights.exact;
+        expectJustAbove(weights.innerSlack, std::max({255 * w0, 510 * w1, 510 * w2}), 16);
+        expectJustAbove(weights.outerSlack, 510 * w3, 17);
+    }
 }
 
 TEST(EdgeMap, readsPixelsOffAnyAlignment)

@@ -10,6 +10,7 @@
 #include <QFile>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -252,6 +253,22 @@ private slots:
             QFile file;
             QVERIFY2(!cutout::openRegularFile(file, place), qPrintable(place)); // at once
         }
+    }
+
+    void fileThatCanNotBeOpened()
+    {
+        put("contents");
+        QFile file;
+        rlimit before{};
+        getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none{0, before.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_NOFILE, &none), 0); // for a new one
+        const bool opened = cutout::openRegularFile(file, path("file"));
+        setrlimit(RLIMIT_NOFILE, &before);
+        QVERIFY(!opened);
+        QVERIFY(!file.isOpen());
+        QVERIFY(cutout::openRegularFile(file, path("file")));
+        QCOMPARE(file.readAll(), "contents");
     }
 
 private:

@@ -52,6 +52,16 @@ private slots:
         QCOMPARE(reinterpret_cast<const QRgb *>(picture.constBits()), before);
     }
 
+    /// From two megabytes on they lie in pages of that size, where the system has them.
+    void whereThePixelsLie()
+    {
+        constexpr quintptr hugePage = 2 << 20;
+        for (const QSize &size : {QSize(1024, 512), QSize(2, 262144), QSize(1200, 800), QSize(800, 1200)}) {
+            const QImage picture = cutout::makeLargePicture(size, QImage::Format_RGB32);
+            QCOMPARE(reinterpret_cast<quintptr>(picture.constBits()) % hugePage, quintptr{0});
+        }
+    }
+
     /// The pixels live as long as anyone shows them.
     void pixmapOutlivesItsPicture()
     {

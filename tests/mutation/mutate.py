@@ -11,9 +11,11 @@ import random
 import shutil
 import sys
 import threading
+import time
 import tomllib
 
 import mutations
+import recipes
 import workshop
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -64,96 +66,100 @@ def equivalents():
     return {(entry["file"], entry["line"], entry["becomes"]) for entry in entries}
 
 
+class Clock:
+    """Processor and wall time since the last look."""
+
+    def __init__(self):
+        self.look()
+
+    def look(self):
+        now = workshop.processor_seconds(), time.monotonic()
+        passed = [after - before for before, after in zip(getattr(self, "last", now), now)]
+        self.last = now
+        return passed
+
+    def text(self):
+        processor, wall = self.look()
+        return f"{processor / 60:.1f} processor minutes, {wall / 60:.1f} minutes"
+
+
 class Run:
-    def __init__(self, shop, coverage, programs):
-        self.shop, self.coverage = shop, coverage
+    def __init__(self, shop, made, coverage, programs):
+        self.shop, self.recipes, self.coverage = shop, made, coverage
         self.programs = {program.name: program for program in programs}
-        self.seconds, self.machine_code = {}, {}
         self.verdicts = collections.defaultdict(collections.Counter)
+        self.killers = collections.defaultdict(collections.Counter)  # by file
         self.survivors = []
         self.lock = threading.Lock()
 
-    def try_the_tests(self, names):
-        """The tests have to pass before a failure says something; how long they take says what is too long."""
-        for name in names:
-            passed, self.seconds[name] = self.shop.run(self.programs[name], 300)
-            if not passed:
-                sys.exit(f"{name} fails without any mutation")
-            self.machine_code[name] = workshop.digest(self.programs[name].command[0])
+    def in_order(self, mutation):
+        """Those first that are quick, that go by little else, and that have killed others of the same file."""
+        def effort(name):
+            killed = self.killers[mutation.file][name]
+            lines = sum(map(len, self.coverage.lines[name].values()))
+            return (0.1 + self.coverage.alone[name].processor) * lines / (1 + 3 * killed)
 
-    def limit(self, name):
-        return 10 + 4 * self.seconds[name]
+        return sorted(self.coverage.reaching(mutation), key=effort)
 
     def note(self, mutation, verdict, by=""):
         with self.lock:
             self.verdicts[mutation.file.split("/")[0]][verdict] += 1
-            counted = sum(sum(c.values()) - c["does not compile"] for c in self.verdicts.values())
-            print(f"{counted:4} {verdict:16} {mutation.file}:{mutation.line} {mutation.kind}: {mutation.before}  ->  "
+            print(f"{self.counted():4} {verdict:16} {mutation.file}:{mutation.line} {mutation.kind}: {mutation.before}  ->  "
                   f"{mutation.after}{'   [' + by + ']' if by else ''}", flush=True)
             if verdict == "survived":
                 self.survivors.append(mutation)
+                LAST_SURVIVORS.write_text(json.dumps([m.key() for m in self.survivors]))
 
     def counted(self):
         return sum(counts[verdict] for counts in self.verdicts.values() for verdict in ("killed", "survived"))
 
-    def built(self, mutation, names, number):
-        """A folder with the mutant's test programs, or None when there is nothing to test."""
-        file = self.shop.tree / mutation.file
-        text = file.read_text()
-        file.write_text(mutation.apply(text))
+    def judge(self, mutation, number):
+        """The verdict, and what it rests on."""
+        if mutation.key() in self.equivalents:
+            return "equivalent", "listed"
+        names = self.in_order(mutation)
+        if not names:
+            return "survived", "no test comes by"
+        folder = self.shop.tree / "build/programs" / str(number)
         try:
-            compiles = self.shop.ninja(self.shop.build, [self.programs[name].target for name in names])
-            if not compiles:
-                self.note(mutation, "does not compile")
-                return None
-            if all(workshop.digest(self.programs[name].command[0]) == self.machine_code[name] for name in names):
-                self.note(mutation, "equivalent", "same machine code")
-                return None
-            folder = self.shop.tree / "build/programs" / str(number)
-            folder.mkdir(parents=True)
-            for name in names:
-                moved = [self.programs[name].command[0]]
-                if "ORNEVO_PROGRAM" in self.programs[name].environment:
-                    moved.append(self.programs[name].environment["ORNEVO_PROGRAM"])
-                for program in moved:
-                    if not (folder / pathlib.Path(program).name).exists():
-                        shutil.copy(program, folder)
-            return folder
-        finally:
-            file.write_text(text)
-
-    def test(self, mutation, names, folder):
-        try:
-            for name in names:
-                if not self.shop.run(self.programs[name], self.limit(name), folder=folder)[0]:
-                    return self.note(mutation, "killed", name)
-            for name in names if mutation.file.split("/")[0] in ON_SCREEN else ():  # what only a real screen shows
-                program = self.programs[name]
-                if program.on_screen and not self.shop.run(program, 3 * self.limit(name), "xcb", folder)[0]:
-                    return self.note(mutation, "killed", name + " in X")
-            return self.note(mutation, "survived", ", ".join(names))
+            mutant = recipes.Mutant(self.recipes, mutation, folder)
+            if not mutant.libraries():
+                return "does not compile", ""
+            if not mutant.differs():
+                return "equivalent", "same machine code"
+            return self.test(mutation, mutant, names)
+        except recipes.CompileError:  # where a test reads the header
+            return "does not compile", ""
         finally:
             shutil.rmtree(folder, ignore_errors=True)
 
+    def test(self, mutation, mutant, names):
+        shown = mutation.file.split("/")[0] in ON_SCREEN
+        runs = [(name, "offscreen") for name in names]
+        runs += [(name, "xcb") for name in names if shown and self.programs[name].on_screen]  # what only a screen shows
+        for name, platform in runs:
+            alone = self.coverage.alone[name]
+            outcome = self.shop.run(self.programs[name], 60 + 10 * alone.wall, 5 + 4 * alone.processor, platform, mutant)
+            if not outcome.passed:
+                self.killers[mutation.file][name] += 1
+                return "killed", f"{name}: {outcome.by}{' in X' if platform == 'xcb' else ''}"
+        return "survived", ", ".join(names)
+
     def go(self, chosen, count, jobs):
-        known = equivalents()
+        """The first `count` of them that compile, `jobs` at a time."""
+        self.equivalents = equivalents()
         shutil.rmtree(self.shop.tree / "build/programs", ignore_errors=True)
-        slots = threading.Semaphore(jobs + 1)  # built and not yet tested
-        with concurrent.futures.ThreadPoolExecutor(max(1, jobs - 1)) as pool:
-            for number, mutation in enumerate(chosen):
-                if self.counted() >= count:
-                    break
-                names = sorted(self.coverage.reaching(mutation), key=lambda name: self.seconds[name])
-                if mutation.key() in known:
-                    self.note(mutation, "equivalent", "listed")
-                elif not names:
-                    self.note(mutation, "survived", "no test comes by")
-                elif folder := self.built(mutation, names, number):
-                    if jobs == 1:
-                        self.test(mutation, names, folder)
-                        continue
-                    slots.acquire()
-                    pool.submit(self.test, mutation, names, folder).add_done_callback(lambda _: slots.release())
+        pending = {}
+        chosen = enumerate(chosen)
+        with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+            while True:
+                while len(pending) < min(jobs, count - self.counted()) and (following := next(chosen, None)):
+                    number, mutation = following
+                    pending[pool.submit(self.judge, mutation, number)] = mutation
+                if not pending:
+                    return
+                for done in concurrent.futures.wait(pending, return_when=concurrent.futures.FIRST_COMPLETED).done:
+                    self.note(pending.pop(done), *done.result())
 
     def table(self):
         columns = ("killed", "survived", "equivalent", "does not compile")
@@ -187,22 +193,30 @@ def chosen_mutations(chosen):
 def main():
     chosen = options()
     report = lambda text: print("== " + text, flush=True)
+    clock = Clock()
     shop = workshop.Workshop(ROOT, chosen.jobs)
     coverage = workshop.Coverage(shop)
     shop.copy_tree()
-    for build, with_coverage in ((coverage.build, True), (shop.build, False)):
-        report(f"building {build.relative_to(ROOT)}")
+    for build, with_coverage in ((shop.build, False), (coverage.build, True)):
         shop.configure(build, with_coverage)
-        if not shop.ninja(build):
-            sys.exit(shop.last_output)
-    coverage.collect(shop.programs(coverage.build), report)
-    run = Run(shop, coverage, shop.programs(shop.build))
-    report("the tests without a mutation")
-    run.try_the_tests([name for name, lines in coverage.lines.items() if lines])
+    report(f"building {shop.build.relative_to(ROOT)}")
+    if not shop.ninja(shop.build):
+        sys.exit(shop.last_output)
+    made = recipes.Recipes(shop.tree, shop.build)
+    report(f"building {coverage.build.relative_to(ROOT)}")
+    if not shop.ninja(coverage.build, made.product()):
+        sys.exit(shop.last_output)
+    report("built: " + clock.text())
+    programs = shop.programs(shop.build)
+    coverage.collect(programs, made.product(), report)
+    report("the tests without a mutation: " + clock.text())
+    if failing := [name for name, outcome in coverage.alone.items() if not outcome.passed]:
+        sys.exit("without any mutation these fail: " + ", ".join(failing))
+    run = Run(shop, made, coverage, programs)
     run.go(chosen_mutations(chosen), sys.maxsize if chosen.at or chosen.again else chosen.count, chosen.jobs)
-    if not chosen.at:
-        LAST_SURVIVORS.write_text(json.dumps([m.key() for m in run.survivors]))
-    return run.table() < GOAL
+    noticed = run.table()
+    report(f"{run.counted()} mutants: " + clock.text())
+    return noticed < GOAL
 
 
 if __name__ == "__main__":

@@ -1,10 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Ornevo developers
 # SPDX-License-Identifier: MIT
-"""What counts as a mutation, and what is left alone."""
+"""What counts as a mutation, what is left alone, and what counts as a failure."""
 
 import unittest
 
 import mutations
+import workshop
 
 
 def changes(text):
@@ -48,6 +49,18 @@ class Mutations(unittest.TestCase):
         source = "void f()\n{\n    g(a,\n      b);\n    h();\n}\n"
         for mutation in mutations.Source("f.cpp", source).mutations():
             self.assertEqual(mutation.apply(source).count("\n"), source.count("\n"))
+
+
+class Output(unittest.TestCase):
+    def test_a_failure_is_seen_at_once_and_named(self):
+        named = lambda line: next(filter(None, workshop.FAILED.search(line).groups())).decode()
+        self.assertEqual(named(b"FAIL!  : ZoomTest::steps(far in) Compared values are not the same\n"), "ZoomTest::steps")
+        self.assertEqual(named(b"[  FAILED  ] EdgeMap.ofEveryGrey (12 ms)\n"), "EdgeMap.ofEveryGrey")
+
+    def test_other_lines_are_no_failure(self):
+        for line in (b"PASS   : ZoomTest::steps(far in)", b"XFAIL  : ZoomTest::steps() one day", b"[       OK ] EdgeMap.a",
+                     b"Totals: 3 passed, 0 failed, 0 skipped, 0 blacklisted, 12ms"):
+            self.assertIsNone(workshop.FAILED.search(line))
 
 
 if __name__ == "__main__":

@@ -2,18 +2,26 @@
 # SPDX-License-Identifier: MIT
 """A copy of the source tree in which mutants are built and their tests run."""
 
+import concurrent.futures
 import dataclasses
 import hashlib
 import json
+import math
 import os
 import pathlib
+import re
+import resource
 import shutil
 import signal
 import subprocess
 import tempfile
+import threading
 import time
 
+from recipes import digest
+
 NO_TESTS_OF_THE_PRODUCT = {"install_outside_program", "mutations"}
+FAILED = re.compile(rb"FAIL!  : (\S+?)\(|\[  FAILED  \] (\S+)")  # as Qt's and Google's test libraries print it at once
 
 
 @dataclasses.dataclass
@@ -25,22 +33,28 @@ class Program:
     environment: dict
     on_screen: bool  # whether CI also runs it in an X server
 
-    @property
-    def target(self):
-        return pathlib.Path(self.command[0]).name
+
+
+@dataclasses.dataclass
+class Outcome:
+    passed: bool
+    by: str  # the test function that failed first, or what else ended the program
+    processor: float  # seconds
+    wall: float
+
+
+def processor_seconds():
+    """Of all that was started so far and has ended."""
+    used = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return used.ru_utime + used.ru_stime
 
 
 def call(command, **more):
     return subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, **more).stdout
 
 
-def digest(path):
-    return hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
-
-
 class Workshop:
-    """`root` is the project; the copy lies in build/mutate, its build folder where a preset's would, so that the
-    objects of the tests come out of ccache."""
+    """`root` is the project; the copy lies in its build/mutate."""
 
     def __init__(self, root, jobs):
         self.root, self.jobs = root, jobs
@@ -64,7 +78,9 @@ class Workshop:
 
     def configure(self, build, coverage):
         call(["cmake", "-G", "Ninja", "-S", self.tree, "-B", build, "-DCMAKE_BUILD_TYPE=Release", "-DORNEVO_WERROR=OFF",
-              "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold", "-DORNEVO_MUTATION_COVERAGE=" + ("ON" if coverage else "OFF"),
+              "-DORNEVO_PYTHON=OFF",
+              "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold -Wl,--enable-new-dtags",
+              "-DCMAKE_SHARED_LINKER_FLAGS=-fuse-ld=gold -Wl,--enable-new-dtags", "-DORNEVO_MUTATION_COVERAGE=" + ("ON" if coverage else "OFF"),
               f"-DCMAKE_PROJECT_Ornevo_INCLUDE={self.tree}/tests/mutation/product-flags.cmake"])
 
     def ninja(self, build, targets=()):
@@ -84,61 +100,94 @@ class Workshop:
                 programs.append(Program(test["name"], test["command"], environment, "screen" in properties.get("LABELS", [])))
         return programs
 
-    def run(self, program, limit, platform="offscreen", folder=None, more=None):
-        """True when it passed, False when it failed or took longer than `limit` seconds; and how long it took.
-        `folder` holds programs that were moved out of the build folder."""
+    def run(self, program, wall, processor, platform="offscreen", variant=None, more=None):
+        """Runs it until it ends, a test function of it fails or one of the limits (in seconds) is reached: a machine that
+        is busy with other things makes a program late, but it doesn't make it work longer."""
+        environment = {**os.environ, "QT_QPA_PLATFORM": platform, "ORNEVO_PHOTOS": str(self.photos),
+                       "GTEST_FAIL_FAST": "1", **program.environment, **(more or {})}
+        environment["QT_QPA_PLATFORM"] = platform
         command = list(program.command)
-        environment = {**os.environ, "QT_QPA_PLATFORM": platform, "ORNEVO_PHOTOS": str(self.photos), **program.environment,
-                       **(more or {})}
+        if variant:
+            environment["LD_LIBRARY_PATH"] = variant.library_path
+            command[0] = variant.program(command[0])
+            if "ORNEVO_PROGRAM" in environment:
+                environment["ORNEVO_PROGRAM"] = variant.program(environment["ORNEVO_PROGRAM"])
         if platform == "xcb":
-            environment["QT_QPA_PLATFORM"] = "xcb"
             command = ["xvfb-run", "-a", "-s", "-screen 0 1600x1200x24", *command]
-        if folder:
-            command = [str(folder / pathlib.Path(part).name) if part == program.command[0] else part for part in command]
-            environment |= {key: str(folder / pathlib.Path(value).name) for key, value in program.environment.items()
-                            if key == "ORNEVO_PROGRAM"}
         begin = time.monotonic()
         with tempfile.TemporaryDirectory(prefix="ornevo-mutant-", ignore_cleanup_errors=True) as scratch:
             environment["TMPDIR"] = scratch
-            running = subprocess.Popen(command, cwd=scratch, env=environment, stdin=subprocess.DEVNULL,
-                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
-            try:
-                passed = running.wait(limit) == 0
-            except subprocess.TimeoutExpired:
-                passed = False
-            finally:
-                try:
-                    os.killpg(running.pid, signal.SIGKILL)  # what the program may have started, too
-                except ProcessLookupError:
-                    pass
-                running.wait()
-        return passed, time.monotonic() - begin
+            running = subprocess.Popen(["prlimit", f"--cpu={math.ceil(processor)}", *command], cwd=scratch, env=environment,
+                                       stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                       start_new_session=True)
+            late = threading.Timer(wall, end_group, [running.pid])
+            late.start()
+            failed = next(filter(None, map(FAILED.search, running.stdout)), None)
+            if failed:
+                end_group(running.pid)
+            _, status, used = os.wait4(running.pid, 0)
+            running.returncode = os.waitstatus_to_exitcode(status)
+            late.cancel()
+            end_group(running.pid)  # what the program may have started, too
+            running.stdout.close()
+        seconds = time.monotonic() - begin
+        if failed:
+            by = (failed[1] or failed[2]).decode()
+        else:
+            by = "too late" if seconds >= wall else f"exit code {running.returncode}"
+        return Outcome(running.returncode == 0 and not failed, by, used.ru_utime + used.ru_stime, seconds)
+
+
+def end_group(leader):
+    try:
+        os.killpg(leader, signal.SIGKILL)
+    except ProcessLookupError:
+        pass
 
 
 class Coverage:
-    """Which test program comes by which line. Kept as long as the program's file is the same."""
+    """Which test program comes by which line, and how it does without a mutation: it has to pass before a failure says
+    something, and how long it takes says what is too long. Kept as long as the program's file and the product are the
+    same. The tests are those of the other build, run with libraries that count."""
 
-    def __init__(self, workshop, limit=600):
+    def __init__(self, workshop, limit=600):  # seconds of processor time
         self.workshop, self.limit = workshop, limit
         self.build = workshop.tree / "build/coverage"
         self.cache = workshop.tree / "build/coverage-of-programs"
         self.lines = {}  # program's name: {file: lines}
+        self.alone = {}  # program's name: outcome
 
-    def collect(self, programs, report):
+    def program(self, path):
+        here = self.build / pathlib.Path(path).relative_to(self.workshop.build)
+        return str(here) if here.exists() else path
+
+    def collect(self, programs, product, report):
+        """`product` is what was built here, by its paths within the build."""
         self.cache.mkdir(parents=True, exist_ok=True)
-        for program in programs:
-            kept = self.cache / (program.name + "-" + digest(program.command[0])[:24] + ".json")
-            if not kept.exists():
-                report(f"coverage of {program.name}")
-                for old in self.cache.glob(program.name + "-*.json"):
-                    old.unlink()
-                kept.write_text(json.dumps(self._measure(program)))
-            self.lines[program.name] = {file: set(lines) for file, lines in json.loads(kept.read_text()).items()}
+        self.library_path = ":".join(sorted({str((self.build / linked).parent) for linked in product}))
+        state = hashlib.sha256("".join(digest(self.workshop.build / linked) for linked in product).encode()).hexdigest()
+        with concurrent.futures.ThreadPoolExecutor(self.workshop.jobs) as pool:
+            for program, kept in zip(programs, pool.map(lambda one: self._kept(one, state, report), programs)):
+                self.alone[program.name] = Outcome(*kept["outcome"])
+                self.lines[program.name] = {file: set(lines) for file, lines in kept["lines"].items()}
+
+    def _kept(self, program, state, report):
+        kept = self.cache / f"{program.name}-{digest(program.command[0])[:16]}{state[:16]}.json"
+        if kept.exists():
+            return json.loads(kept.read_text())
+        for old in self.cache.glob(program.name + "-*.json"):
+            old.unlink()
+        outcome, lines = self._measure(program)
+        report(f"{program.name}: {'passed' if outcome.passed else outcome.by}, {outcome.processor:.1f} s")
+        measured = {"outcome": dataclasses.astuple(outcome), "lines": lines}
+        if outcome.passed:
+            kept.write_text(json.dumps(measured))
+        return measured
 
     def _measure(self, program):
         with tempfile.TemporaryDirectory(prefix="ornevo-coverage-") as folder:
             counters = pathlib.Path(folder)
-            self.workshop.run(program, self.limit, more={
+            outcome = self.workshop.run(program, 5 * self.limit, self.limit, variant=self, more={
                 "GCOV_PREFIX": folder, "GCOV_PREFIX_STRIP": str(len(self.build.parts) - 1)})
             data = sorted(counters.rglob("*.gcda"))
             for file in data:
@@ -151,7 +200,7 @@ class Coverage:
                 for unit in map(json.loads, text.splitlines()):
                     for source in unit["files"]:
                         self._add(found, source)
-            return found
+            return outcome, found
 
     def _add(self, found, source):
         path = (self.build / source["file"]).resolve()

@@ -136,6 +136,17 @@ int ftruncate(int file, off_t size)
     return mustFail("ftruncate") ? -1 : real(file, size);
 }
 
+// Gives an error instead of setting errno. Where the file system has no such call, the C library writes
+// zeros, and leaves those that went well.
+int posix_fallocate(int file, off_t at, off_t size)
+{
+    static auto *const real = next(&::posix_fallocate, "posix_fallocate");
+    if (!mustFail("posix_fallocate"))
+        return real(file, at, size);
+    real(file, at, size - 1);
+    return errorToGive;
+}
+
 void *mmap(void *address, size_t size, int protection, int flags, int file, off_t at)
 {
     static auto *const real = next(&::mmap, "mmap");

@@ -304,7 +304,7 @@ private slots:
         picturefiles::put(path, file);
         QProcess reader;
         reader.start(READ_ONCE, {path});
-        QVERIFY(reader.waitForFinished(120'000));
+        QVERIFY(reader.waitForFinished(600'000));
         QCOMPARE(reader.exitStatus(), QProcess::NormalExit);
         const QList<QByteArray> told = reader.readAllStandardOutput().trimmed().split(' ');
         QCOMPARE(told.size(), 4);
@@ -341,6 +341,46 @@ private slots:
             QVERIFY(cutout::leanPng(withText.left(bytes)).size() <= qMax<qsizetype>(bytes, 8));
         const QByteArray gifFile = picturefiles::tinyGif();
         QCOMPARE(QImage::fromData(cutout::leanGif(gifFile)), QImage::fromData(gifFile));
+        for (const QByteArray &whole : {gifFile, gif(900, 900, longCodes(600))}) {
+            const QByteArray other(whole.size(), '\xFF');
+            for (qsizetype bytes = 0; bytes < whole.size(); ++bytes) { // nothing behind a cut is looked at
+                QByteArray elsewhere = whole.left(bytes) + other;
+                QCOMPARE(cutout::leanGif(QByteArray::fromRawData(elsewhere.constData(), bytes)),
+                         cutout::leanGif(QByteArray::fromRawData(whole.constData(), bytes)));
+            }
+        }
+    }
+
+    void scansOfAJpeg()
+    {
+        const auto isTaken = [](const QByteArray &file) { return !cutout::leanJpeg(file).isEmpty(); };
+        // Each goes over 2^22 blocks, the first one among them; 2^27 are too many when one more is added.
+        QVERIFY(isTaken(scans(16384, 16384, 1, 31)));
+        QVERIFY(!isTaken(scans(16384, 16384, 1, 32)));
+        QVERIFY(isTaken(scans(16385, 16384, 1, 30)));
+        QVERIFY(!isTaken(scans(16385, 16384, 1, 31)));
+        QVERIFY(isTaken(scans(8, 8, 1, 99)));
+        QVERIFY(!isTaken(scans(8, 8, 1, 100)));
+        // Of a picture of several scans all coefficients are in memory: 15 times 2^26 at most.
+        QVERIFY(isTaken(scans(20480, 16384, 3, 1)));
+        QVERIFY(!isTaken(scans(20488, 16384, 3, 1)));
+        QVERIFY(isTaken(jpeg(20488, 16384, 3)));
+    }
+
+    /// Kept is what the pixels take, to the byte. Each code of these stands for one pixel more than the one
+    /// before.
+    void codesOfAGif()
+    {
+        const QByteArray data = longCodes(0);
+        int bits = 3 + 3; // the code that begins, and that of the first pixel
+        int size = 3;
+        for (int code = 2; code < 60; ++code) {
+            bits += size;
+            if (code + 5 == 1 << size)
+                ++size;
+            const int pixels = code * (code + 1) / 2;
+            QCOMPARE(cutout::leanGif(gif(pixels, 1, data)), gif(pixels, 1, data.left((bits + 7) / 8)));
+        }
     }
 
     void orientation()

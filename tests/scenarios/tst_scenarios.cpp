@@ -4,6 +4,7 @@
 #include "app/dialogs/BackgroundDialog.h"
 #include "app/dialogs/ExportDialog.h"
 #include "app/dialogs/OptionsDialog.h"
+#include "canvas/MarkerDabs.h"
 #include "tests/reference/MaskReference.h"
 #include "tests/scenarios/Scenes.h"
 #include "tests/support/DialogParts.h"
@@ -21,6 +22,8 @@
 #include <QSpinBox>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 using scenes::Scene;
 using testsupport::ModalAnswers;
@@ -139,6 +142,18 @@ QList<int> visiblePixels(const QImage &cutOut)
             if (qAlpha(reinterpret_cast<const QRgb *>(cutOut.constScanLine(y))[x]) > 127)
                 indices << y * cutOut.width() + x;
     return indices;
+}
+
+/// How many pixels of the canvas have just this colour.
+int pixelsOf(const WindowUnderTest &t, QRgb colour)
+{
+    const QImage seen = t.view.viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    int found = 0;
+    for (int y = 0; y < seen.height(); ++y) {
+        const auto *row = reinterpret_cast<const QRgb *>(seen.constScanLine(y));
+        found += static_cast<int>(std::count(row, row + seen.width(), colour));
+    }
+    return found;
 }
 
 /// Where a picture lies in the viewport.
@@ -389,7 +404,8 @@ void ScenariosTest::keyboardOnly()
     QVERIFY(tabTo("actionKeep_arker"));
     pressKey(t.window, Qt::Key_Space);
     QVERIFY(t.action("actionKeep_arker").isChecked());
-    t.answers.expect<OptionsDialog>([](OptionsDialog &dialog) { // one size for all tools
+    t.answers.expect<OptionsDialog>([](OptionsDialog &dialog) { // one size for all tools, and a small one
+        pressKey(dialog, Qt::Key_6);
         for (int i = 0; i < 30 && !part<QCheckBox>(dialog, "checkBox").hasFocus(); ++i)
             pressKey(dialog, Qt::Key_Tab);
         pressKey(dialog, Qt::Key_Space);
@@ -397,6 +413,8 @@ void ScenariosTest::keyboardOnly()
     });
     t.trigger("actionPreferences");
     testsupport::activate(t.window);
+    QCOMPARE(int(t.probe.keepMarkerSize()), 6);
+    QCOMPARE(t.status(), QString("Ready")); // of opening still
     // Small enough for 48 pixels.
     for (int i = 0; i < 200 && t.probe.keepMarkerSize() > 4; ++i)
         pressKey(t.window, Qt::Key_Left, Qt::ControlModifier);
@@ -461,6 +479,8 @@ void ScenariosTest::threePhotosInARow()
         const Scene scene = scenes::balloon(large);
         openAndMark(saved(scene.photo, "large.jpg"), [&] {
             markInside(t, {0.5, 0.2}, {0.5, 0.77});
+            // Ten pixels of the photo are less than one here, and the marks can be seen all the same.
+            QVERIFY(pixelsOf(t, markers::keepColour) > 300);
             markAround(t, 0.25, 0.75, 0.05, 0.84);
         });
         verifyFittedPreview(t, scene, alike);
