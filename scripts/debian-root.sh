@@ -35,12 +35,12 @@ make_root() {
 }
 
 # in_root SUITE FOLDER COMMAND ...: as root of that Debian, with processes and mounts of its own, which end with the
-# command. Of the environment it gets ORNEVO_WERROR and ccache's settings.
+# command. Of the environment it gets what CI sets and ccache's settings.
 in_root() {
     local suite=$1 root=$2 name handed=()
     shift 2
     mkdir -p "$ORNEVO_CACHE/apt-$suite/partial" "$ORNEVO_CCACHE"
-    for name in ORNEVO_WERROR CCACHE_BASEDIR CCACHE_NOHASHDIR; do
+    for name in ORNEVO_WERROR ORNEVO_PRECOMPILED CCACHE_BASEDIR CCACHE_NOHASHDIR; do
         [ -z "${!name:-}" ] || handed+=("$name=${!name}")
     done
     # shellcheck disable=SC2016 # the inner shell's own parameters
