@@ -16,7 +16,7 @@
 
 #include <stdexcept>
 
-using testsupport::ModalAnswers;
+using testsupport::DialogAnswers;
 using testsupport::part;
 using testsupport::WindowUnderTest;
 
@@ -57,7 +57,7 @@ public:
 } // namespace
 
 /// While the program is busy the pointer says so, and no pixels of a closed dialog are left on the screen.
-class LongWorkTest : public QObject
+class TestLongWork : public QObject
 {
     Q_OBJECT
 
@@ -96,7 +96,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-void LongWorkTest::opening()
+void TestLongWork::opening()
 {
     WindowUnderTest t;
     const Witness witness(t);
@@ -110,7 +110,7 @@ void LongWorkTest::opening()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::unreadableFile()
+void TestLongWork::unreadableFile()
 {
     WindowUnderTest t;
     const Witness witness(t);
@@ -120,7 +120,7 @@ void LongWorkTest::unreadableFile()
     QCOMPARE(witness.waiting, 1);
 }
 
-void LongWorkTest::mask()
+void TestLongWork::mask()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -131,7 +131,7 @@ void LongWorkTest::mask()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::preview()
+void TestLongWork::preview()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -141,18 +141,18 @@ void LongWorkTest::preview()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::background()
+void TestLongWork::background()
 {
     WindowUnderTest t;
     openAndMark(t);
     t.trigger("actionPreview");
-    t.window.statusBar()->showMessage("nothing yet"); // a text that stays is not told of
+    t.window.statusBar()->showMessage("nothing yet"); // a text that stays is not reported
     const Witness witness(t);
     bool inDialog = true;
     t.answers.expect<BackgroundDialog>([&](BackgroundDialog &dialog) {
         inDialog = pointerWaits();
         part<QRadioButton>(dialog, "transparentradioButton").click();
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.trigger("actionSelect_Background");
     QVERIFY(!inDialog);
@@ -160,7 +160,7 @@ void LongWorkTest::background()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::exporting()
+void TestLongWork::exporting()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -171,7 +171,7 @@ void LongWorkTest::exporting()
     t.answers.expect<ExportDialog>([&](ExportDialog &dialog) {
         inDialog = pointerWaits();
         pressDots(dialog);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file("out.jpg"));
     t.trigger("actionExport");
@@ -181,7 +181,7 @@ void LongWorkTest::exporting()
     QVERIFY(!witness.fileWasThere);
 }
 
-void LongWorkTest::exportWithALostTransparency()
+void TestLongWork::exportWithALostTransparency()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -190,7 +190,7 @@ void LongWorkTest::exportWithALostTransparency()
     bool inWarning = true;
     t.answers.expect<ExportDialog>([](ExportDialog &dialog) {
         pressDots(dialog);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file("out.jpg"));
     t.answers.expect<QMessageBox>([&](QMessageBox &box) {
@@ -202,7 +202,7 @@ void LongWorkTest::exportWithALostTransparency()
     QVERIFY(!inWarning);
 }
 
-void LongWorkTest::saving()
+void TestLongWork::saving()
 {
     WindowUnderTest t;
     QVERIFY(QFile::copy(file("photo.png"), file("mine.png")));
@@ -221,7 +221,7 @@ void LongWorkTest::saving()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::savingAs()
+void TestLongWork::savingAs()
 {
     WindowUnderTest t;
     t.openPicture(file("photo.png"));
@@ -236,7 +236,7 @@ void LongWorkTest::savingAs()
 }
 
 /// Memory may be short at any moment of the work.
-void LongWorkTest::exceptions()
+void TestLongWork::exceptions()
 {
     WindowUnderTest t;
     try {
@@ -250,5 +250,5 @@ void LongWorkTest::exceptions()
     QVERIFY(!t.progressBar().isVisible());
 }
 
-ORNEVO_TEST_MAIN(LongWorkTest)
+ORNEVO_TEST_MAIN(TestLongWork)
 #include "tst_longwork.moc"

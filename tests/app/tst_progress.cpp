@@ -33,7 +33,7 @@ private:
 } // namespace
 
 /// The bar moves on the screen during a long step, and does not make it longer.
-class ProgressTest : public QObject
+class TestProgress : public QObject
 {
     Q_OBJECT
 
@@ -66,7 +66,7 @@ private slots:
             QTest::qSleep(1);
             t.progressBar().setValue(percent);
         }
-        QCOMPARE(changes.size(), 100); // whoever listens is told of every one
+        QCOMPARE(changes.size(), 100); // every one is reported to whoever listens
         // One in 40 ms at most, and in the tenth of a second that this takes at least one.
         QVERIFY2(paintings.values.size() <= age.elapsed() / 40,
                  qPrintable(QString::number(paintings.values.size())));
@@ -93,17 +93,17 @@ private slots:
     void barComesAndGoesWithoutMovingTheCanvas()
     {
         WindowUnderTest t;
-        driver::settle();
+        testsupport::settle();
         const QRect canvas = t.view.geometry();
         const int below = t.window.centralWidget()->height() - canvas.bottom();
         QVERIFY2(below <= 14, qPrintable(QString::number(below)));
         {
             const ProgressStep step(&t.progressBar());
-            driver::settle();
+            testsupport::settle();
             QCOMPARE(t.view.geometry(), canvas);
             QVERIFY(t.progressBar().height() >= 4); // enough to be seen
         }
-        driver::settle();
+        testsupport::settle();
         QCOMPARE(t.view.geometry(), canvas);
     }
 
@@ -127,5 +127,5 @@ private slots:
     }
 };
 
-ORNEVO_TEST_MAIN(ProgressTest)
+ORNEVO_TEST_MAIN(TestProgress)
 #include "tst_progress.moc"

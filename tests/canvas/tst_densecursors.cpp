@@ -46,7 +46,7 @@ double sharpness(const QImage &picture)
 } // namespace
 
 /// The cursors on a screen with two pixels a point.
-class DenseCursorsTest : public QObject
+class TestDenseCursors : public QObject
 {
     Q_OBJECT
 
@@ -59,13 +59,13 @@ private:
     static QCursor cursorOf(DrawingTools tool);
 };
 
-void DenseCursorsTest::initTestCase()
+void TestDenseCursors::initTestCase()
 {
     resources::registerAll();
     QSettings().setValue("ERASERMSIZE", eraserWidth);
 }
 
-QCursor DenseCursorsTest::cursorOf(DrawingTools tool)
+QCursor TestDenseCursors::cursorOf(DrawingTools tool)
 {
     QSettings settings;
     ZelGraphicsView view;
@@ -80,7 +80,7 @@ QCursor DenseCursorsTest::cursorOf(DrawingTools tool)
     return view.viewport()->cursor();
 }
 
-void DenseCursorsTest::cursorsAreDense_data()
+void TestDenseCursors::cursorsAreDense_data()
 {
     QTest::addColumn<DrawingTools>("tool");
     QTest::addColumn<QString>("plain");
@@ -98,7 +98,7 @@ void DenseCursorsTest::cursorsAreDense_data()
                                    << ":/icons/redpencilv.PNG" << QSize(8, 22) << QPoint(4, 21);
 }
 
-void DenseCursorsTest::cursorsAreDense()
+void TestDenseCursors::cursorsAreDense()
 {
     QFETCH(DrawingTools, tool);
     QFETCH(QString, plain);
@@ -126,6 +126,6 @@ void DenseCursorsTest::cursorsAreDense()
 int main(int argc, char *argv[])
 {
     qputenv("QT_SCALE_FACTOR", "2"); // read once, when the application starts: hence a program of its own
-    return testsupport::runTest<DenseCursorsTest>(argc, argv);
+    return testsupport::runTest<TestDenseCursors>(argc, argv);
 }
 #include "tst_densecursors.moc"

@@ -10,6 +10,8 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
+namespace testsupport {
+
 /// While it lives, leaks are not counted: Qt's PNG writer loses its list of rows when it can't write.
 struct UncountedLeaks
 {
@@ -54,3 +56,5 @@ private:
     rlimit m_before{};
     void (*m_signal)(int) = nullptr;
 };
+
+} // namespace testsupport
