@@ -13,6 +13,8 @@
 #include <QThread>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int undoLimit = 200;
@@ -29,6 +31,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     setUpUndo();
     letTabIntoTheToolBar();
     setUpProgress();
+    setUpStatusBar();
     setUpHint();
     QGuiApplication::setWindowIcon(windowIcon()); // which the dialogs take
     updatetoolssettings();
@@ -39,11 +42,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), form(std::make_un
     connectCanvas();
 }
 
-MainWindow::~MainWindow()
-{
-    // The stack speaks once more when it goes, and what would listen has gone before it.
-    undoStack.disconnect(this);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::setUpProgress()
 {
@@ -52,6 +51,21 @@ void MainWindow::setUpProgress()
     policy.setRetainSizeWhenHidden(true);
     form->progressBar->setSizePolicy(policy);
     form->progressBar->hide();
+}
+
+void MainWindow::setUpStatusBar()
+{
+    // Most texts tell of work that begins now and keeps the event loop from painting them. All else that
+    // waits to be painted comes along, such as the photo that was opened.
+    connect(form->statusBar, &QStatusBar::messageChanged, form->statusBar,
+            [bar = form->statusBar] { bar->repaint(); });
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    // No action has a status tip; the empty one of whatever menu or button the pointer comes by would wipe
+    // out what the status bar says.
+    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
 }
 
 void MainWindow::setUpHint()
@@ -78,13 +92,13 @@ void MainWindow::setUpUndo()
 
 void MainWindow::letTabIntoTheToolBar()
 {
-    // The buttons of a tool bar never have the focus unless told to, and many actions stand there only. By
+    // The buttons of a tool bar never take the focus by themselves, and many actions stand there only. By
     // Tab alone, so that a click leaves the keys with the canvas.
     QList<QWidget *> buttons;
     for (QAction *action : form->mainToolBar->actions())
         buttons << form->mainToolBar->widgetForAction(action);
     nameToolBar();
-    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>(u"qt_toolbar_ext_button"_s))
         buttons << overflow;
     QWidget *previous = form->graphicsView;
     for (QWidget *button : buttons) {
@@ -110,7 +124,7 @@ void MainWindow::repaintAfterDialog()
     // given the place back, which is when this window is the active one again, and the window has painted it.
     // Work that keeps the one thread busy waits for that, though not for long: there need not be a manager.
     constexpr int patience = 100; // ms
-    const QDeadlineTimer deadline(QGuiApplication::platformName() == "xcb" && isVisible() ? patience : 0);
+    const QDeadlineTimer deadline(QGuiApplication::platformName() == "xcb"_L1 && isVisible() ? patience : 0);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     while (!isActiveWindow() && !deadline.hasExpired()) {
         QThread::msleep(1);

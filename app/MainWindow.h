@@ -27,8 +27,9 @@ class Ui_MainWindow;
 /// The program's one window. It owns the state that the canvas, the mask pipeline and the output share; the
 /// loops over pixels are elsewhere. Its bodies are split by concern over MainWindow*.cpp.
 ///
-/// The names of the slots bind them to the actions of the form, misspellings included: setupUi() connects
-/// on_<object>_<signal>() by name, and no connect() is to be found.
+/// The names of the slots bind them to the actions of the form, misspellings included
+/// (docs/compatibility.md): setupUi() connects on_<object>_<signal>() by name, and no connect() is to be
+/// found.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -42,7 +43,7 @@ public:
     /// the photo before.
     void open();
     /// Writes the topmost picture of the editing scene (the overlay, if there is one) as JPEG, whatever the
-    /// name ends in. A failure is not told.
+    /// name ends in. A failure is not reported. (All of it is kept, see docs/compatibility.md.)
     void save(const QString &path);
 
     /// Fills `edgeMap` from `workingImage`.
@@ -71,6 +72,7 @@ signals:
     void mwquit();
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -121,6 +123,7 @@ private:
     struct ToolTable;
 
     void setUpProgress();
+    void setUpStatusBar();
     void setUpHint();
     void setUpTools();
     void setUpUndo();
@@ -145,7 +148,6 @@ private:
     void showScene(QGraphicsScene &scene);
     void scaleBackground(double factor);
     bool exportTo(const QString &fileName, const QByteArray &format, QSize size);
-    [[nodiscard]] QPixmap exportCanvas() const;
     bool writeScene(const QString &path);
 
     std::unique_ptr<Ui_MainWindow> form;
@@ -158,15 +160,15 @@ private:
     bool isOriginalFile = false;               ///< currentFile is the user's photo: saving over it asks first
     QImage workingImage;                       ///< the photo in RGB32; imagePixmap is the same
     ornevo::LargeArray<unsigned char> edgeMap; ///< of workingImage, a byte a pixel
-    ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
-    bool memoryRanOut = false;                 ///< in the last finding of edges or of the mask
-    QList<int> outmask;                        ///< the pixels found, y · width + x, in increasing order
-    QPoint previewOffset;                      ///< where the object lies on the preview, in pixels
-    ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's
-    QImage previewImage;                             ///< the cut-out, ARGB32, brushed; null: to be cut anew
-    QTimer brushTimer;                               ///< ends the wait for more dabs of a batch
-    QTimer skipLastRectTimer;                        ///< sets skipLastRect a while after a batch
-    QRect lastBrushRect;                             ///< the last dab of the last batch, in scene pixels
+    canvas::ItemPointer<QGraphicsPixmapItem> maskItem; ///< the overlay; the scene's, null while there is none
+    bool memoryRanOut = false;                         ///< in the last finding of edges or of the mask
+    QList<int> outmask;   ///< the pixels found, y · width + x, in increasing order
+    QPoint previewOffset; ///< where the object lies on the preview, in pixels
+    canvas::ItemPointer<QGraphicsPixmapItem> backgroundItem; ///< the preview scene's
+    QImage previewImage;      ///< the cut-out, ARGB32, brushed; null: to be cut anew
+    QTimer brushTimer;        ///< ends the wait for more dabs of a batch
+    QTimer skipLastRectTimer; ///< sets skipLastRect a while after a batch
+    QRect lastBrushRect;      ///< the last dab of the last batch, in scene pixels
     bool skipLastRect = true; ///< false: lastBrushRect is left out of the next batch; never in this program
     QList<QRect> pendingBrushRects; ///< the batch that is being collected
     QUndoStack undoStack;
@@ -184,5 +186,5 @@ private:
     int gaussSize = 0;                 ///< taps; a fifth of it is the sigma
     QRgb backgroundColor = 0xFFFFFFFF; ///< not premultiplied; counts while backgroundImage is null
     QImage backgroundImage;
-    ItemPointer<QGraphicsPixmapItem> previewItem; ///< shows previewImage; the preview scene's
+    canvas::ItemPointer<QGraphicsPixmapItem> previewItem; ///< shows previewImage; the preview scene's
 };

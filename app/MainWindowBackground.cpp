@@ -5,7 +5,7 @@
 
 #include "app/WaitCursor.h"
 #include "app/dialogs/BackgroundDialog.h"
-#include "cutout/PictureFile.h"
+#include "cutout/Pipeline.h"
 
 #include <QGraphicsPixmapItem>
 
@@ -22,7 +22,7 @@ void MainWindow::on_actionSelect_Background_triggered()
     dialog.exec();
     if (!dialog.accepted)
         return;
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     if (dialog.useColor) {
         backgroundColor = dialog.color;

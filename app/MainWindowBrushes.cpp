@@ -5,7 +5,7 @@
 
 #include "canvas/CBrushCommand.h"
 #include "canvas/PictureItem.h"
-#include "cutout/AlphaBrush.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <algorithm>
@@ -62,6 +62,7 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
         return; // the preview went while the batch was waiting
     cutout::BrushBatch batch = cutout::brushBatch(rects, previewOffset, previewImage.size());
     // The program only ever sets skipLastRect to true; who sets it to false spares the last dab one batch.
+    // Kept, see docs/compatibility.md.
     if (!skipLastRect)
         batch.pixels -= lastBrushRect;
     // With the view zoomed out the box can be far larger than the picture, whose pixels alone can change.
@@ -78,7 +79,7 @@ void MainWindow::applyBrush(const QList<QRect> &rects, int alphaChange)
 void MainWindow::showCutOut(const QRect &area)
 {
     if (previewItem != nullptr && !previewImage.isNull())
-        updatePixmap(*previewItem, previewImage, area);
+        canvas::updatePixmap(*previewItem, previewImage, area);
 }
 
 void MainWindow::on_HandToolPressed(QPoint prevpos, QPoint pos)

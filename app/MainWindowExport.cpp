@@ -6,8 +6,7 @@
 #include "app/WaitCursor.h"
 #include "app/dialogs/ExportDialog.h"
 #include "core/Truncation.h"
-#include "cutout/ExportComposition.h"
-#include "cutout/PictureFile.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -18,12 +17,14 @@
 #include <new>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isJpeg(const QString &suffix)
 {
-    return suffix.compare("JPG", Qt::CaseInsensitive) == 0 ||
-           suffix.compare("JPEG", Qt::CaseInsensitive) == 0;
+    return suffix.compare("JPG"_L1, Qt::CaseInsensitive) == 0 ||
+           suffix.compare("JPEG"_L1, Qt::CaseInsensitive) == 0;
 }
 
 /// How far a picture reaches on its scene, its own zoom included, in whole pixels.
@@ -48,7 +49,8 @@ void MainWindow::on_actionExport_triggered()
     int width = 0;
     int height = 0;
     QString fileName;
-    dialog.GetSettings(&width, &height, &fileName); // a file that was chosen is written, Cancel or not
+    // A file that was chosen is written, Cancel or not: see docs/compatibility.md.
+    dialog.GetSettings(&width, &height, &fileName);
     const QString suffix = QFileInfo(fileName).suffix();
     if (!exportTo(fileName, suffix.toLatin1(), QSize(width, height)))
         return;
@@ -62,24 +64,18 @@ void MainWindow::on_actionExport_triggered()
 
 bool MainWindow::exportTo(const QString &fileName, const QByteArray &format, QSize size)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     if (fileName.isEmpty() || backgroundItem == nullptr || previewItem == nullptr)
         return false;
     try {
-        cutout::ExportLayers layers{exportCanvas(), previewImage, previewOffset, extentOf(*backgroundItem)};
-        cutout::writePicture(cutout::composeExport(std::move(layers), size).toImage(), fileName, format);
+        cutout::ExportLayers layers{
+            cutout::exportCanvas(backgroundItem->pixmap().size(), backgroundColor, backgroundImage),
+            previewImage, previewOffset, extentOf(*backgroundItem)};
+        cutout::writePicture(cutout::composeExport(std::move(layers), size), fileName, format);
     } catch (const std::bad_alloc &) {
         form->statusBar->showMessage(tr("Not enough memory to export"));
         return false;
     }
     return true;
-}
-
-QPixmap MainWindow::exportCanvas() const
-{
-    if (!backgroundImage.isNull())
-        return cutout::asPixmap(backgroundImage);
-    // The colour alone: the chessboard of the preview only stands for what is transparent.
-    return cutout::colourCanvas(backgroundItem->pixmap().size(), backgroundColor);
 }

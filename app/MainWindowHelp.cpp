@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString authorship()
@@ -27,7 +29,7 @@ void MainWindow::on_actionIndex_triggered()
 
 void MainWindow::on_actionContact_Us_triggered()
 {
-    QDesktopServices::openUrl(QUrl("mailto:contact@ornevo.example?subject=Ornevo%20Pro"));
+    QDesktopServices::openUrl(QUrl(u"mailto:contact@ornevo.example?subject=Ornevo%20Pro"_s));
 }
 
 void MainWindow::on_actionAbout_triggered()

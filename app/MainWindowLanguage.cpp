@@ -8,6 +8,8 @@
 #include <QEvent>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 void MainWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
@@ -29,6 +31,6 @@ void MainWindow::nameToolBar()
     // Not every Qt tells the screen reader the title of a tool bar, and none has a name for its overflow
     // button.
     form->mainToolBar->setAccessibleName(form->mainToolBar->windowTitle());
-    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>("qt_toolbar_ext_button"))
+    if (auto *overflow = form->mainToolBar->findChild<QToolButton *>(u"qt_toolbar_ext_button"_s))
         overflow->setAccessibleName(tr("More tools"));
 }

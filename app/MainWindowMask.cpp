@@ -8,8 +8,7 @@
 #include "canvas/MarkerDabs.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
-#include "cutout/IndexPicture.h"
-#include "segmentation/FrWatershed.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -32,14 +31,15 @@ void MainWindow::updatemask()
     if (topmostPicture() == nullptr)
         return;
 
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     form->statusBar->showMessage(tr("Isolating object"));
-    const ProgressStep progress(form->progressBar);
+    const app::ProgressStep progress(form->progressBar);
     outmask.clear();
     qWarning() << "outmask size before watd is" << outmask.size();
     try {
-        markers::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
-        FrWatershed(&workingImage, seeds.keep, seeds.remove, outmask, edgeMap.get(), form->progressBar);
+        const cutout::Seeds seeds = markers::seedsOf(imageScene.items(), workingImage.size());
+        outmask = cutout::floodObject(workingImage, edgeMap, seeds,
+                                      [this](int percent) { form->progressBar->setValue(percent); });
     } catch (const std::bad_alloc &) {
         outmask = {}; // the picture has no mask; the program goes on
         memoryRanOut = true;
@@ -49,9 +49,7 @@ void MainWindow::updatemask()
 
 void MainWindow::on_actionMask_triggered()
 {
-    constexpr QRgb green = qRgb(0, 255, 0);
-    constexpr QRgb white = qRgb(255, 255, 255);
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     const QString noMemory = tr("Not enough memory for a mask");
     updatemask();
     if (memoryRanOut) {
@@ -59,13 +57,12 @@ void MainWindow::on_actionMask_triggered()
         return;
     }
     form->statusBar->showMessage(tr("Displaying image"));
-    const QPixmap overlay =
-        QPixmap::fromImage(cutout::paintIndices(workingImage.size(), outmask, green, white));
+    const QPixmap overlay = QPixmap::fromImage(cutout::objectOverlay(workingImage.size(), outmask));
     if (overlay.isNull() && !workingImage.isNull()) {
         form->statusBar->showMessage(noMemory);
         return;
     }
-    maskItem = new PictureItem(overlay);
+    maskItem = new canvas::PictureItem(overlay);
     imageScene.addItem(maskItem);
     maskItem->setZValue(layers::maskOverlayZ);
     maskItem->setOpacity(maskOpacity);

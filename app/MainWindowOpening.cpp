@@ -7,31 +7,20 @@
 #include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SettingsKeys.h"
-#include "cutout/PictureFile.h"
-#include "imaging/EdgeMap.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include <algorithm>
-#include <cstdint>
 #include <new>
 
-namespace {
-
-/// Null when memory is short.
-ornevo::LargeArray<unsigned char> bytesFor(const QImage &picture)
-{
-    return ornevo::makeLargeArray<unsigned char>(static_cast<std::size_t>(picture.width()) *
-                                                 static_cast<std::size_t>(picture.height()));
-}
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 QString MainWindow::lastDirectory() const
 {
-    return settings.value(settings::currentDirectory.name, settings::currentDirectory.windowDefault)
+    return settings
+        .value(settings::currentDirectory.name, QLatin1StringView(settings::currentDirectory.windowDefault))
         .toString();
 }
 
@@ -44,7 +33,7 @@ void MainWindow::on_actionOpen_triggered()
         form->statusBar->showMessage(tr("No file selected"));
         return;
     }
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     open();
     // Whether or not the picture could be read, what belonged to the one before goes.
@@ -59,27 +48,27 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::open()
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     settings.setValue(settings::currentDirectory.name, QFileInfo(currentFile).canonicalPath());
     imageScene.clear();
     previewScene.clear();
     maskItem = nullptr;
     outmask.clear();
 
-    const QImage picture = cutout::readPicture(currentFile).convertToFormat(QImage::Format_RGB32);
+    const QImage picture = cutout::readPhoto(currentFile);
     // All the memory that the picture takes is got before anything refers to the picture.
     const QPixmap pixmap = QPixmap::fromImage(picture);
-    ornevo::LargeArray<unsigned char> edges = bytesFor(picture);
+    cutout::EdgeMap edges = cutout::newEdgeMap(picture);
     if (pixmap.isNull() || edges == nullptr) {
         form->statusBar->showMessage(tr("Failed to read image"));
         return;
     }
     form->hint->hide();
-    setWindowTitle("Ornevo Pro - " + QFileInfo(currentFile).fileName());
+    setWindowTitle(u"Ornevo Pro - "_s + QFileInfo(currentFile).fileName());
     form->statusBar->showMessage(tr("image opened"));
 
     imagePixmap = pixmap;
-    imageScene.addItem(new PictureItem(imagePixmap));
+    imageScene.addItem(new canvas::PictureItem(imagePixmap));
     imageScene.setSceneRect(imagePixmap.rect());
     // The canvas scales with its size: scroll bars that come later, with the first zoom, would scale it too.
     form->graphicsView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -91,7 +80,7 @@ void MainWindow::open()
 
     form->statusBar->showMessage(tr("Image loaded. Preprocessing image."));
     {
-        const ProgressStep progress(form->progressBar);
+        const app::ProgressStep progress(form->progressBar);
         workingImage = picture;
         edgeMap = std::move(edges);
         colorsobel();
@@ -105,9 +94,8 @@ void MainWindow::colorsobel()
     if (edgeMap == nullptr)
         return;
     try {
-        imaging::computeEdgeMap(workingImage, edgeMap.get());
-    } catch (const std::bad_alloc &) { // short of memory, there are no edges; differences of colour remain
+        cutout::findEdges(workingImage, edgeMap);
+    } catch (const std::bad_alloc &) { // differences of brightness remain to go by
         memoryRanOut = true;
-        std::fill_n(edgeMap.get(), workingImage.sizeInBytes() / 4, std::uint8_t{0});
     }
 }

@@ -6,10 +6,7 @@
 #include "app/WaitCursor.h"
 #include "canvas/PictureItem.h"
 #include "canvas/SceneLayers.h"
-#include "cutout/BackgroundLayer.h"
-#include "cutout/CutOut.h"
-#include "cutout/FourChannelBlur.h"
-#include "cutout/IndexPicture.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
@@ -17,15 +14,11 @@
 
 #include <new>
 
-namespace {
-
-constexpr double sizeToSigma = 5.0;
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 void MainWindow::on_actionPreview_toggled(bool checked)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     if (checked) {
         updatemask();
         setEditingActionsEnabled(false);
@@ -53,10 +46,11 @@ void MainWindow::showScene(QGraphicsScene &scene)
 
 void MainWindow::updatepreview()
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     updatepreviewmask();
     // Without a mask all of the photo would be shown, or nothing of it.
-    if (memoryRanOut || (maskImage.isNull() && !workingImage.isNull())) {
+    memoryRanOut = memoryRanOut || (maskImage.isNull() && !workingImage.isNull());
+    if (memoryRanOut) {
         previewScene.clear();
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
@@ -66,14 +60,12 @@ void MainWindow::updatepreview()
 
 void MainWindow::updatepreviewmask()
 {
-    constexpr QRgb black = qRgb(0, 0, 0);
-    constexpr QRgb white = qRgb(255, 255, 255);
     qWarning() << "outmask size is" << outmask.size();
     maskImage = QImage(); // what memory it had can serve the next one
-    QImage sharp = cutout::paintIndices(workingImage.size(), outmask, black, white);
+    QImage sharp = cutout::objectMask(workingImage.size(), outmask);
     maskImage = smoothEdges ? cutout::blurDestination(sharp, gaussSize) : sharp;
     if (smoothEdges && !maskImage.isNull())
-        blur(&sharp, &maskImage, gaussSize, gaussSize / sizeToSigma);
+        blur(&sharp, &maskImage, gaussSize, cutout::smoothingSigma(gaussSize));
 }
 
 void MainWindow::blur(QImage *src, QImage *dst, int size, double sigma)
@@ -100,8 +92,10 @@ void MainWindow::applypreviewmask()
         form->statusBar->showMessage(tr("Not enough memory for a preview"));
         return;
     }
-    backgroundItem = new PictureItem(background);
-    previewItem = new PictureItem(object);
+    auto *behind = new canvas::PictureItem(background);
+    behind->keepPainted();
+    backgroundItem = behind;
+    previewItem = new canvas::PictureItem(object);
     previewScene.addItem(backgroundItem);
     previewScene.addItem(previewItem);
     backgroundItem->setZValue(layers::backgroundZ);
@@ -122,7 +116,7 @@ void MainWindow::framePreview()
 void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
 {
     if (previewImage.isNull()) {
-        if (topmostPicture() == nullptr)
+        if (topmostPicture() == nullptr || memoryRanOut) // no mask to cut it with
             return;
         form->statusBar->showMessage(tr("getting inversed mask"));
         previewImage = cutout::cutOut(imagePixmap.toImage(), maskImage);
@@ -130,8 +124,8 @@ void MainWindow::applypreviewmasktopixmap(QPixmap *background, QPixmap *object)
         form->statusBar->showMessage(tr("painting alpha channel done, now feather"));
         form->statusBar->showMessage(tr("feather done"));
     }
-    // With room for alpha even where nothing is transparent yet, the brushes can change it piece by piece.
+    // With an alpha channel even where nothing is transparent yet, the brushes can change it piece by piece.
     *object = QPixmap::fromImage(cutout::premultiplied(previewImage), Qt::NoOpaqueDetection);
     *background = cutout::backgroundLayer(workingImage.size(), backgroundColor,
-                                          QImage(":/icons/chessbackground.png"), backgroundImage);
+                                          QImage(u":/icons/chessbackground.png"_s), backgroundImage);
 }

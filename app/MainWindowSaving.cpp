@@ -5,7 +5,7 @@
 
 #include "app/WaitCursor.h"
 #include "cutout/FlatPicture.h"
-#include "cutout/PictureFile.h"
+#include "cutout/Pipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
@@ -16,7 +16,7 @@
 
 void MainWindow::save(const QString &path)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     writeScene(path);
 }
 
@@ -42,7 +42,7 @@ bool MainWindow::writeScene(const QString &path)
 // False when nothing was written for want of memory: the photo that is open stays.
 bool MainWindow::saveAndReopen(const QString &path)
 {
-    const WaitCursor busy;
+    const app::WaitCursor busy;
     repaintAfterDialog();
     form->actionPreview->setChecked(false); // as opening does: the cut-out goes with the photo
     if (!writeScene(path))

@@ -6,7 +6,8 @@
 
 namespace {
 
-// Sizes and intensities are bytes: a stored 300 counts as 44, and a step beyond either end wraps around.
+// Sizes and intensities are bytes: a stored 300 counts as 44, and a step beyond either end wraps around. That
+// is kept, see docs/compatibility.md.
 unsigned char byteFrom(int value)
 {
     return static_cast<unsigned char>(value);
@@ -17,7 +18,7 @@ unsigned char byteFrom(int value)
 void MainWindow::updatetoolssettings()
 {
     const auto stored = [this](const settings::Key &key) {
-        return settings.value(key.name, key.windowDefault);
+        return settings.value(key.name, QLatin1StringView(key.windowDefault));
     };
     for (const ToolAction &row : ToolTable::rows)
         for (const ToolSetting &setting : {row.size, row.intensity})
@@ -60,8 +61,9 @@ void MainWindow::stepToolSize(int step)
     const ToolAction *used = toolInUse(&ToolAction::size);
     const ToolAction &keepMarker = ToolTable::rows.front();
     if (used != &keepMarker && form->actionKeep_arker->isEnabled() &&
-        settings.value(settings::sameSize.name, settings::sameSize.windowDefault).toBool()) {
-        changeByte(keepMarker.size, tr("Tool size is %1"), step); // which is that of every tool
+        settings.value(settings::sameSize.name, QLatin1StringView(settings::sameSize.windowDefault))
+            .toBool()) {
+        changeByte(keepMarker.size, tr("Tool size is %1"), step); // which is that of all tools
         form->graphicsView->updatetoolssettings();
     } else if (used != nullptr) {
         changeByte(used->size, tr(used->size.message), step);

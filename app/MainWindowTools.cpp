@@ -13,8 +13,8 @@ void MainWindow::setUpTools()
         QAction *action = form.get()->*row.action;
         (row.mode == ToolAction::Mode::Previewing ? brushGroup : markerGroup)->addAction(action);
         // setupUi() has connected those that have a slot of their name.
-        const QString slot = "on_" + action->objectName() + "_toggled(bool)";
-        if (metaObject()->indexOfSlot(slot.toLatin1()) < 0)
+        const QByteArray slot = "on_" + action->objectName().toLatin1() + "_toggled(bool)";
+        if (metaObject()->indexOfSlot(slot.constData()) < 0)
             connect(action, &QAction::toggled, this,
                     [this, tool = row.tool](bool checked) { chooseTool(tool, checked); });
     }

@@ -11,9 +11,12 @@ constexpr int pauseBetweenPaintings = 40; // ms; flows for the eye
 
 } // namespace
 
+namespace app {
+
 ProgressStep::ProgressStep(QProgressBar *bar) : m_bar(bar)
 {
     m_bar->show();
+    m_bar->repaint(); // not every step has values to tell, and the bar is to be seen during it all the same
     m_bar->setUpdatesEnabled(false);
     m_sincePainted.start();
     m_connection = QObject::connect(bar, &QProgressBar::valueChanged, bar, [this] { paintIfDue(); });
@@ -35,3 +38,5 @@ void ProgressStep::paintIfDue()
     m_bar->setUpdatesEnabled(false);
     m_sincePainted.restart();
 }
+
+} // namespace app

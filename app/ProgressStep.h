@@ -8,10 +8,12 @@
 
 class QProgressBar;
 
-/// Shows a progress bar for as long as it lives, and paints it a few times a second, however often its value
-/// changes.
+namespace app {
+
+/// Shows a progress bar for as long as it lives: paints it at once, and then a few times a second, however
+/// often its value changes.
 ///
-/// The work that the bar tells of keeps the program's one thread busy, and the bar would paint itself at once
+/// The work that the bar reports keeps the program's one thread busy, and the bar would paint itself at once
 /// for every new value: with a hundred of them that took as long as the work on a small photo.
 class ProgressStep
 {
@@ -27,3 +29,5 @@ private:
     QElapsedTimer m_sincePainted;
     QMetaObject::Connection m_connection;
 };
+
+} // namespace app

@@ -9,6 +9,8 @@
 #include <QProcess>
 #include <QSettings>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 largestFile = qint64{16} << 20; // some hundred times what the program writes
@@ -23,21 +25,21 @@ bool canBeRead(const QString &path)
 /// this one has a name that nobody else gives.
 QString settingsFolder()
 {
-    const QSettings store(QSettings::NativeFormat, QSettings::UserScope, "ornevo-looks-for-its-folder",
-                          "none");
+    const QSettings store(QSettings::NativeFormat, QSettings::UserScope, u"ornevo-looks-for-its-folder"_s,
+                          u"none"_s);
     return QFileInfo(QFileInfo(store.fileName()).path()).path();
 }
 
 } // namespace
 
-void avoidSpecialSettingsFiles()
+void app::avoidSpecialSettingsFiles()
 {
     const QDir folder(settingsFolder());
     const QString organization = QCoreApplication::organizationName();
-    const QStringList files{organization + '/' + QCoreApplication::applicationName() + ".conf",
-                            organization + ".conf"};
+    const QStringList files{organization + u'/' + QCoreApplication::applicationName() + u".conf"_s,
+                            organization + u".conf"_s};
     for (const QString &name : files)
         if (!canBeRead(folder.filePath(name)))
             QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                               QProcess::nullDevice() + "/none");
+                               QProcess::nullDevice() + u"/none"_s);
 }

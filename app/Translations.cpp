@@ -9,9 +9,11 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr const char *translatorName = "ornevo translator";
+constexpr QLatin1StringView translatorName("ornevo translator");
 
 void removeInstalled(QCoreApplication &application)
 {
@@ -34,21 +36,21 @@ QString catalogueFor(const QLocale &locale)
 {
     switch (locale.language()) {
     case QLocale::German:
-        return "de";
+        return u"de"_s;
     case QLocale::Spanish:
-        return "es";
+        return u"es"_s;
     case QLocale::French:
-        return "fr";
+        return u"fr"_s;
     case QLocale::Italian:
-        return "it";
+        return u"it"_s;
     case QLocale::Japanese:
-        return "ja";
+        return u"ja"_s;
     case QLocale::Polish:
-        return "pl";
+        return u"pl"_s;
     case QLocale::Portuguese:
-        return "pt_BR";
+        return u"pt_BR"_s;
     case QLocale::Chinese: // who reads the traditional script is not given the simplified one
-        return locale.script() == QLocale::SimplifiedHanScript ? "zh_CN" : QString();
+        return locale.script() == QLocale::SimplifiedHanScript ? u"zh_CN"_s : QString();
     default:
         return {};
     }
@@ -58,12 +60,12 @@ QString catalogueFor(const QLocale &locale)
 
 QStringList translations::languages()
 {
-    return {"de", "es", "fr", "it", "ja", "pl", "pt_BR", "zh_CN"};
+    return {u"de"_s, u"es"_s, u"fr"_s, u"it"_s, u"ja"_s, u"pl"_s, u"pt_BR"_s, u"zh_CN"_s};
 }
 
 QString translations::languageFor(const QStringList &preferred)
 {
-    // Not QTranslator's own search, which has no catalogue for English and would pass it over for the next
+    // Not QTranslator's own search, which has no catalogue for English and would ignore it for the next
     // language of the list.
     for (const QString &name : preferred) {
         const QLocale locale(name);
@@ -82,8 +84,9 @@ void translations::install(const QString &language)
     if (language.isEmpty())
         return;
     // The last one installed is asked first.
-    installCatalogue(application, "qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    installCatalogue(application, "ornevo_" + language, ":/translations");
+    installCatalogue(application, u"qtbase_"_s + language,
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    installCatalogue(application, u"ornevo_"_s + language, u":/translations"_s);
 }
 
 void translations::installForDesktop()

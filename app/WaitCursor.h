@@ -6,6 +6,8 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+namespace app {
+
 /// While one of these lives, the pointer says that the program is busy. It must have gone before a dialog is
 /// shown.
 class WaitCursor
@@ -15,3 +17,5 @@ public:
     ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
     Q_DISABLE_COPY_MOVE(WaitCursor)
 };
+
+} // namespace app

@@ -42,7 +42,7 @@ std::vector<std::uint8_t> checkOpening(ProgramAtWork &program)
 void checkMask(ProgramAtWork &program, const std::vector<std::uint8_t> &edges)
 {
     const QImage &photo = program.state().workingImage();
-    const markers::Seeds seeds = markers::seedsOf(program.state().imageScene().items(), photo.size());
+    const cutout::Seeds seeds = markers::seedsOf(program.state().imageScene().items(), photo.size());
     QList<int> expected;
     reference::watershed(photo, seeds.keep, seeds.remove, expected, edges);
     if (expected.isEmpty() || program.state().outmask() != expected)

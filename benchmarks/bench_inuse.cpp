@@ -7,7 +7,7 @@
 #include "benchmarks/Measuring.h"
 #include "benchmarks/ProgramAtWork.h"
 #include "benchmarks/StepChecks.h"
-#include "cutout/ExportComposition.h"
+#include "cutout/Pipeline.h"
 #include "tests/support/CanvasMouse.h"
 
 #include <QAction>
@@ -25,10 +25,10 @@ void showIt()
 }
 
 /// A photo on the screen, and a mouse over it.
-class Hand
+class Session
 {
 public:
-    explicit Hand(int megapixels)
+    explicit Session(int megapixels)
         : program(megapixels),
           canvas(*program.window().findChild<QGraphicsView *>("graphicsView")),
           mouse(canvas)
@@ -72,31 +72,31 @@ public:
 };
 
 /// Whether the photo changes where a dab is laid, and is as before without it.
-QByteArray faultOfMarkers(Hand &hand, QPoint place)
+QByteArray faultOfMarkers(Session &session, QPoint place)
 {
-    const qsizetype before = hand.items();
-    const QImage seen = hand.shownAround(place);
-    hand.mouse.move(place);
-    if (hand.items() != before + 1 || hand.shownAround(place) == seen)
+    const qsizetype before = session.items();
+    const QImage seen = session.shownAround(place);
+    session.mouse.move(place);
+    if (session.items() != before + 1 || session.shownAround(place) == seen)
         return "no dab was laid";
-    hand.program.state().undoStack().undo();
-    return hand.items() == before && hand.shownAround(place) == seen ? "" : "the dab is still there";
+    session.program.state().undoStack().undo();
+    return session.items() == before && session.shownAround(place) == seen ? "" : "the dab is still there";
 }
 
 void markerDab(benchmark::State &state)
 {
-    Hand hand(measuring::megapixelsOf(state));
-    hand.layDabs(static_cast<int>(state.range(1)));
-    const QPoint place = hand.place(2550) + QPoint(3, 3);
-    hand.choose("action_Remove_Marker");
-    hand.mouse.press(place);
-    if (!measuring::isRight(state, faultOfMarkers(hand, place)))
+    Session session(measuring::megapixelsOf(state));
+    session.layDabs(static_cast<int>(state.range(1)));
+    const QPoint place = session.place(2550) + QPoint(3, 3);
+    session.choose("action_Remove_Marker");
+    session.mouse.press(place);
+    if (!measuring::isRight(state, faultOfMarkers(session, place)))
         return;
     for (auto _ : state) {
-        hand.mouse.move(place);
+        session.mouse.move(place);
         showIt();
         state.PauseTiming();
-        hand.program.state().undoStack().undo();
+        session.program.state().undoStack().undo();
         showIt();
         state.ResumeTiming();
     }
@@ -104,41 +104,41 @@ void markerDab(benchmark::State &state)
 
 void eraserDab(benchmark::State &state)
 {
-    Hand hand(measuring::megapixelsOf(state));
-    hand.layDabs(static_cast<int>(state.range(1)));
-    const QPoint place = hand.place(2550) + QPoint(3, 3);
+    Session session(measuring::megapixelsOf(state));
+    session.layDabs(static_cast<int>(state.range(1)));
+    const QPoint place = session.place(2550) + QPoint(3, 3);
     for (auto _ : state) {
         state.PauseTiming();
-        hand.choose("actionKeep_arker");
-        hand.mouse.stroke({place, place});
-        hand.choose("actionEraser");
+        session.choose("actionKeep_arker");
+        session.mouse.stroke({place, place});
+        session.choose("actionEraser");
         showIt();
-        const qsizetype before = hand.items();
+        const qsizetype before = session.items();
         state.ResumeTiming();
-        hand.mouse.click(place);
+        session.mouse.click(place);
         showIt();
-        if (!measuring::isRight(state, hand.items() < before ? "" : "nothing was erased"))
+        if (!measuring::isRight(state, session.items() < before ? "" : "nothing was erased"))
             break;
     }
 }
 
 void brushAtTheUndoLimit(benchmark::State &state, const char *brush)
 {
-    Hand hand(measuring::megapixelsOf(state));
-    hand.program.layMarks();
-    hand.program.preview();
-    QUndoStack &undo = hand.program.state().undoStack();
+    Session session(measuring::megapixelsOf(state));
+    session.program.layMarks();
+    session.program.preview();
+    QUndoStack &undo = session.program.state().undoStack();
     while (undo.count() < undo.undoLimit())
-        hand.program.brush();
-    hand.choose(brush);
+        session.program.brush();
+    session.choose(brush);
     showIt();
-    const QPoint middle = hand.canvas.viewport()->rect().center();
+    const QPoint middle = session.canvas.viewport()->rect().center();
     const auto batch = [&] {
-        hand.mouse.press(middle);
+        session.mouse.press(middle);
         for (int dab = 1; dab < 10; ++dab)
-            hand.mouse.move(middle + QPoint(4 * dab, 0));
-        hand.mouse.release(middle + QPoint(36, 0));
-        while (!hand.program.state().pendingBrushRects().isEmpty())
+            session.mouse.move(middle + QPoint(4 * dab, 0));
+        session.mouse.release(middle + QPoint(36, 0));
+        while (!session.program.state().pendingBrushRects().isEmpty())
             showIt();
         showIt();
     };
@@ -151,22 +151,22 @@ void brushAtTheUndoLimit(benchmark::State &state, const char *brush)
 
 void handStep(benchmark::State &state)
 {
-    Hand hand(measuring::megapixelsOf(state));
-    hand.program.layMarks();
-    hand.program.preview();
-    hand.choose("actionHandTool");
+    Session session(measuring::megapixelsOf(state));
+    session.program.layMarks();
+    session.program.preview();
+    session.choose("actionHandTool");
     showIt();
-    const QPoint middle = hand.canvas.viewport()->rect().center();
-    hand.mouse.press(middle);
+    const QPoint middle = session.canvas.viewport()->rect().center();
+    session.mouse.press(middle);
     int step = 0;
     const auto move = [&] {
         ++step;
-        hand.mouse.move(middle + QPoint(step % 50, step % 30)); // far and near, as a hand does
+        session.mouse.move(middle + QPoint(step % 50, step % 30)); // far and near, as a hand does
         showIt();
     };
     move();
-    const QPoint moved = hand.program.state().previewOffset();
-    if (!measuring::isRight(state, moved.x() <= 0 || hand.program.state().previewItem()->pos() != moved
+    const QPoint moved = session.program.state().previewOffset();
+    if (!measuring::isRight(state, moved.x() <= 0 || session.program.state().previewItem()->pos() != moved
                                        ? "the object stayed"
                                        : ""))
         return;
@@ -175,19 +175,19 @@ void handStep(benchmark::State &state)
 
 void zoomStep(benchmark::State &state)
 {
-    Hand hand(measuring::megapixelsOf(state));
-    hand.program.layMarks();
-    hand.program.preview();
+    Session session(measuring::megapixelsOf(state));
+    session.program.layMarks();
+    session.program.preview();
     showIt();
     int step = 0;
     const auto zoom = [&] {
         const bool in = step++ % 20 < 10; // up to one and a half times and back
-        hand.program.run(in ? "on_actionZoom_In_triggered" : "on_actionZoom_Out_triggered");
+        session.program.run(in ? "on_actionZoom_In_triggered" : "on_actionZoom_Out_triggered");
         showIt();
     };
-    const double before = hand.canvas.transform().m11();
+    const double before = session.canvas.transform().m11();
     zoom();
-    if (!measuring::isRight(state, hand.canvas.transform().m11() > before ? "" : "no zoom"))
+    if (!measuring::isRight(state, session.canvas.transform().m11() > before ? "" : "no zoom"))
         return;
     measuring::repeat(state, zoom);
 }
@@ -196,16 +196,16 @@ void changeBackground(benchmark::State &state, const QImage &picture)
 {
     if (!measuring::isRight(state, faultOfSteps()))
         return;
-    Hand hand(measuring::megapixelsOf(state));
-    hand.program.layMarks();
-    hand.program.preview();
+    Session session(measuring::megapixelsOf(state));
+    session.program.layMarks();
+    session.program.preview();
     showIt();
     QRgb blue = 0;
     measuring::repeat(state, [&] {
-        hand.program.changeBackground(0x80000000U + ++blue % 256, picture);
+        session.program.changeBackground(0x80000000U + ++blue % 256, picture);
         showIt();
     });
-    measuring::perPixel(state, hand.program.size());
+    measuring::perPixel(state, session.program.size());
 }
 
 void backgroundColour(benchmark::State &state)
@@ -223,12 +223,12 @@ template <typename Work> void exporting(benchmark::State &state, const QByteArra
 {
     if (!measuring::isRight(state, faultOfSteps()))
         return;
-    Hand hand(measuring::megapixelsOf(state));
-    hand.program.layMarks();
-    hand.program.preview();
+    Session session(measuring::megapixelsOf(state));
+    session.program.layMarks();
+    session.program.preview();
     showIt();
-    work(hand.program, hand.program.fileFor("out." + format), format);
-    measuring::perPixel(state, hand.program.size());
+    work(session.program, session.program.fileFor("out." + format), format);
+    measuring::perPixel(state, session.program.size());
 }
 
 void exportFile(benchmark::State &state, const QByteArray &format)
@@ -243,11 +243,11 @@ void encode(benchmark::State &state, const QByteArray &format)
 {
     exporting(state, format, [&](ProgramAtWork &program, const QString &file, const QByteArray &type) {
         const QSize size = program.size();
-        const cutout::ExportLayers layers{cutout::colourCanvas(size, program.state().backgroundColor()),
+        const cutout::ExportLayers layers{cutout::exportCanvas(size, program.state().backgroundColor(), {}),
                                           program.state().previewImage(),
                                           {},
                                           size};
-        const QImage picture = cutout::composeExport(layers, size).toImage();
+        const QImage picture = cutout::composeExport(layers, size);
         measuring::repeat(state, [&] { picture.save(file, type, 100); });
     });
 }

@@ -9,7 +9,7 @@
 #include "benchmarks/ProgramAtWork.h"
 #include "benchmarks/StepChecks.h"
 #include "canvas/MarkerDabs.h"
-#include "segmentation/FrWatershed.h"
+#include "cutout/Pipeline.h"
 
 #include <QApplication>
 
@@ -75,13 +75,12 @@ void flooding(benchmark::State &state)
     ProgramAtWork program(measuring::megapixelsOf(state));
     program.open();
     program.layMarks();
-    markers::Seeds seeds =
-        markers::seedsOf(program.state().imageScene().items(), program.state().workingImage().size());
-    measuring::repeat(state, [&] {
-        QList<int> mask;
-        FrWatershed(&program.state().workingImage(), seeds.keep, seeds.remove, mask,
-                    program.state().edgeMap(), nullptr);
-    });
+    const cutout::Seeds seeds = markers::seedsOf(program.state().imageScene().items(), program.size());
+    const QImage photo = program.state().workingImage();
+    cutout::EdgeMap edges = cutout::newEdgeMap(photo);
+    cutout::findEdges(photo, edges);
+    measuring::repeat(state,
+                      [&] { benchmark::DoNotOptimize(cutout::floodObject(photo, edges, seeds).size()); });
     measuring::perPixel(state, program.size());
 }
 BENCHMARK(flooding)->Apply(measuring::megapixels);

@@ -4,10 +4,10 @@
 
     report.py FOLDER PAGE [PLOT]
 
-FOLDER has times.json and inuse.json of ornevo_benchmarks, memory.txt of road_memory and first.txt of first_open. In PAGE
-everything between the two "measured" marks is replaced by what times.json and the texts hold, and everything between
-the two "in use" marks by what inuse.json and the texts hold; a part whose file is missing stays as it is. Fails when a
-row was measured that no table shows, and when a table wants a row that was not measured.
+FOLDER has times.json and inuse.json of ornevo_benchmarks, memory.txt of pipeline_memory and first.txt of first_open.
+In PAGE everything between the two "measured" comments is replaced by what times.json and the texts hold, and everything
+between the two "in use" comments by what inuse.json and the texts hold; a part whose file is missing stays as it is.
+Fails when a row was measured that no table shows, and when a table wants a row that was not measured.
 """
 
 import json
@@ -105,6 +105,7 @@ def rows_of_goals(measured, folder):
         ("opening beyond decoding by `QImage` / decoding, first photo", [beyond_decoding(first, str(s)) for s in SIZES], 0.6, 0.3),
         ("the same, one photo after the other", opening, 0.6, 0.3),
         ("peak memory from opening to export, bytes a pixel", memory_of(folder / "memory.txt"), 44, 32),
+        ("the same without a window", memory_of(folder / "memory-without-window.txt"), None, None),
     ]
 
 
@@ -129,6 +130,8 @@ STEPS = [
 
 
 def number(value):
+    if value is None:
+        return ""
     return f"{value:.2f}" if value < 10 else f"{value:.1f}"
 
 

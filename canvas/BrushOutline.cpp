@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace canvas {
+
 BrushOutline::BrushOutline()
 {
     setZValue(layers::brushOutlineZ);
@@ -49,3 +51,5 @@ void BrushOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*o
     painter->setPen(QPen(pen().color(), lineWidth()));
     painter->drawEllipse(rect());
 }
+
+} // namespace canvas

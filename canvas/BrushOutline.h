@@ -5,6 +5,8 @@
 
 #include <QGraphicsEllipseItem>
 
+namespace canvas {
+
 /// The circle that shows where a brush is and how large, in place of a cursor. A light halo on both sides of
 /// its dark line keeps it visible on every picture. To those who read the scene it is a plain ellipse with
 /// the default pen and brush.
@@ -25,3 +27,5 @@ private:
 
     qreal m_viewPixel = 1.0;
 };
+
+} // namespace canvas

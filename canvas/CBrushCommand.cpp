@@ -13,9 +13,9 @@ namespace {
 
 CBrushCommand::Show showIn(QGraphicsPixmapItem *item, const QImage &image)
 {
-    return [shown = ItemPointer<QGraphicsPixmapItem>(item), &image](const QRect &area) {
+    return [shown = canvas::ItemPointer<QGraphicsPixmapItem>(item), &image](const QRect &area) {
         if (shown != nullptr)
-            updatePixmap(*shown, image, area);
+            canvas::updatePixmap(*shown, image, area);
     };
 }
 
@@ -34,7 +34,7 @@ CBrushCommand::CBrushCommand(QGraphicsPixmapItem *item, const QRect &area, QPixm
                              QImage *image, const QImage &before)
     : CBrushCommand(showIn(item, *image), area, image, before)
 {
-    m_showFirst = [shown = ItemPointer<QGraphicsPixmapItem>(item), afterPixmap] {
+    m_showFirst = [shown = canvas::ItemPointer<QGraphicsPixmapItem>(item), afterPixmap] {
         // An item that shows it already would be repainted from end to end.
         if (shown != nullptr && shown->pixmap().cacheKey() != afterPixmap->cacheKey())
             shown->setPixmap(*afterPixmap);

@@ -49,5 +49,5 @@ private:
     std::function<void()> m_showFirst; ///< for the first redo(); empty afterwards
     QRect m_area;
     QImage *m_image;
-    UndoSnapshot m_snapshot;
+    canvas::UndoSnapshot m_snapshot;
 };

@@ -22,5 +22,5 @@ public:
 
 private:
     QPointer<QGraphicsScene> m_scene;
-    ItemPointer<QGraphicsItem> m_item;
+    canvas::ItemPointer<QGraphicsItem> m_item;
 };

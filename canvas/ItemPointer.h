@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace canvas {
+
 /// A borrowed pointer to a scene item that becomes null when the item dies, whoever deletes it: the scene on
 /// a clear(), an undo command, or the owner. It is to items what QPointer is to objects.
 template <typename Item> class ItemPointer
@@ -44,3 +46,5 @@ private:
     Item *m_item = nullptr;
     std::weak_ptr<void> m_life;
 };
+
+} // namespace canvas

@@ -9,9 +9,9 @@
 
 namespace markers {
 
-Seeds seedsOf(const QList<QGraphicsItem *> &items, QSize size)
+cutout::Seeds seedsOf(const QList<QGraphicsItem *> &items, QSize size)
 {
-    Seeds seeds;
+    cutout::Seeds seeds;
     for (const QGraphicsItem *item : items) {
         if (const auto *dab = qgraphicsitem_cast<const QGraphicsRectItem *>(item))
             appendSeedSquare(dab->rect(), size, seeds.keep);

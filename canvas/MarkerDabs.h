@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "cutout/Seeds.h"
+
 #include <QColor>
 #include <QGraphicsItem>
 #include <QList>
@@ -18,16 +20,9 @@ inline constexpr QRgb removeColour = qRgb(255, 10, 10); ///< for the eye only
 inline constexpr QRgb blueColour = qRgb(10, 10, 255);   ///< seedsOf() tells the Blue marker by it
 inline constexpr QRgb penColour = qRgb(255, 255, 10);   ///< for the eye only
 
-/// Pixel indices (y · width + x) under the dabs; see appendSeedSquare().
-struct Seeds
-{
-    QList<int> keep;
-    QList<int> remove;
-};
-
-/// Reads the seeds off the items of a scene that shows a picture of `size`. A rectangle is a Keep dab
-/// whatever its colour; an ellipse is a Remove dab, whatever made it, unless its pen is exactly the blue of
-/// the Blue marker.
-[[nodiscard]] Seeds seedsOf(const QList<QGraphicsItem *> &items, QSize size);
+/// Reads the seeds, which are the pixels under the dabs (see appendSeedSquare()), off the items of a scene
+/// that shows a picture of `size`. A rectangle is a Keep dab whatever its colour; an ellipse is a Remove dab,
+/// whatever made it, unless its pen is exactly the blue of the Blue marker.
+[[nodiscard]] cutout::Seeds seedsOf(const QList<QGraphicsItem *> &items, QSize size);
 
 } // namespace markers

@@ -10,6 +10,7 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStyleOptionGraphicsItem>
 
 #include <algorithm>
@@ -82,6 +83,8 @@ int reachOfChange(const QGraphicsItem &item)
 
 } // namespace
 
+namespace canvas {
+
 PictureItem::PictureItem(const QPixmap &pixmap) : QGraphicsPixmapItem(pixmap)
 {
     // By default the shape is made of all the pixels' alpha, after every change anew, as soon as somebody
@@ -93,58 +96,65 @@ void PictureItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*op
 {
     const qreal scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->deviceTransform());
     painter->setRenderHint(QPainter::SmoothPixmapTransform, scale < 1.0);
-    const QImage *reduced = reducedFor(scale);
-    if (reduced != nullptr)
-        painter->drawImage(QRectF(offset(), QSizeF(pixmap().size())), *reduced);
+    const QImage *level = mipmapFor(scale);
+    if (level != nullptr)
+        painter->drawImage(QRectF(offset(), QSizeF(pixmap().size())), *level);
     else
         painter->drawPixmap(offset(), pixmap());
 }
 
-const QImage *PictureItem::reducedFor(qreal scale)
+void PictureItem::keepPainted()
 {
-    if (m_reducedFrom != pixmap().cacheKey()) {
-        m_reduced.clear();
-        m_reducedFrom = pixmap().cacheKey();
+    constexpr int limit = 256 * 1024; // KiB; a screen of 7680 x 4320 takes half of it
+    QPixmapCache::setCacheLimit(std::max(QPixmapCache::cacheLimit(), limit));
+    setCacheMode(DeviceCoordinateCache);
+}
+
+const QImage *PictureItem::mipmapFor(qreal scale)
+{
+    if (m_mipmapsFrom != pixmap().cacheKey()) {
+        m_mipmaps.clear();
+        m_mipmapsFrom = pixmap().cacheKey();
     }
-    std::size_t levels = 0; // halvings that leave at least as many pixels as the screen shows
+    std::size_t levels = 0; // those that leave at least as many pixels as the screen shows
     while (scale <= 0.5 && levels < mostLevels) {
         scale *= 2;
         ++levels;
     }
-    while (m_reduced.size() < levels) {
-        QImage half = cutout::halved(m_reduced.empty() ? pixmap().toImage() : m_reduced.back());
-        if (half.isNull())
+    while (m_mipmaps.size() < levels) {
+        QImage next = cutout::nextMipmapLevel(m_mipmaps.empty() ? pixmap().toImage() : m_mipmaps.back());
+        if (next.isNull())
             break;
-        m_reduced.push_back(std::move(half));
+        m_mipmaps.push_back(std::move(next));
     }
-    return levels == 0 || m_reduced.empty() ? nullptr : &m_reduced[std::min(levels, m_reduced.size()) - 1];
+    return levels == 0 || m_mipmaps.empty() ? nullptr : &m_mipmaps[std::min(levels, m_mipmaps.size()) - 1];
 }
 
-void PictureItem::renewReduced(const QRect &area)
+void PictureItem::renewMipmaps(const QRect &area)
 {
     QRect changed = area;
     QImage larger = pixmap().toImage();
-    for (QImage &reduced : m_reduced) {
-        changed = cutout::renewHalved(reduced, larger, changed);
-        larger = reduced;
+    for (QImage &level : m_mipmaps) {
+        changed = cutout::renewMipmapLevel(level, larger, changed);
+        larger = level;
     }
-    m_reducedFrom = pixmap().cacheKey();
+    m_mipmapsFrom = pixmap().cacheKey();
 }
 
 void PictureItem::renew(const QImage &image, const QRect &area)
 {
     QPixmap shown = pixmap();
     if (shown.size() != image.size() || !shown.hasAlphaChannel()) {
-        // An opaque picture stays convertible piece by piece once its pixmap has room for alpha.
+        // An opaque picture stays convertible piece by piece once its pixmap has an alpha channel.
         setPixmap(QPixmap::fromImage(image, Qt::NoOpaqueDetection));
         return;
     }
     const QRect changed = area.intersected(image.rect());
     if (changed.isEmpty())
         return;
-    const bool reducedIsCurrent = m_reducedFrom == shown.cacheKey();
     {
-        const RepaintsHeldBack held(scene());
+        const RepaintsHeldBack held(scene()); // may paint what was due, which makes the copies
+        const bool mipmapsAreCurrent = m_mipmapsFrom == shown.cacheKey();
         setPixmap(QPixmap()); // painting on a shared pixmap would copy all of it
         QPainter painter(&shown);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
@@ -152,8 +162,8 @@ void PictureItem::renew(const QImage &image, const QRect &area)
                           image.copy(changed).convertToFormat(QImage::Format_ARGB32_Premultiplied));
         painter.end();
         setPixmap(shown);
-        if (reducedIsCurrent)
-            renewReduced(changed);
+        if (mipmapsAreCurrent)
+            renewMipmaps(changed);
     }
     if (scene() != nullptr) {
         const int reach = reachOfChange(*this);
@@ -168,3 +178,5 @@ void updatePixmap(QGraphicsPixmapItem &item, const QImage &image, const QRect &a
     else
         item.setPixmap(QPixmap::fromImage(image));
 }
+
+} // namespace canvas

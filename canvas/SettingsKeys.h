@@ -14,10 +14,11 @@
 /// A new setting needs its key here, in `all` as well, a widget with that key as its `settingsKey` in
 /// OptionsDialog.ui, and whoever reads it.
 ///
-/// To change a default, change it in every column that is not null, unless the columns differ: the window
-/// brushes with the intensities of its own column until OK in the preferences, or a key that steps them,
-/// stores others, and the dialog offers weaker ones. Nobody checks what a file holds; ranges below are those
-/// of the preferences. The keys that step sizes and intensities go from 0 to 255 and wrap around.
+/// To change a default, change it in every column that is not null, unless the columns differ, which is
+/// kept (see docs/compatibility.md): the window brushes with the intensities of its own column until OK in
+/// the preferences, or a key that steps them, stores others, and the dialog offers weaker ones. Nobody checks
+/// what a file holds; ranges below are those of the preferences. The keys that step sizes and intensities go
+/// from 0 to 255 and wrap around.
 namespace settings {
 
 struct Key

@@ -15,6 +15,8 @@
 #include <unistd.h>
 #endif
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int uncompressed = 100;
@@ -34,7 +36,7 @@ QImage difference(const QImage &one, const QImage &other)
     }
     return result;
 }
-const char *const nameBeginning = "ornevo-undo-";
+constexpr QLatin1StringView nameBeginning("ornevo-undo-");
 
 #ifdef Q_OS_UNIX
 
@@ -85,9 +87,11 @@ bool isAbandoned(const QByteArray & /*path*/)
 
 } // namespace
 
+namespace canvas {
+
 bool UndoSnapshot::openFile()
 {
-    m_file.setFileTemplate(QDir::tempPath() + '/' + nameBeginning + "XXXXXX");
+    m_file.setFileTemplate(QDir::tempPath() + u'/' + nameBeginning + u"XXXXXX"_s);
     if (!m_file.open())
         return false;
     if (isAmongTheLast(m_file.handle())) {
@@ -144,9 +148,11 @@ void removeAbandonedSnapshots()
 {
     const QDir folder(QDir::tempPath());
     for (const QString &name :
-         folder.entryList({QString(nameBeginning) + "??????"}, QDir::Files | QDir::Hidden | QDir::System)) {
+         folder.entryList({nameBeginning + u"??????"_s}, QDir::Files | QDir::Hidden | QDir::System)) {
         const QString path = folder.filePath(name);
         if (isAbandoned(QFile::encodeName(path)))
             QFile::remove(path);
     }
 }
+
+} // namespace canvas

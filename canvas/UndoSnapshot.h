@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QTemporaryFile>
 
+namespace canvas {
+
 /// The pixels that an undo entry puts back, from before and after. They can be moved to a temporary file of
 /// their own, so that a long history costs disk and not memory: those from before as they are, those from
 /// after as what differs, which packs to little. Where there can't be a file they stay in memory: on a full
@@ -36,3 +38,5 @@ private:
 /// knows files without a name there are none. Only files of this user's are touched, under the name that
 /// snapshots have, and only when no program that runs holds them.
 void removeAbandonedSnapshots();
+
+} // namespace canvas

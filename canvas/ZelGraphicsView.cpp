@@ -61,20 +61,24 @@ void ZelGraphicsView::updatetoolssettings()
 void ZelGraphicsView::readSizes()
 {
     const auto sizeOf = [this](const settings::Key &key) {
-        return static_cast<unsigned char>(settings->value(key.name, key.viewDefault).toInt());
+        return static_cast<unsigned char>(
+            settings->value(key.name, QLatin1StringView(key.viewDefault)).toInt());
     };
-    const bool sameSize = settings->value(settings::sameSize.name, settings::sameSize.viewDefault).toBool();
+    const bool sameSize =
+        settings->value(settings::sameSize.name, QLatin1StringView(settings::sameSize.viewDefault)).toBool();
     keepMarkerSize = sizeOf(settings::keepMarkerSize);
     if (sameSize) {
         removeMarkerSize = keepBrushSize = removeBrushSize = eraserSize = keepMarkerSize;
-        return; // the Blue marker and the opacity keep what they had
+        return; // the Blue marker and the opacity keep what they had: see docs/compatibility.md
     }
     removeMarkerSize = sizeOf(settings::removeMarkerSize);
     keepBrushSize = sizeOf(settings::keepBrushSize);
     removeBrushSize = sizeOf(settings::removeBrushSize);
     eraserSize = sizeOf(settings::eraserSize);
     blueMarkerSize = sizeOf(settings::blueMarkerSize);
-    markerOpacity = settings->value(settings::maskOpacity.name, settings::maskOpacity.viewDefault).toDouble();
+    markerOpacity =
+        settings->value(settings::maskOpacity.name, QLatin1StringView(settings::maskOpacity.viewDefault))
+            .toDouble();
 }
 
 void ZelGraphicsView::updateellipse(int size)
@@ -96,6 +100,16 @@ void ZelGraphicsView::mousePressEvent(QMouseEvent *event)
         return;
     handle(rowOf(currentTool).press, event);
     QGraphicsView::mousePressEvent(event);
+}
+
+void ZelGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // The second of two quick presses comes as this and as nothing else; a stroke may begin with it as well.
+    mousePressed = true;
+    if (scene() == nullptr)
+        return;
+    handle(rowOf(currentTool).press, event);
+    QGraphicsView::mouseDoubleClickEvent(event);
 }
 
 void ZelGraphicsView::mouseMoveEvent(QMouseEvent *event)
@@ -161,6 +175,7 @@ void ZelGraphicsView::resizeEvent(QResizeEvent *event)
 
 void ZelGraphicsView::scrollContentsBy(int dx, int dy)
 {
+    markPointer(std::nullopt); // it would move along
     // Zoomed far in, one step can be so long that Qt's moving of the pixels overflows and reads beyond them.
     // Beyond the view's own size it makes no difference how far the pixels move.
     const int farthest = 2 * std::max({1, viewport()->width(), viewport()->height()});

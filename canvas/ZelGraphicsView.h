@@ -11,6 +11,7 @@
 #include <QMutex>
 #include <QPoint>
 
+#include <optional>
 #include <vector>
 
 class QSettings;
@@ -63,11 +64,13 @@ signals:
 protected:
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void PenMousePressed(QMouseEvent *event);
@@ -109,18 +112,19 @@ private:
     [[nodiscard]] qreal pixelInScene() const;
     [[nodiscard]] QRect squareAround(QPoint viewPosition, int half) const;
     [[nodiscard]] bool acceptsDabAt(QPointF scenePosition) const;
-    void pushMarkerCommand(QGraphicsItem *dab);
+    void layDab(QGraphicsItem *dab);
     void pressBrush(QMouseEvent *event, int size);
     void moveBrush(QMouseEvent *event, int size);
-    void showBrushOutline(const QRect &square);
+    void showBrushOutline(const QRect &square, QPoint position);
     void removeBrushOutline();
+    void markPointer(std::optional<QPoint> position);
 
     DrawingTools currentTool = ToolNone;
-    ItemPointer<QGraphicsPathItem> penPathItem; ///< the line being drawn
-    ItemPointer<BrushOutline> brushOutline;     ///< the brush circle
-    QMutex toolMutex;                           // unused
-    QPoint lastMousePos;                        ///< in view pixels
-    unsigned char keepMarkerSize = 0;           // units: SettingsKeys.h
+    canvas::ItemPointer<QGraphicsPathItem> penPathItem;     ///< the line being drawn
+    canvas::ItemPointer<canvas::BrushOutline> brushOutline; ///< the brush circle
+    QMutex toolMutex;                                       // unused
+    QPoint lastMousePos;                                    ///< in view pixels
+    unsigned char keepMarkerSize = 0;                       // units: SettingsKeys.h
     unsigned char removeMarkerSize = 0;
     unsigned char keepBrushSize = 0;
     unsigned char removeBrushSize = 0;
@@ -128,6 +132,7 @@ private:
     unsigned char blueMarkerSize = 0;
     double markerOpacity = 0.0; ///< ten times that of the Blue marker's dabs
     bool mousePressed = false;
-    QPointF m_penStart; ///< in scene pixels
-    std::vector<ItemPointer<QGraphicsItem>> m_erasedDabs;
+    QPointF m_penStart;                    ///< in scene pixels
+    std::optional<QPoint> m_markedPointer; ///< in view pixels; where there is neither circle nor cursor
+    std::vector<canvas::ItemPointer<QGraphicsItem>> m_erasedDabs;
 };

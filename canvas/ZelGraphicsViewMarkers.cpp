@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "canvas/CMarkerCommand.h"
+#include "canvas/DabItem.h"
 #include "canvas/MarkerDabs.h"
 #include "canvas/SceneLayers.h"
 #include "canvas/ZelGraphicsView.h"
@@ -34,14 +35,15 @@ bool ZelGraphicsView::acceptsDabAt(QPointF position) const
     return x >= 1 && y >= 1 && x < picture.width() && y < picture.height();
 }
 
+// The pointer is at the corner of these dabs and in the middle of the Blue ones: kept, see
+// docs/compatibility.md.
 void ZelGraphicsView::KeepMarkerMouseMoved(QMouseEvent *event)
 {
     const QPointF position = scenePosition(*this, *event);
     if (!mousePressed || !acceptsDabAt(position))
         return;
-    const QColor colour(markers::keepColour);
-    pushMarkerCommand(scene()->addRect(QRectF(position, QSizeF(keepMarkerSize, keepMarkerSize)), QPen(colour),
-                                       QBrush(colour)));
+    const QRectF square(position, QSizeF(keepMarkerSize, keepMarkerSize));
+    layDab(new canvas::DabItem<QGraphicsRectItem>(square, markers::keepColour, pixelInScene()));
 }
 
 void ZelGraphicsView::RemoveMarkerMouseMoved(QMouseEvent *event)
@@ -49,28 +51,29 @@ void ZelGraphicsView::RemoveMarkerMouseMoved(QMouseEvent *event)
     const QPointF position = scenePosition(*this, *event);
     if (!mousePressed || !acceptsDabAt(position))
         return;
-    const QColor colour(markers::removeColour);
-    pushMarkerCommand(scene()->addEllipse(QRectF(position, QSizeF(removeMarkerSize, removeMarkerSize)),
-                                          QPen(colour), QBrush(colour)));
+    const QRectF square(position, QSizeF(removeMarkerSize, removeMarkerSize));
+    layDab(new canvas::DabItem<QGraphicsEllipseItem>(square, markers::removeColour, pixelInScene()));
 }
 
-void ZelGraphicsView::pushMarkerCommand(QGraphicsItem *dab)
+void ZelGraphicsView::layDab(QGraphicsItem *dab)
 {
     dab->setZValue(layers::dabZ);
+    scene()->addItem(dab);
     if (undoStack != nullptr)
         undoStack->push(new CMarkerCommand(scene(), dab));
 }
 
 void ZelGraphicsView::BlueMarkerMouseMoved(QMouseEvent *event)
 {
-    const QRect square = squareAround(event->position().toPoint(), blueMarkerSize >> 1);
-    showBrushOutline(square);
+    const QPoint pointer = event->position().toPoint();
+    const QRect square = squareAround(pointer, blueMarkerSize >> 1);
+    showBrushOutline(square, pointer);
     if (!mousePressed || !acceptsDabAt(scenePosition(*this, *event)))
         return;
     const QColor colour(markers::blueColour);
     QGraphicsItem *dab = scene()->addEllipse(square, QPen(colour), QBrush(colour));
     dab->setZValue(layers::dabZ);
-    dab->setOpacity(markerOpacity / 10.0); // barely tinted, so that what lies under it stays visible
+    dab->setOpacity(markerOpacity / 10.0); // barely tinted: kept, see docs/compatibility.md
 }
 
 void ZelGraphicsView::EraserMousePressed(QMouseEvent *event)
@@ -91,7 +94,7 @@ void ZelGraphicsView::EraserMousePressed(QMouseEvent *event)
 
 void ZelGraphicsView::discardErasedDabs()
 {
-    for (const ItemPointer<QGraphicsItem> &dab : m_erasedDabs)
+    for (const canvas::ItemPointer<QGraphicsItem> &dab : m_erasedDabs)
         delete dab.get();
     m_erasedDabs.clear();
 }

@@ -6,9 +6,11 @@
 #include <QGuiApplication>
 #include <QPixmap>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// The pencils are drawn so that their tip lies there at this width.
+// The pencils are drawn so that their tip lies there at this width: kept, see docs/compatibility.md.
 constexpr int pencilWidth = 8;
 constexpr QPoint pencilTip(4, 21);
 constexpr int penWidth = 32;
@@ -18,13 +20,13 @@ constexpr QPoint penTip(0, 26);
 /// as if it were in pixels of the drawing; other platforms take it in points, as QCursor does.
 qreal hotSpotScale(qreal pixelRatio)
 {
-    return QGuiApplication::platformName() == "xcb" ? pixelRatio : 1.0;
+    return QGuiApplication::platformName() == "xcb"_L1 ? pixelRatio : 1.0;
 }
 
 /// The name of the same drawing with twice the pixels, which QPixmap does not look for by itself.
 QString densePath(QString path)
 {
-    return path.insert(path.lastIndexOf('.'), "@2x");
+    return path.insert(path.lastIndexOf(u'.'), "@2x"_L1);
 }
 
 /// The drawing at this width, or an arrow where there is nothing to draw.
@@ -68,22 +70,22 @@ ZelGraphicsView::Tool ZelGraphicsView::rowOf(DrawingTools tool)
         return noTool;
     case ToolPen:
         return {&View::PenMousePressed, &View::PenMouseMoved, &View::PenMouseReleased, [](const View &view) {
-                    return drawnCursor(":/cursors/pen_cursor.png", penWidth, penTip,
+                    return drawnCursor(u":/cursors/pen_cursor.png"_s, penWidth, penTip,
                                        view.devicePixelRatioF());
                 }};
     case ToolEraser: // a press erases, however the pointer goes on
         return {&View::EraserMousePressed, nothing, nothing, [](const View &view) {
                     const QPoint middle(view.eraserSize / 2, view.eraserSize / 2);
-                    return drawnCursor(":/icons/eraser.ico", view.eraserSize, middle,
+                    return drawnCursor(u":/icons/eraser.ico"_s, view.eraserSize, middle,
                                        view.devicePixelRatioF());
                 }};
     case ToolKeepMarker: // a marker's first dab is laid by the first move
         return {nothing, &View::KeepMarkerMouseMoved, nothing, [](const View &view) {
-                    return pencilCursor(":/icons/greenpencil.PNG", view.devicePixelRatioF());
+                    return pencilCursor(u":/icons/greenpencil.PNG"_s, view.devicePixelRatioF());
                 }};
     case ToolRemoveMarker:
         return {nothing, &View::RemoveMarkerMouseMoved, nothing, [](const View &view) {
-                    return pencilCursor(":/icons/redpencilv.PNG", view.devicePixelRatioF());
+                    return pencilCursor(u":/icons/redpencilv.PNG"_s, view.devicePixelRatioF());
                 }};
     case ToolKeepBrush:
         return {&View::KeepBrushMousePressed, &View::KeepBrushMouseMoved, nothing, circle};

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Ornevo developers
+# SPDX-License-Identifier: MIT
+#
 # What `cmake --install` puts where. Two components: `ornevo` is the program with all that a desktop wants to know of
 # it; `ornevo-dev` the libraries with their headers, for find_package(Ornevo).
 

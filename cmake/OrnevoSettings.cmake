@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Ornevo developers
+# SPDX-License-Identifier: MIT
+#
 # One place for what every target of the project is compiled with.
 
 set(CMAKE_CXX_STANDARD 20)
@@ -43,5 +46,13 @@ if(ORNEVO_FUZZ)
     target_link_options(ornevo_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# String-based connections and slots bound by name need no narrowing of Qt, but casts must be visible.
 target_compile_definitions(ornevo_settings INTERFACE QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)
+
+# For what is made of Qt and belongs to the product: whoever makes a text of bytes says what they are, so that a file's
+# name or a message is never taken for Latin-1, nor a missing encodeName() overlooked. Tests compare with literals in
+# thousands of places, where a text that has gone wrong fails the test anyway: they do without.
+add_library(ornevo_product_settings INTERFACE)
+target_link_libraries(ornevo_product_settings INTERFACE ornevo_settings)
+target_compile_definitions(ornevo_product_settings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_JAVA_STYLE_ITERATORS)

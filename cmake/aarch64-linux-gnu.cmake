@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Ornevo developers
+# SPDX-License-Identifier: MIT
+#
 # Toolchain file: from a PC for 64-bit Arm with Debian's cross-compiler and Debian's libraries for arm64. Tests run under
 # qemu's user emulation; the environment variable QEMU_CPU chooses the processor.
 set(CMAKE_SYSTEM_NAME Linux)

@@ -40,10 +40,11 @@ struct Factor
 };
 
 /// The vertical pass with integer factors, for kernels that allow it. The filter truncates after the centre
-/// and after every pair; as each product is at least 0 and each value so far a whole number, that is the sum
-/// of the products, each truncated for itself. A product depends on one sum of two bytes only, so that its
-/// factor can be tried on all of them. Nothing comes back where no factor does for some weight, or where a
-/// product lies so near below a whole number that the addition in doubles could round it up.
+/// and after every pair, as docs/compatibility.md promises; as each product is at least 0 and each value so
+/// far a whole number, that is the sum of the products, each truncated for itself. A product depends on one
+/// sum of two bytes only, so that its factor can be tried on all of them. Nothing comes back where no factor
+/// does for some weight, or where a product lies so near below a whole number that the addition in doubles
+/// could round it up.
 std::optional<std::vector<Factor>> integerFactors(std::span<const double> half);
 
 /// Vertical pass over the bytes `from` .. `to` - 1. `rows` holds an odd number of rows from the top, one more

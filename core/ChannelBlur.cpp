@@ -11,7 +11,6 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -21,6 +20,8 @@ using namespace rowfilters;
 using blurkernels::FlatRun;
 
 namespace {
+
+constexpr int mostColumns = 1 << 28; // their bytes are counted in an int
 
 std::uint8_t lowByte(double value)
 {
@@ -256,7 +257,7 @@ void blurChannels(const PlaneView &src, const MutablePlaneView &dst, int size, d
     checks::sameSize(dst, src, "dst");
     if (dst.channels != src.channels)
         checks::fail("dst", "has another number of channels");
-    if (src.width > std::numeric_limits<int>::max() / 8)
+    if (src.width > mostColumns)
         checks::fail("src", "is too wide");
     if (src.width == 0 || src.height == 0)
         return;

@@ -21,6 +21,7 @@ int colourDifferenceAt(const std::uint8_t *above, const std::uint8_t *here)
     return sum;
 }
 
+// The last row and column are not written: promised, see docs/compatibility.md.
 template <int divisor, typename Destination>
 void colourDifferences(const PictureView &picture, const Destination &difference)
 {

@@ -296,10 +296,10 @@ HWY_INLINE ShortVector GradientDown(const RowTriple &rows, int x)
     return hn::Add(hn::Add(left, right), hn::Add(mid, mid));
 }
 
-/// Low byte of the length of a gradient, truncated. The sum of the squares stays below 2^24,
-/// where floats hold every whole number. The root is at most 1442; with 2048 added, its whole part ends
-/// twelve bits above the last of the float. No root below a whole number is so near to it that the roundings
-/// could lift it over.
+/// Low byte of the length of a gradient, truncated (promised, see docs/compatibility.md). The sum of the
+/// squares stays below 2^24, where floats hold every whole number. The root is at most 1442; with 2048 added,
+/// its whole part ends twelve bits above the last of the float. No root below a whole number is so near to it
+/// that the roundings could lift it over.
 HWY_INLINE IntVector MagnitudeAt(const RowTriple &rows, int x)
 {
     const auto along = ToFloats(GradientAlong(rows, x));

@@ -11,7 +11,7 @@
 #include <array>
 #include <cstddef>
 #include <cstring>
-#include <limits>
+#include <optional>
 #include <vector>
 
 namespace ornevo {
@@ -22,6 +22,7 @@ using rowfilters::RowRing;
 namespace {
 
 constexpr double sigma = 1.4;
+constexpr int mostColumns = 1 << 28; // far enough from the end of int for all that is counted in bytes
 
 /// The rows of one colour that the smoothing and the derivative reach.
 struct Channel
@@ -50,7 +51,7 @@ public:
     }
 
     /// Writes the averaged gradient magnitudes of row `y`, neither the first nor the last; each row is asked
-    /// for once, in order. `out` has room for the padding.
+    /// for once, in order. `out` includes the padding.
     void row(int y, std::uint8_t *out)
     {
         while (m_nextBlurred <= y + 1)
@@ -123,30 +124,63 @@ private:
     int m_nextBlurred = 0;
 };
 
+// Longer rows are worked on in tiles of columns: the few dozen of them that are kept at a time would take
+// gigabytes of a picture that is nothing but width.
+constexpr int longestRow = 1 << 16;
+constexpr int tileColumns = 1 << 9;
+constexpr int tileOverlap = radius + 1; // as far as the border of a tile shows in its gradients
+
+/// The columns `from` to `to` - 1. Calls rowDone() after each row.
+template <typename RowDone>
+RowStatistics averageGradients(const PictureView &picture, int from, int to, const MutablePlaneView &edges,
+                               RowDone rowDone)
+{
+    const int left = std::min(from, tileOverlap);
+    const int right = std::min(picture.width - to, tileOverlap);
+    const int width = to - from;
+    const int height = picture.height;
+    const PictureView tile(picture.pixels + std::ptrdiff_t{4} * (from - left), left + width + right, height,
+                           picture.bytesPerRow);
+    RowStatistics all;
+    std::optional<GradientRows> gradients;
+    if (height > 2) // else all of it is frame
+        gradients.emplace(tile);
+    std::vector<std::uint8_t> padded(static_cast<std::size_t>(tile.width) + rowPadding);
+    const bool whole = tile.width == picture.width && edges.bytesPerRow == width;
+    const std::uint8_t *const end = edges.row(height - 1) + to;
+    for (int y = 0; y < height; ++y) {
+        std::uint8_t *out = edges.row(y) + from;
+        if (y == 0 || y == height - 1) {
+            std::memset(out, 0, static_cast<std::size_t>(width));
+        } else if (whole && end - (out + width) >= rowPadding) {
+            gradients->row(y, out); // the padding falls on rows that are yet to come
+            all.add(statisticsOf(out, width));
+        } else {
+            gradients->row(y, padded.data());
+            std::memcpy(out, padded.data() + left, static_cast<std::size_t>(width));
+            all.add(statisticsOf(out, width));
+        }
+        rowDone();
+    }
+    return all;
+}
+
 RowStatistics averageGradients(const PictureView &picture, const MutablePlaneView &edges,
                                const ProgressCallback &progress)
 {
-    const int width = picture.width;
-    const int height = picture.height;
-    RowStatistics all;
-    GradientRows gradients(picture);
-    std::vector<std::uint8_t> padded(static_cast<std::size_t>(width) + rowPadding);
-    const std::uint8_t *const end = edges.row(height - 1) + width;
-    for (int y = 0; y < height; ++y) {
-        std::uint8_t *out = edges.row(y);
-        if (y == 0 || y == height - 1) {
-            std::memset(out, 0, static_cast<std::size_t>(width));
-        } else if (edges.bytesPerRow == width && end - (out + width) >= rowPadding) {
-            gradients.row(y, out); // the padding falls on rows that are yet to come
-            all.add(statisticsOf(out, width));
-        } else {
-            gradients.row(y, padded.data());
-            std::memcpy(out, padded.data(), static_cast<std::size_t>(width));
-            all.add(statisticsOf(out, width));
-        }
+    // Tiles of one width, so that none is narrower than the kernel.
+    const std::int64_t tiles =
+        picture.width <= longestRow ? 1 : (std::int64_t{picture.width} + tileColumns - 1) / tileColumns;
+    const auto columnOf = [&](std::int64_t tile) { return static_cast<int>(picture.width * tile / tiles); };
+    std::int64_t rowsDone = 0;
+    const auto rowDone = [&] {
+        ++rowsDone;
         if (progress)
-            progress(static_cast<int>((std::int64_t{y} + 1) * 100 / height));
-    }
+            progress(static_cast<int>(rowsDone * 100 / (tiles * picture.height)));
+    };
+    RowStatistics all;
+    for (std::int64_t tile = 0; tile < tiles; ++tile)
+        all.add(averageGradients(picture, columnOf(tile), columnOf(tile + 1), edges, rowDone));
     return all;
 }
 
@@ -160,13 +194,13 @@ void computeEdgeMap(const PictureView &picture, const MutablePlaneView &edges,
     checks::sameSize(edges, picture, "edges");
     if (picture.width == 0 || picture.height == 0)
         return;
-    if (picture.width > std::numeric_limits<int>::max() / 8)
+    if (picture.width > mostColumns)
         checks::fail("picture", "is too wide");
     const RowStatistics all = averageGradients(picture, edges, progress);
     const std::uint64_t pixels =
         static_cast<std::uint64_t>(picture.width) * static_cast<std::uint64_t>(picture.height);
     const auto mean = static_cast<std::uint8_t>(all.sum / pixels);
-    const auto lift = static_cast<std::uint8_t>(255 - all.largest);
+    const auto lift = static_cast<std::uint8_t>(255 - all.largest); // promised, see docs/compatibility.md
     if (edges.bytesPerRow == edges.width) {
         liftAbove(edges.bytes, static_cast<std::size_t>(pixels), mean, lift);
         return;

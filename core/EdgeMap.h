@@ -17,8 +17,9 @@ namespace ornevo {
 /// lifted by 255 minus the largest average, modulo 256. Black is 255 throughout; of another single colour the
 /// blur can lose levels inside and not in its border band, which makes an edge there.
 ///
-/// `progress` is called once a row or less and ends at 100. Time is linear in the pixels; working storage is
-/// some thirty rows, whatever the height. Throws std::invalid_argument and std::bad_alloc.
+/// `progress` is called once a row or less, several times where a row is longer than 65536 pixels, and ends
+/// at 100. Time is linear in the pixels; working storage is some thirty rows of at most 65536 pixels. Throws
+/// std::invalid_argument and std::bad_alloc.
 ORNEVO_CORE_EXPORT void computeEdgeMap(const PictureView &picture, const MutablePlaneView &edges,
                                        const ProgressCallback &progress = {});
 

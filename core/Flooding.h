@@ -28,9 +28,8 @@ namespace ornevo::flooding {
 ///   itself, which jumps about, never looks at a colour.
 /// - A pixel that is reached puts its region's label into its four neighbours at once, see LabelPlane.h. When
 ///   its own turn comes, a pixel knows its region, or that it lies on a watershed line, from its own label.
-/// - The pixels of a neighbourhood lie close together in memory, see TiledLayout.h, and the queue tells which
-/// ones
-///   come next, so that they are fetched in time.
+/// - The pixels of a neighbourhood lie close together in memory, see TiledLayout.h, and the queue knows which
+///   ones come next, so that they are fetched in time.
 /// - A level is drained from registers until a lower one is filled.
 template <typename Label> class Flooding
 {
@@ -186,7 +185,8 @@ private:
                 }
             };
             queue.reserve();
-            // This order decides ties. The same four neighbours: seed(), queueIfNextToSeed(), StepCosts.
+            // This order decides ties: promised, see docs/compatibility.md. The same four neighbours: seed(),
+            // queueIfNextToSeed(), StepCosts.
             reach(layout.left(i), costs[i].left);
             reach(layout.right(i), costs[i].right);
             reach(layout.above(i), costs[i].up);

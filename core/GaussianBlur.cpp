@@ -67,7 +67,7 @@ int tapsThatMatter(const PlaneView &src, int size)
 constexpr int fastKernel[5][5] = {
     {2, 4, 5, 4, 2}, {4, 9, 12, 9, 4}, {5, 12, 15, 12, 5}, {4, 9, 12, 9, 4}, {2, 4, 5, 4, 2}};
 constexpr int fastDivisor = 159;
-constexpr int fastBand = 5;
+constexpr int fastBand = 5; // though the kernel reaches 2 only: promised, see docs/compatibility.md
 
 // Indexed by column, then row. The seventh entry (right neighbour) has the weight of a corner: promised, see
 // docs/compatibility.md.

@@ -14,10 +14,11 @@
 /// or narrower than a border band named below, the band ends with the picture.
 ///
 /// The Gaussian is sampled, in double precision: the weight of the offset d is
-/// sqrt(exp(-d² / (2σ²)) / (σ · 6.283 · σ)), divided by the sum over all taps. The square root widens it on
-/// purpose. Where the weights can't be formed (sigma 0, not a number, or so far out that their sum is zero or
-/// infinite), the kernel changes nothing. Sums are formed centre first, then pair by pair outward, so that
-/// results are the same to the bit on every machine.
+/// sqrt(exp(-d² / (2σ²)) / (σ · 6.283 · σ)), divided by the sum over all taps. The square root widens it,
+/// which is promised like all that looks odd below: see docs/compatibility.md. Where the weights can't be
+/// formed (sigma 0, not a number, or so far out that their sum is zero or infinite), the kernel changes
+/// nothing. Sums are formed centre first, then pair by pair outward, so that results are the same to the bit
+/// on every machine.
 ///
 /// All throw std::invalid_argument; those with a sigma std::bad_alloc as well.
 namespace ornevo {

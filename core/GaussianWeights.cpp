@@ -17,7 +17,7 @@ namespace {
 double sampledWeight(long long offset, double sigma)
 {
     const double exponent = static_cast<double>(-(offset * offset)) / (sigma * (sigma + sigma));
-    // The constant stands in for two pi; its four digits are part of the filter's response.
+    // In place of two pi, with four digits: promised, see docs/compatibility.md.
     return std::sqrt(exactExp(exponent) / (sigma * 6.283 * sigma));
 }
 

@@ -37,7 +37,7 @@ void truncateAtEachTap(RowRing<double> &rows, int y, HalfKernel half, int from, 
         const double *above = rows.row(y - k);
         const double *below = rows.row(y + k);
         const double weight = half[static_cast<std::size_t>(k)];
-        // The byte is truncated after every pair of taps: that is the filter's response, not an economy.
+        // The byte is truncated after every pair of taps: promised, see docs/compatibility.md.
         for (int x = from; x < to; ++x)
             out[x] = lowByte(out[x] + (below[x] + above[x]) * weight);
     }

@@ -15,7 +15,7 @@ namespace ornevo::flooding {
 /// What a pixel costs where the edge map is not 0.
 enum class EdgeCost {
     strength, ///< the value of the edge map
-    highest   ///< 255, whatever the value
+    highest   ///< 255, whatever the value: promised, see docs/compatibility.md
 };
 
 /// What it costs to step from a pixel to each of its neighbours.

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] std::vector<std::size_t> sizes() const;
 
     /// Writes the indices of the pixels of each region in increasing order: those of region k to
-    /// destinations[k - 1], which has room for sizes()[k - 1] of them. A null one leaves its region out.
+    /// destinations[k - 1], which holds sizes()[k - 1] of them. A null one leaves its region out.
     void listPixels(const std::vector<int *> &destinations) const;
 
     /// Writes `value` for the pixels of `region` and 0 for all others to a plane of one channel and of the

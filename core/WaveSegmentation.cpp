@@ -27,8 +27,8 @@ public:
 
     [[nodiscard]] bool isTaken(int index) const { return m_taken[static_cast<std::size_t>(index)] != 0; }
 
-    /// The region that starts at `start`, until the next call. The start itself is not marked taken: a
-    /// neighbour may take it again.
+    /// The region that starts at `start`, until the next call. The start itself is not marked taken, and
+    /// a neighbour may take it again: promised, see docs/compatibility.md.
     const std::vector<int> &grow(int start)
     {
         m_region.clear();
@@ -67,7 +67,8 @@ private:
         m_next.push_back(neighbour);
     }
 
-    // Each difference wraps around a byte, so that a step into the brighter is a large one.
+    // Each difference wraps around a byte, so that a step into the brighter is a large one: promised, see
+    // docs/compatibility.md.
     static int colourStep(const std::uint8_t *from, const std::uint8_t *to)
     {
         int sum = 0;

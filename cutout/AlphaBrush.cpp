@@ -20,12 +20,12 @@ namespace {
 // reaches. Beyond this many rows they are brought nearer.
 constexpr double mostRows = 20000;
 
-// So far off the picture, the rounding of a cut edge does not show in it.
+// So far off the picture, the rounding of a clipped edge does not show in it.
 constexpr double margin = 64;
 
 /// What is left of a polygon on the side of the line x = bound (or y = bound) that `sign` points away from.
 /// Inside, the winding numbers stay as they are.
-QPolygonF cutAt(const QPolygonF &polygon, bool alongX, double bound, double sign)
+QPolygonF clipAt(const QPolygonF &polygon, bool alongX, double bound, double sign)
 {
     const auto excess = [=](QPointF point) { return sign * ((alongX ? point.x() : point.y()) - bound); };
     QPolygonF result;
@@ -40,12 +40,12 @@ QPolygonF cutAt(const QPolygonF &polygon, bool alongX, double bound, double sign
     return result;
 }
 
-QPolygonF cutAround(QPolygonF polygon, QSize size)
+QPolygonF clipAround(QPolygonF polygon, QSize size)
 {
-    polygon = cutAt(polygon, true, -margin, -1);
-    polygon = cutAt(polygon, true, size.width() + margin, 1);
-    polygon = cutAt(polygon, false, -margin, -1);
-    return cutAt(polygon, false, size.height() + margin, 1);
+    polygon = clipAt(polygon, true, -margin, -1);
+    polygon = clipAt(polygon, true, size.width() + margin, 1);
+    polygon = clipAt(polygon, false, -margin, -1);
+    return clipAt(polygon, false, size.height() + margin, 1);
 }
 
 } // namespace
@@ -60,7 +60,7 @@ BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size)
     QPolygonF outline = path.toFillPolygon(QTransform());
     QRectF bounds = path.boundingRect();
     if (outline.boundingRect().height() > mostRows) {
-        outline = cutAround(outline, size);
+        outline = clipAround(outline, size);
         bounds = outline.boundingRect();
     }
     const QRect box(ornevo::roundToInt(bounds.x()), ornevo::roundToInt(bounds.y()),

@@ -13,7 +13,7 @@ namespace cutout {
 /// One batch of round brush dabs, in pixels of the picture that it edits.
 struct BrushBatch
 {
-    QRegion pixels; ///< the pixels that change: the union of the dabs, cut to the picture
+    QRegion pixels; ///< the pixels that change: the union of the dabs, clipped to the picture
     QRect box;      ///< the box around the dabs, rounded to whole pixels; may reach outside the picture
 };
 
@@ -24,7 +24,7 @@ struct BrushBatch
 [[nodiscard]] BrushBatch brushBatch(const QList<QRect> &squares, QPoint offset, QSize size);
 
 /// Adds `change` to the alpha of the pixels of `region`, limited to 0 .. 255; the colours stay. Parts of
-/// the region outside the picture are passed over. Does nothing unless `picture` is in Format_ARGB32.
+/// the region outside the picture are ignored. Does nothing unless `picture` is in Format_ARGB32.
 void changeAlpha(QImage &picture, const QRegion &region, int change);
 
 } // namespace cutout

@@ -15,11 +15,11 @@ namespace cutout {
 
 namespace {
 
-/// The colour over the stretched board, as a pixmap shows it: without alpha where nothing of it is
+/// The colour over the scaled checkerboard, as a pixmap shows it: without alpha where nothing of it is
 /// transparent.
-QImage colourOverStretched(const QImage &board, QSize size, QRgb colour)
+QImage colourOverScaled(const QImage &checkerboard, QSize size, QRgb colour)
 {
-    QImage rows = board.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
+    QImage rows = checkerboard.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation)
                       .convertToFormat(QImage::Format_ARGB32);
     // One row of the colour, drawn again and again: the blending is that of a whole picture of it.
     QImage row(size.width(), 1, QImage::Format_ARGB32);
@@ -33,8 +33,8 @@ QImage colourOverStretched(const QImage &board, QSize size, QRgb colour)
                                                          : QImage::Format_RGB32);
 }
 
-/// Of each of `length` rows, which one of `count` rows it shows when these are stretched.
-QImage stretchedRowNumbers(int count, int length)
+/// Of each of `length` rows, which one of `count` rows it shows when these are scaled.
+QImage sourceRows(int count, int length)
 {
     QImage numbers(1, count, QImage::Format_RGB32);
     for (int y = 0; y < count; ++y)
@@ -42,11 +42,11 @@ QImage stretchedRowNumbers(int count, int length)
     return numbers.scaled(1, length, Qt::IgnoreAspectRatio, Qt::FastTransformation);
 }
 
-/// Stretches rows of four-byte pixels downwards without smoothing.
-QImage stretchedDown(const QImage &rows, int height)
+/// Scales rows of four-byte pixels in height without smoothing.
+QImage scaledInHeight(const QImage &rows, int height)
 {
     QImage picture = makeLargePicture(QSize(rows.width(), height), rows.format());
-    const QImage numbers = stretchedRowNumbers(rows.height(), height);
+    const QImage numbers = sourceRows(rows.height(), height);
     if (picture.isNull() || numbers.isNull())
         return {};
     const std::size_t bytes = std::size_t{4} * static_cast<std::size_t>(rows.width());
@@ -56,30 +56,32 @@ QImage stretchedDown(const QImage &rows, int height)
     return picture;
 }
 
-QPixmap colourOverBoard(QSize size, QRgb colour, const QImage &board)
+QPixmap colourOverCheckerboard(QSize size, QRgb colour, const QImage &checkerboard)
 {
-    if (board.isNull() || size.isEmpty())
+    if (checkerboard.isNull() || size.isEmpty())
         return {};
-    if (qAlpha(colour) == 255) { // nothing of the board would show
+    if (qAlpha(colour) == 255) { // nothing of it would show
         QImage layer = makeLargePicture(size, QImage::Format_RGB32);
         layer.fill(colour);
         return QPixmap::fromImage(std::move(layer));
     }
-    // Stretching repeats whole rows, so that the work on each can be done once. Which rows, QImage::scaled()
+    // Scaling up repeats whole rows, so that the work on each can be done once. Which rows, QImage::scaled()
     // decides otherwise for pixels with alpha, and where the width stays as it is.
-    const bool rowsAreKnown = board.format() == QImage::Format_RGB32 && board.width() != size.width();
-    if (rowsAreKnown && board.height() < size.height())
-        return QPixmap::fromImage(stretchedDown(
-            colourOverStretched(board, QSize(size.width(), board.height()), colour), size.height()));
-    return QPixmap::fromImage(colourOverStretched(board, size, colour));
+    const bool rowsAreKnown =
+        checkerboard.format() == QImage::Format_RGB32 && checkerboard.width() != size.width();
+    if (rowsAreKnown && checkerboard.height() < size.height())
+        return QPixmap::fromImage(
+            scaledInHeight(colourOverScaled(checkerboard, QSize(size.width(), checkerboard.height()), colour),
+                           size.height()));
+    return QPixmap::fromImage(colourOverScaled(checkerboard, size, colour));
 }
 
 } // namespace
 
-QPixmap backgroundLayer(QSize size, QRgb colour, const QImage &board, const QImage &picture)
+QPixmap backgroundLayer(QSize size, QRgb colour, const QImage &checkerboard, const QImage &picture)
 {
     if (picture.isNull())
-        return colourOverBoard(size, colour, board);
+        return colourOverCheckerboard(size, colour, checkerboard);
     return QPixmap::fromImage(picture).scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 

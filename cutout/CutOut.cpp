@@ -59,24 +59,24 @@ QImage cutOut(const QImage &photo, const QImage &mask)
 
 QImage premultiplied(const QImage &picture)
 {
-    // By strips that stay in the cache between their conversion and their copying, so that the pixels of the
-    // picture come from memory and go there once.
-    constexpr int stripPixels = 1 << 15;
+    // By blocks of rows that stay in the cache between their conversion and their copying, so that the pixels
+    // of the picture come from memory and go there once.
+    constexpr int blockPixels = 1 << 15;
     const auto format = QImage::Format_ARGB32_Premultiplied;
     if (picture.format() != QImage::Format_ARGB32)
         return picture.convertToFormat(format);
     QImage result = emptyLike(picture, format);
     if (result.isNull())
         return {};
-    const int rows = std::max(1, stripPixels / picture.width());
+    const int rows = std::max(1, blockPixels / picture.width());
     for (int top = 0; top < picture.height(); top += rows) {
         const int height = std::min(rows, picture.height() - top);
-        const QImage strip = QImage(picture.constScanLine(top), picture.width(), height,
+        const QImage block = QImage(picture.constScanLine(top), picture.width(), height,
                                     picture.bytesPerLine(), picture.format())
                                  .convertToFormat(format);
-        if (strip.isNull())
+        if (block.isNull())
             return {};
-        std::copy_n(strip.constBits(), strip.sizeInBytes(), result.scanLine(top));
+        std::copy_n(block.constBits(), block.sizeInBytes(), result.scanLine(top));
     }
     return result;
 }

@@ -33,6 +33,6 @@ struct ExportLayers
 /// A stretched object of more than 2^28 pixels (1 GiB) is never made whole: it is drawn scaled. Throws
 /// std::bad_alloc rather than leave out what there is no memory for. A canvas that is moved in, has that size
 /// already and is nobody else's is painted on without a copy.
-[[nodiscard]] QPixmap composeExport(ExportLayers layers, QSize size);
+[[nodiscard]] QImage composeExport(ExportLayers layers, QSize size);
 
 } // namespace cutout

@@ -40,7 +40,7 @@ public:
 
     [[nodiscard]] int number() const { return m_number; }
     [[nodiscard]] bool isOpen() const { return m_number >= 0; }
-    /// Some file systems tell only now that they could not store what was written.
+    /// Some file systems report only now that they could not store what was written.
     bool close() { return ::close(std::exchange(m_number, -1)) == 0; }
 
 private:
@@ -146,7 +146,7 @@ bool overwrite(const QByteArray &path, const QByteArray &contents)
 
 bool replaceFile(const QString &path, const QByteArray &contents)
 {
-    if (path.isEmpty() || path.endsWith('/'))
+    if (path.isEmpty() || path.endsWith(u'/'))
         return false;
     const QByteArray name = QFile::encodeName(endOfLinks(path));
     if (name.isEmpty())

@@ -17,8 +17,8 @@ namespace cutout {
 /// names of one file, the others keep the older contents.
 ///
 /// Where the folder takes no new file or keeps the older one in its place, the older file itself is
-/// overwritten, after room for all has been reserved; should that fail half-way, its contents are put back,
-/// if the disk still takes them.
+/// overwritten, after space for all of it has been reserved; should that fail half-way, its contents are put
+/// back, if the disk still takes them.
 ///
 /// Folders, pipes and devices are not written to, nor files that may not be written.
 [[nodiscard]] bool replaceFile(const QString &path, const QByteArray &contents);

@@ -10,13 +10,12 @@ namespace cutout {
 
 namespace {
 
-bool canBeHalved(const QImage &picture)
+bool hasMipmapLevels(const QImage &level)
 {
-    return picture.format() == QImage::Format_RGB32 ||
-           picture.format() == QImage::Format_ARGB32_Premultiplied;
+    return level.format() == QImage::Format_RGB32 || level.format() == QImage::Format_ARGB32_Premultiplied;
 }
 
-// Two bytes at a time in the two halves of a word, with room for the sum of four.
+// Two bytes at a time, each in one half of a word, which holds the sum of four of them.
 QRgb averageOfFour(QRgb a, QRgb b, QRgb c, QRgb d)
 {
     constexpr QRgb even = 0x00FF00FF;
@@ -26,7 +25,7 @@ QRgb averageOfFour(QRgb a, QRgb b, QRgb c, QRgb d)
     return (low >> 2 & even) | (high >> 2 & even) << 8;
 }
 
-void halveRow(const QRgb *upper, const QRgb *lower, int width, int from, int to, QRgb *out)
+void averageRow(const QRgb *upper, const QRgb *lower, int width, int from, int to, QRgb *out)
 {
     const int whole = std::min(to, width / 2);
     for (std::ptrdiff_t x = from; x < whole; ++x)
@@ -40,29 +39,29 @@ void halveRow(const QRgb *upper, const QRgb *lower, int width, int from, int to,
 
 } // namespace
 
-QImage halved(const QImage &picture)
+QImage nextMipmapLevel(const QImage &level)
 {
-    if (!canBeHalved(picture))
+    if (!hasMipmapLevels(level))
         return {};
-    QImage half((picture.width() + 1) / 2, (picture.height() + 1) / 2, picture.format());
-    if (!half.isNull())
-        renewHalved(half, picture, picture.rect());
-    return half;
+    QImage next((level.width() + 1) / 2, (level.height() + 1) / 2, level.format());
+    if (!next.isNull())
+        renewMipmapLevel(next, level, level.rect());
+    return next;
 }
 
-QRect renewHalved(QImage &half, const QImage &picture, const QRect &area)
+QRect renewMipmapLevel(QImage &next, const QImage &level, const QRect &area)
 {
-    const QRect source = area.intersected(picture.rect());
-    if (source.isEmpty() || half.isNull())
+    const QRect source = area.intersected(level.rect());
+    if (source.isEmpty() || next.isNull())
         return {};
     const QRect target(QPoint(source.left() / 2, source.top() / 2),
                        QPoint(source.right() / 2, source.bottom() / 2));
     for (int y = target.top(); y <= target.bottom(); ++y) {
-        const auto *upper = reinterpret_cast<const QRgb *>(picture.constScanLine(2 * y));
+        const auto *upper = reinterpret_cast<const QRgb *>(level.constScanLine(2 * y));
         const auto *lower =
-            reinterpret_cast<const QRgb *>(picture.constScanLine(std::min(2 * y + 1, picture.height() - 1)));
-        halveRow(upper, lower, picture.width(), target.left(), target.right() + 1,
-                 reinterpret_cast<QRgb *>(half.scanLine(y)));
+            reinterpret_cast<const QRgb *>(level.constScanLine(std::min(2 * y + 1, level.height() - 1)));
+        averageRow(upper, lower, level.width(), target.left(), target.right() + 1,
+                   reinterpret_cast<QRgb *>(next.scanLine(y)));
     }
     return target;
 }

@@ -8,16 +8,16 @@
 
 namespace cutout {
 
-/// A picture of half the width and height (rounded up): every pixel is the average of a square of four,
-/// rounded.
+/// The mipmap level that follows `level`, half as wide and high (rounded up): every pixel is the average of a
+/// square of four, rounded.
 ///
 /// For formats of four bytes a pixel whose bytes can be averaged: RGB32 and ARGB32_Premultiplied. At an odd
 /// edge the last row or column counts twice. Null for other formats, for a null picture, and when memory is
 /// short.
-[[nodiscard]] QImage halved(const QImage &picture);
+[[nodiscard]] QImage nextMipmapLevel(const QImage &level);
 
-/// Renews the part of `half` that stems from `area` of `picture`, where `half` was made by halved(). Returns
-/// that part.
-QRect renewHalved(QImage &half, const QImage &picture, const QRect &area);
+/// Renews the part of `next` that stems from `area` of `level`, where `next` was made by nextMipmapLevel().
+/// Returns that part.
+QRect renewMipmapLevel(QImage &next, const QImage &level, const QRect &area);
 
 } // namespace cutout

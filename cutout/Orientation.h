@@ -8,10 +8,10 @@
 namespace cutout {
 
 /// Which side was up when the photo was taken: the orientation, 1 to 8, among the notes of a camera; 1 where
-/// they don't tell. Looks into the first directory alone: directories can be chained in circles.
+/// they don't say. Looks into the first directory alone: directories can be chained in circles.
 [[nodiscard]] int orientationIn(const QByteArray &exif);
 
-/// A segment of a JPEG that tells the orientation and nothing else.
+/// A segment of a JPEG that holds the orientation and nothing else.
 [[nodiscard]] QByteArray orientationSegment(int orientation);
 
 } // namespace cutout

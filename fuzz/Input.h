@@ -53,7 +53,7 @@ public:
         return result;
     }
 
-    /// Four bytes a pixel; now and then with room between the rows.
+    /// Four bytes a pixel; now and then with padding between the rows.
     QImage picture(int width, int height, QImage::Format format)
     {
         QImage image(width, height, format);

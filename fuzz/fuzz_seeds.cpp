@@ -63,7 +63,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     }
     if (!listable)
         return 0;
-    const markers::Seeds seeds = markers::seedsOf(items, picture);
+    const cutout::Seeds seeds = markers::seedsOf(items, picture);
     if (!modest)
         return 0;
     const reference::Seeds expected = reference::collectSeeds(plain, picture.width(), picture.height());

@@ -86,7 +86,7 @@ bool isAllZero(const std::uint8_t *bytes)
     return any == 0;
 }
 
-/// Calls `visit(x, element)` for each element of a row, in order; those of stretches that are 0 may be left
+/// Calls `visit(x, element)` for each element of a row, in order; those of blocks that are 0 may be left
 /// out, since most of a mask or of markers is 0.
 template <typename Visit>
 void visitRow(const std::uint8_t *row, int width, std::ptrdiff_t stride, int elementBytes, Visit visit)

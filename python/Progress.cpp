@@ -27,17 +27,17 @@ ProgressCallback Progress::callback()
         if (percent <= m_last)
             return;
         const py::gil_scoped_acquire held;
-        tell(percent);
+        report(percent);
     };
 }
 
 void Progress::finish()
 {
     if (!m_callable.is_none() && m_last < 100)
-        tell(100);
+        report(100);
 }
 
-void Progress::tell(int percent)
+void Progress::report(int percent)
 {
     m_last = std::min(percent, 100);
     m_callable(m_last);

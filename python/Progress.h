@@ -9,7 +9,7 @@
 
 namespace ornevo::python {
 
-/// The `progress` argument of a call: a callable that is told each new percentage, and 100 at the end, or
+/// The `progress` argument of a call: a callable that gets each new percentage, and 100 at the end, or
 /// None.
 class Progress
 {
@@ -25,7 +25,7 @@ public:
     void finish();
 
 private:
-    void tell(int percent);
+    void report(int percent);
 
     pybind11::handle m_callable; ///< kept alive by the call's arguments
     int m_last = -1;

@@ -392,28 +392,28 @@ box { <-200, 33, -2>, <200, 35.5, 32> pigment { Shelf } finish { Paper } }
 box { <-200, 69, -2>, <200, 71.5, 32> pigment { Shelf } finish { Paper } }
 box { <-200, 0, -2>, <200, 2, 32> pigment { Shelf } finish { Paper } }
 
-#declare Dice = seed(2207);
+#declare Random = seed(2207);
 #declare Cloths = array[9] {
     <0.28, 0.045, 0.035>, <0.045, 0.10, 0.17>, <0.10, 0.15, 0.075>, <0.30, 0.15, 0.045>,
     <0.06, 0.055, 0.05>, <0.24, 0.17, 0.10>, <0.13, 0.05, 0.08>, <0.05, 0.13, 0.12>, <0.36, 0.27, 0.16> }
 #macro Books(From, To, Floor)
     #local X = From;
     #while (X < To)
-        #local W = 2.2 + 3.4 * rand(Dice);
-        #local H = 19 + 10 * rand(Dice);
-        #local Deep = 3 + 4 * rand(Dice);
-        #local Colour = Cloths[int(rand(Dice) * 8.99)] * (0.7 + 0.6 * rand(Dice));
+        #local W = 2.2 + 3.4 * rand(Random);
+        #local H = 19 + 10 * rand(Random);
+        #local Deep = 3 + 4 * rand(Random);
+        #local Colour = Cloths[int(rand(Random) * 8.99)] * (0.7 + 0.6 * rand(Random));
         union {
             box { <0, 0, 0>, <W - 0.15, H, 16> pigment { rgb Colour } }
-            #if (rand(Dice) > 0.45)
-                box { <-0.02, H * 0.72, -0.1>, <W - 0.13, H * 0.84, 1> pigment { rgb <0.5, 0.40, 0.2> * (0.4 + rand(Dice)) } }
+            #if (rand(Random) > 0.45)
+                box { <-0.02, H * 0.72, -0.1>, <W - 0.13, H * 0.84, 1> pigment { rgb <0.5, 0.40, 0.2> * (0.4 + rand(Random)) } }
             #end
             finish { Paper }
-            #if (rand(Dice) > 0.86) rotate z * -7 #end
+            #if (rand(Random) > 0.86) rotate z * -7 #end
             translate <X, Floor, Deep>
         }
         #local X = X + W;
-        #if (rand(Dice) > 0.88) #local X = X + 2.5; #end
+        #if (rand(Random) > 0.88) #local X = X + 2.5; #end
     #end
 #end
 Books(-62, -38, 35.5)
@@ -442,18 +442,18 @@ Jar(26.5, 35.5, 3.3, 22, <0.20, 0.12, 0.04>)
 Jar(-22, 71.5, 4.0, 20, <0.08, 0.10, 0.14>)
 
 // a plant that hangs over the right of the shelf
-#declare PlantDice = seed(77);
+#declare PlantRandom = seed(77);
 #declare K = 0;
 #while (K < 110)
-    #declare Swing = rand(PlantDice) * 360;
-    #declare Length = 5 + 4 * rand(PlantDice);
+    #declare Swing = rand(PlantRandom) * 360;
+    #declare Length = 5 + 4 * rand(PlantRandom);
     sphere { 0, 1
         scale <Length * 0.36, Length, 0.25>
         translate y * Length
-        rotate z * (rand(PlantDice) * 150 - 75)
-        rotate y * (rand(PlantDice) * 60 - 30)
-        translate <36 + 9 * (rand(PlantDice) - 0.5) , 43 + 17 * rand(PlantDice), -1 + 6 * rand(PlantDice)>
-        pigment { rgb <0.075, 0.17, 0.045> * (0.55 + 0.9 * rand(PlantDice)) + <0.03, 0.02, 0> * rand(PlantDice) }
+        rotate z * (rand(PlantRandom) * 150 - 75)
+        rotate y * (rand(PlantRandom) * 60 - 30)
+        translate <36 + 9 * (rand(PlantRandom) - 0.5) , 43 + 17 * rand(PlantRandom), -1 + 6 * rand(PlantRandom)>
+        pigment { rgb <0.075, 0.17, 0.045> * (0.55 + 0.9 * rand(PlantRandom)) + <0.03, 0.02, 0> * rand(PlantRandom) }
         finish { ambient 0 diffuse 0.8 specular 0.35 roughness 0.02 }
     }
     #declare K = K + 1;
@@ -461,12 +461,12 @@ Jar(-22, 71.5, 4.0, 20, <0.08, 0.10, 0.14>)
 Jar(36, 35.5, 5.0, 10, <0.30, 0.13, 0.07>)
 
 // a string of little lamps: the discs of light out of focus
-#declare LampDice = seed(9);
+#declare LampRandom = seed(9);
 #declare K = 0;
 #while (K < 26)
-    #declare X = -58 + 4.7 * K + 2.4 * rand(LampDice);
-    sphere { <X, 66.0 - 5 * abs(sin(X * 0.09)) + 4.5 * rand(LampDice), -3>, 0.7
-        pigment { rgb 1 } finish { ambient 0 diffuse 0 emission <1.0, 0.58, 0.22> * (2.6 + 3.4 * rand(LampDice)) } no_shadow }
+    #declare X = -58 + 4.7 * K + 2.4 * rand(LampRandom);
+    sphere { <X, 66.0 - 5 * abs(sin(X * 0.09)) + 4.5 * rand(LampRandom), -3>, 0.7
+        pigment { rgb 1 } finish { ambient 0 diffuse 0 emission <1.0, 0.58, 0.22> * (2.6 + 3.4 * rand(LampRandom)) } no_shadow }
     #declare K = K + 1;
 #end
 

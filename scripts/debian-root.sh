@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Ornevo developers
+# SPDX-License-Identifier: MIT
+#
 # Sourced by scripts: a Debian of any release in a folder, and how to run something there. Needs root. Downloaded
 # packages and compiled objects are kept between runs, in $ORNEVO_CACHE; all of it may be deleted at any time. One run at a
 # time: apt locks its folder of packages.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Ornevo developers
+# SPDX-License-Identifier: MIT
+#
 # Sourced by the scripts: what they need from Debian, and how it gets there.
 
 build_packages=(g++ cmake ninja-build ccache pkg-config python3 qt6-base-dev qt6-tools-dev qt6-tools-dev-tools

@@ -14,9 +14,9 @@
 int FrWatershedMany(QImage *image, std::vector<std::vector<int>> seeds, QList<QList<int>> &result,
                     unsigned char *edges, QProgressBar *progress)
 {
-    assert(!result.isEmpty());
     if (seeds.empty())
         return -1;
+    assert(!result.isEmpty());
     const ornevo::Regions regions =
         ornevo::floodRegions(imaging::viewOf(*image), {edges, image->width(), image->height()},
                              {seeds.begin(), seeds.end()}, segmentation::showOn(progress));
@@ -25,6 +25,7 @@ int FrWatershedMany(QImage *image, std::vector<std::vector<int>> seeds, QList<QL
 
     const std::vector<std::size_t> sizes = regions.sizes();
     std::vector<int *> destinations(sizes.size(), nullptr);
+    // Position 0 stays as it is: promised, see docs/compatibility.md.
     result.resize(result.size() + static_cast<qsizetype>(sizes.size()));
     for (std::size_t k = 1; k <= sizes.size() && static_cast<qsizetype>(k) < result.size(); ++k) {
         QList<int> &pixels = result[static_cast<qsizetype>(k)];

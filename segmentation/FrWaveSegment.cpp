@@ -10,6 +10,8 @@
 #include <QProgressBar>
 #include <QStatusBar>
 
+using namespace Qt::StringLiterals;
+
 int FrWaveSegment(QImage *image, QList<QList<int>> &regions, int threshold, QProgressBar *progress,
                   QStatusBar *status)
 {
@@ -20,11 +22,11 @@ int FrWaveSegment(QImage *image, QList<QList<int>> &regions, int threshold, QPro
         if (progress != nullptr)
             progress->setValue(percent);
         if (status != nullptr)
-            status->showMessage("Segmenting image");
+            status->showMessage(u"Segmenting image"_s);
     };
     ornevo::segmentWaves(imaging::viewOf(*image), threshold, append, rowDone);
     if (status != nullptr)
-        status->showMessage("Segmented image");
+        status->showMessage(u"Segmented image"_s);
     return 0;
 }
 

@@ -52,7 +52,8 @@ void Driver::clickMenu(const QString &menuName, const QString &actionName)
 
 void Driver::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    // Shortcuts reach the active window only, and not every platform hands that back after a dialog.
+    // Shortcuts reach the active window only, and not every platform makes the window active again after a
+    // dialog.
     m_window.activateWindow();
     const Awaiting active("the window to become active");
     expect(QTest::qWaitForWindowActive(&m_window), "the window does not become active");

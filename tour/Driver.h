@@ -14,8 +14,8 @@
 
 #include <functional>
 
-/// The hands and eyes of a user before the program's window: clicks, drags and types through real events, and
-/// takes numbered pictures of what there is to see.
+/// Drives the program's window as a user does: clicks, drags and types through real events, and takes
+/// numbered pictures of what there is to see.
 class Driver
 {
 public:

@@ -4,7 +4,7 @@
 #include "app/MainWindow.h"
 #include "tests/support/PlainDesktop.h"
 #include "tests/support/Sandbox.h"
-#include "tour/Story.h"
+#include "tour/Scenario.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -19,10 +19,6 @@
 namespace {
 
 constexpr std::chrono::minutes longestTour(4);
-
-} // namespace
-
-namespace {
 
 /// A dark desktop's colours, for desktops whose theme can't be asked for one.
 QPalette darkPalette()
@@ -78,7 +74,8 @@ int main(int argc, char *argv[])
             const Awaiting exposed("the window to be shown");
             expect(QTest::qWaitForWindowExposed(&window), "the window is not shown");
         }
-        Story(window, parser.value("folder"), parser.value("samples"), parser.value("help-pictures")).tell();
+        Scenario(window, parser.value("folder"), parser.value("samples"), parser.value("help-pictures"))
+            .run();
     } catch (const std::exception &error) {
         std::fprintf(stderr, "the tour failed: %s\n", error.what());
         return 1;

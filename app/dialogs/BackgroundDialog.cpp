@@ -9,6 +9,8 @@
 #include <QEvent>
 #include <QFileDialog>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr unsigned int opaqueWhite = 0xFFFFFFFF;
@@ -58,7 +60,7 @@ void BackgroundDialog::on_pushButton_clicked()
                                                  QColorDialog::ShowAlphaChannel);
     if (!chosen.isValid())
         return;
-    m_form->colorlabel->setText(QString("%1").arg(chosen.rgba(), digits, hexadecimal));
+    m_form->colorlabel->setText(u"%1"_s.arg(chosen.rgba(), digits, hexadecimal));
     // Who has chosen a colour wants it, whatever was ticked before.
     m_form->colorradioButton->setChecked(true);
     enableChoosers(true, false);

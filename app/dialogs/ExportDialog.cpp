@@ -13,12 +13,14 @@
 #include <QRegularExpression>
 #include <QSettings>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The first ending that a filter such as "JPG Files (*.jpg)" names.
 QString endingOf(const QString &filter)
 {
-    static const QRegularExpression pattern(R"(\*\.(\w+))");
+    static const QRegularExpression pattern(uR"(\*\.(\w+))"_s);
     return pattern.match(filter).captured(1);
 }
 
@@ -84,9 +86,10 @@ void ExportDialog::on_checkBox_toggled(bool checked)
 
 void ExportDialog::on_pushButton_clicked()
 {
-    const QString directory =
-        m_settings->value(settings::currentDirectory.name, settings::currentDirectory.dialogDefault)
-            .toString();
+    const QString directory = m_settings
+                                  ->value(settings::currentDirectory.name,
+                                          QLatin1StringView(settings::currentDirectory.dialogDefault))
+                                  .toString();
     const QString name =
         askForFileName(this, tr("Save File"), directory, tr("JPG Files (*.jpg);;PNG Files (*.png)"));
     if (name.isEmpty())

@@ -27,13 +27,17 @@ OptionsDialog::OptionsDialog(QSettings *settings, QWidget *parent)
     for (const settings::Key *key : settings::all) {
         QWidget *field = fieldOf(*key);
         // "Same size for all tools" is not read: confirming the dialog turns it off unless it is ticked.
+        // Kept, see docs/compatibility.md.
         if (field == nullptr || key->dialogDefault == nullptr)
             continue;
         const QMetaProperty value = valueOf(*field);
-        QVariant stored = m_settings->value(key->name, key->dialogDefault);
+        QVariant stored = m_settings->value(key->name, QLatin1StringView(key->dialogDefault));
         stored.convert(value.metaType()); // whatever cannot be read counts as 0 or unticked
         value.write(field, stored);
     }
+    // As Tab does for the other fields. The first one has the focus from the start, and would only take a
+    // number that fits beside its own.
+    m_form->spinBox->selectAll();
 }
 
 OptionsDialog::~OptionsDialog() = default;
@@ -41,7 +45,7 @@ OptionsDialog::~OptionsDialog() = default;
 QWidget *OptionsDialog::fieldOf(const settings::Key &key) const
 {
     for (QWidget *widget : findChildren<QWidget *>())
-        if (widget->property("settingsKey").toString() == key.name)
+        if (widget->property("settingsKey").toString() == QLatin1StringView(key.name))
             return widget;
     return nullptr;
 }
@@ -58,7 +62,7 @@ void OptionsDialog::on_checkBox_toggled(bool checked)
     for (QSpinBox *size : {m_form->spinBox_2, m_form->spinBox_3, m_form->spinBox_4, m_form->spinBox_5})
         size->setEnabled(!checked);
     if (checked)
-        m_form->spinBox_8->setEnabled(false); // and stays so: the Blue marker's size is not given back
+        m_form->spinBox_8->setEnabled(false); // and stays so: see docs/compatibility.md
 }
 
 void OptionsDialog::changeEvent(QEvent *event)

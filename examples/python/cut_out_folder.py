@@ -43,11 +43,11 @@ class ProgressBar:
         self.percent = [0] * works
 
     def callback(self, work):
-        def told(percent):
+        def report(percent):
             self.percent[work] = percent
             self.draw()
 
-        return told
+        return report
 
     def draw(self):
         done = sum(self.percent) / max(1, len(self.percent))

@@ -11,8 +11,12 @@
 #include "tests/support/WindowUnderTest.h"
 
 #include <QGuiApplication>
+#include <QHash>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QRadioButton>
+#include <QToolBar>
 
 #include <stdexcept>
 
@@ -54,6 +58,38 @@ public:
     bool fileWasThere = false; ///< at one of them
 };
 
+/// The status texts that were painted, and how often the progress bar and the canvas were painted under each.
+class PaintedTexts : public QObject
+{
+public:
+    explicit PaintedTexts(WindowUnderTest &t) : m_t(t)
+    {
+        for (QWidget *widget : {static_cast<QWidget *>(t.window.statusBar()),
+                                static_cast<QWidget *>(&t.progressBar()), t.view.viewport()})
+            widget->installEventFilter(this);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Paint || !pointerWaits())
+            return false;
+        const QString text = m_t.status();
+        if (watched == m_t.window.statusBar())
+            texts << text;
+        else if (watched == &m_t.progressBar())
+            ++barBy[text];
+        else
+            ++canvasBy[text];
+        return false;
+    }
+
+    QStringList texts;
+    QHash<QString, int> barBy;
+    QHash<QString, int> canvasBy;
+
+private:
+    WindowUnderTest &m_t;
+};
+
 } // namespace
 
 /// While the program is busy the pointer says so, and no pixels of a closed dialog are left on the screen.
@@ -70,6 +106,8 @@ private slots:
     }
     void cleanup() { QVERIFY(QGuiApplication::overrideCursor() == nullptr); }
     void opening();
+    void stepsAreSeen();
+    void menusLeaveTheStatusText();
     void unreadableFile();
     void mask();
     void preview();
@@ -108,6 +146,47 @@ void TestLongWork::opening()
     QCOMPARE(witness.free, 0);
     t.window.open(); // whoever asks for it
     QCOMPARE(witness.free, 0);
+}
+
+/// What the status bar says of a step, and what the step has to show so far, is on the screen while it runs:
+/// the event loop, which paints otherwise, is only back when all of it is over.
+void TestLongWork::stepsAreSeen()
+{
+    WindowUnderTest t;
+    const PaintedTexts painted(t);
+    t.openPicture(file("photo.png"));
+    QVERIFY2(painted.texts.contains("Image loaded. Preprocessing image."),
+             qPrintable(painted.texts.join(", ")));
+    QCOMPARE(painted.barBy.value("Image loaded. Preprocessing image."), 1);
+    QCOMPARE(painted.canvasBy.value("Image loaded. Preprocessing image."), 1);
+    t.dab("actionKeep_arker", 20, 15);
+    t.dab("action_Remove_Marker", 45, 5);
+    t.trigger("actionMask");
+    QVERIFY2(painted.texts.contains("Isolating object"), qPrintable(painted.texts.join(", ")));
+    QVERIFY(painted.barBy.value("Isolating object") >= 1);
+}
+
+/// A status text stays until the next one comes, wherever the pointer goes meanwhile.
+void TestLongWork::menusLeaveTheStatusText()
+{
+    WindowUnderTest t;
+    t.openPicture(file("photo.png"));
+    testsupport::activate(t.window);
+    QCOMPARE(t.status(), QString("Ready"));
+    QMenuBar &menus = *t.window.menuBar();
+    for (const QAction *menu : menus.actions()) {
+        QTest::mouseClick(&menus, Qt::LeftButton, {},
+                          menus.actionGeometry(const_cast<QAction *>(menu)).center());
+        QTRY_VERIFY(menu->menu()->isVisible());
+        QTest::keyClick(menu->menu(), Qt::Key_Down);
+        QTest::keyClick(menu->menu(), Qt::Key_Escape);
+        QTRY_VERIFY(!menu->menu()->isVisible());
+        QCOMPARE(t.status(), QString("Ready"));
+    }
+    auto *toolBar = t.window.findChild<QToolBar *>("mainToolBar");
+    for (QAction *action : toolBar->actions())
+        action->hover(); // as its button does when the pointer comes
+    QCOMPARE(t.status(), QString("Ready"));
 }
 
 void TestLongWork::unreadableFile()
@@ -240,8 +319,8 @@ void TestLongWork::exceptions()
 {
     WindowUnderTest t;
     try {
-        const WaitCursor busy;
-        const ProgressStep progress(&t.progressBar());
+        const app::WaitCursor busy;
+        const app::ProgressStep progress(&t.progressBar());
         QVERIFY(pointerWaits());
         throw std::runtime_error("the work fails");
     } catch (const std::runtime_error &) {

@@ -4,6 +4,7 @@
 #include "app/dialogs/OptionsDialog.h"
 #include "canvas/SettingsKeys.h"
 #include "tests/support/DialogParts.h"
+#include "tests/support/Keys.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
@@ -38,6 +39,7 @@ private slots:
     void tickingSameSize();
     void sameSizeKeepsOwnSizes();
     void gaussStepsByTwo();
+    void firstFieldIsTypedOver();
     void languageChange();
     void windowFollowsOk();
     void windowFollowsCancel();
@@ -331,6 +333,19 @@ void TestOptionsDialog::gaussStepsByTwo()
     for (int i = 0; i < 10; ++i)
         QTest::keyClick(spin(dialog, "spinBox_9"), Qt::Key_Down);
     QCOMPARE(spin(dialog, "spinBox_9")->value(), 1);
+}
+
+/// A number that is typed replaces the one in the first field, as in all others that the keys come to.
+void TestOptionsDialog::firstFieldIsTypedOver()
+{
+    OptionsDialog dialog(&settings, nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    testsupport::activate(dialog);
+    testsupport::pressKey(dialog, Qt::Key_4);
+    testsupport::pressKey(dialog, Qt::Key_2);
+    testsupport::pressKey(dialog, Qt::Key_Return);
+    QCOMPARE(settings.value("KEEPMSIZE").toInt(), 42);
 }
 
 void TestOptionsDialog::languageChange()

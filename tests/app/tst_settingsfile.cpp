@@ -24,7 +24,7 @@ private slots:
             m_path = store.fileName();
             store.setValue("KEEPMSIZE", 33);
         }
-        avoidSpecialSettingsFiles();
+        app::avoidSpecialSettingsFiles();
         QCOMPARE(QSettings().fileName(), m_path);
         QCOMPARE(QSettings().value("KEEPMSIZE").toInt(), 33);
     }
@@ -54,7 +54,7 @@ private slots:
         } else {
             QVERIFY(QFile::link("/dev/zero", path));
         }
-        avoidSpecialSettingsFiles();
+        app::avoidSpecialSettingsFiles();
         MainWindow window(nullptr);
         MainWindowProbe probe(window);
         QCOMPARE(int{probe.keepMarkerSize()}, 10);

@@ -127,7 +127,7 @@ void TestBrushCommand::init()
     QCOMPARE(temporaryFiles().size(), 0);
     image = randomArgbImage(40, 30, 1);
     scene = std::make_unique<QGraphicsScene>();
-    item = new PictureItem(QPixmap::fromImage(image));
+    item = new canvas::PictureItem(QPixmap::fromImage(image));
     scene->addItem(item);
 }
 
@@ -354,7 +354,7 @@ void TestBrushCommand::removesWhatAKilledProgramLeft()
         ::open(folder.filePath("ornevo-undo-held00").toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
     QCOMPARE(flock(held, LOCK_EX), 0); // by a program that runs
     QCOMPARE(mkfifo(folder.filePath("ornevo-undo-pipe00").toLocal8Bit().constData(), 0600), 0);
-    removeAbandonedSnapshots();
+    canvas::removeAbandonedSnapshots();
     const auto names = [&folder] {
         return QDir(folder.path()).entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
     };
@@ -362,7 +362,7 @@ void TestBrushCommand::removesWhatAKilledProgramLeft()
                              "other-undo-Ab1234"};
     QCOMPARE(names(), QStringList("ornevo-undo-held00") + others);
     ::close(held);
-    removeAbandonedSnapshots();
+    canvas::removeAbandonedSnapshots();
     QCOMPARE(names(), others);
 }
 

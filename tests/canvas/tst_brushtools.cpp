@@ -27,12 +27,14 @@ private slots:
     void squareLeftOfTheOrigin();
     void pressOutsideIsSilentAndMoveIsNot();
     void anyButtonPresses();
+    void secondOfTwoQuickPressesCounts();
     void movingWithoutAButton();
     void circle();
     void circleGoesAndComesBack();
     void pressLeavesTheCircleAlone();
     void circleShowsOnEveryPicture_data();
     void circleShowsOnEveryPicture();
+    void pointerShowsWithoutCircle();
     void removeBrushRepaintsTheScene();
     void dialogEndsTheStroke();
     void moveWithoutAButtonEndsTheStroke();
@@ -250,6 +252,32 @@ void TestBrushTools::anyButtonPresses()
     QCOMPARE(spy.size(), 6);
 }
 
+/// The window system turns it into a double click.
+void TestBrushTools::secondOfTwoQuickPressesCounts()
+{
+    view->SetTool(ToolKeepBrush);
+    QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
+    const QPoint position = view->mapFromScene(100, 70);
+    testsupport::CanvasMouse mouse(*view);
+    mouse.click(position);
+    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(position),
+                       QPointF(view->viewport()->mapToGlobal(position)), Qt::LeftButton, Qt::LeftButton,
+                       Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &second);
+    QCOMPARE(spy.size(), 2);
+    QCOMPARE(spy.at(1), spy.at(0));
+    // The button is held now, and draws.
+    QMouseEvent move(QEvent::MouseMove, QPointF(position), QPointF(view->viewport()->mapToGlobal(position)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QCOMPARE(spy.size(), 3);
+    mouse.release(position);
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QCOMPARE(spy.size(), 3);
+    view->setScene(nullptr);
+    QCoreApplication::sendEvent(view->viewport(), &second); // nothing to draw on, and nothing to crash over
+}
+
 void TestBrushTools::movingWithoutAButton()
 {
     zoomTo(1.0);
@@ -374,6 +402,42 @@ void TestBrushTools::circleShowsOnEveryPicture()
         const QPoint place = (circle.center() + direction * circle.width() / 2.0).toPoint();
         QVERIFY2(hasNear(place, 0, 20), "no dark line");
         QVERIFY2(hasNear(place, 250, 255), "no light line");
+    }
+}
+
+/// Where there is no circle, beside the picture or of a brush of less than a pixel, the cursor is blank all
+/// the same: the view marks the pointer's place.
+void TestBrushTools::pointerShowsWithoutCircle()
+{
+    const auto seen = [this](QPoint position) {
+        return view->viewport()->grab(QRect(position - QPoint(10, 10), QSize(21, 21))).toImage();
+    };
+    scene->setBackgroundBrush(Qt::gray);
+    testsupport::CanvasMouse mouse(*view);
+    const QPoint beside = view->mapFromScene(QPointF(-20, 75));
+    const QPoint within = view->mapFromScene(QPointF(100, 75));
+    const QImage empty = seen(beside);
+    for (const DrawingTools brush : brushes) {
+        setBrushSizes(10);
+        view->SetTool(brush);
+        QCOMPARE(seen(beside), empty);
+        mouse.move(beside);
+        QVERIFY(outline() == nullptr);
+        QVERIFY(seen(beside) != empty);
+        QCOMPARE(view->viewport()->cursor().shape(), Qt::BlankCursor);
+        mouse.move(within);
+        QVERIFY(outline() != nullptr);
+        QCOMPARE(seen(beside), empty);
+        mouse.move(beside);
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(view.get(), &leave);
+        QCOMPARE(seen(beside), empty);
+        setBrushSizes(1);
+        mouse.move(within);
+        QVERIFY(outline() == nullptr);
+        QVERIFY(seen(within) != empty);
+        view->SetTool(ToolHand);
+        QCOMPARE(seen(within), empty);
     }
 }
 

@@ -89,6 +89,8 @@ private slots:
     void onlyTheExtentOfTheSceneCounts();
     void dabMayReachBeyondTheEdge();
     void everyMoveLaysOneDab();
+    void dabsShowOnLargePhotos_data();
+    void dabsShowOnLargePhotos();
     void blueDab();
     void blueDabAtTheEdge();
     void blueDabOpacity_data();
@@ -261,6 +263,52 @@ void TestMarkers::everyMoveLaysOneDab()
     canvas.mouse.stroke({QPoint(10, 10), QPoint(90, 10), QPoint(90, 90), QPoint(300, 90), QPoint(20, 90)});
     QCOMPARE(canvas.count(QGraphicsEllipseItem::Type), 4);
     QCOMPARE(canvas.stack.count(), 4);
+}
+
+void TestMarkers::dabsShowOnLargePhotos_data()
+{
+    QTest::addColumn<DrawingTools>("tool");
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("Keep") << ToolKeepMarker << QColor(50, 255, 50);
+    QTest::newRow("Remove") << ToolRemoveMarker << QColor(255, 10, 10);
+}
+
+/// A dab of few pixels of a photo that is shown much reduced would be a dot that nobody finds again.
+void TestMarkers::dabsShowOnLargePhotos()
+{
+    QFETCH(DrawingTools, tool);
+    QFETCH(QColor, colour);
+    Canvas c(QRectF(0, 0, 10000, 8000));
+    c.scene.setBackgroundBrush(Qt::gray);
+    c.view.scale(0.05, 0.05);
+    const auto coloured = [&c, colour] {
+        const QImage seen = c.view.viewport()->grab().toImage();
+        int found = 0;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 0; x < seen.width(); ++x)
+                found += seen.pixelColor(x, y) == colour;
+        return found;
+    };
+    c.view.SetTool(tool);
+    c.mouse.stroke({QPoint(100, 80)});
+    const QGraphicsItem *dab = c.scene.items().value(0);
+    QVERIFY(dab != nullptr);
+    // Seen, but no larger than it is to everyone who asks.
+    QVERIFY2(coloured() >= 9, qPrintable(QString::number(coloured())));
+    QCOMPARE(dab->shape().boundingRect(), QRectF(1999.5, 1599.5, 11, 11));
+    QVERIFY(c.scene.items(QRectF(1960, 1560, 30, 30), Qt::IntersectsItemShape).isEmpty());
+    // From nearby as large as ever.
+    c.view.scale(20, 20);
+    c.view.centerOn(2005, 1605);
+    QVERIFY(coloured() >= 70);
+    QVERIFY(coloured() <= 121);
+    // And gone without a trace.
+    c.view.scale(0.05, 0.05);
+    c.view.centerOn(0, 0);
+    QCoreApplication::processEvents();
+    c.stack.undo();
+    QCoreApplication::processEvents();
+    QCOMPARE(coloured(), 0);
 }
 
 void TestMarkers::blueDab()

@@ -44,8 +44,8 @@ struct ShownPicture
           view(&scene),
           painted(view.viewport())
     {
-        scene.addItem(new PictureItem(QPixmap::fromImage(testpictures::randomImage(900, 700, 8))));
-        item = new PictureItem(QPixmap::fromImage(image, Qt::NoOpaqueDetection));
+        scene.addItem(new canvas::PictureItem(QPixmap::fromImage(testpictures::randomImage(900, 700, 8))));
+        item = new canvas::PictureItem(QPixmap::fromImage(image, Qt::NoOpaqueDetection));
         scene.addItem(item);
         view.setFrameShape(QFrame::NoFrame);
         view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -79,14 +79,14 @@ struct ShownPicture
     QGraphicsScene scene;
     QGraphicsView view;
     PaintedArea painted;
-    PictureItem *item = nullptr;
+    canvas::PictureItem *item = nullptr;
 };
 
 /// The upper left part of the view of a photo.
 QImage shownAlone(const QImage &photo, qreal scale, QSize size)
 {
     QGraphicsScene scene;
-    scene.addItem(new PictureItem(QPixmap::fromImage(photo)));
+    scene.addItem(new canvas::PictureItem(QPixmap::fromImage(photo)));
     QGraphicsView view(&scene);
     view.setFrameShape(QFrame::NoFrame);
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -182,7 +182,7 @@ private slots:
         QVERIFY(!area.isEmpty());
 
         shown.whiten(area);
-        updatePixmap(*shown.item, shown.image, area);
+        canvas::updatePixmap(*shown.item, shown.image, area);
         QTRY_VERIFY(shown.onScreen() != before);
 
         const QRect seen = shown.view.mapFromScene(QRectF(area.translated(position))).boundingRect();
@@ -202,7 +202,7 @@ private slots:
         const QRect area(200, 150, 40, 30);
         const QImage old = shown.image.copy(area);
         shown.whiten(area);
-        updatePixmap(*shown.item, shown.image, area);
+        canvas::updatePixmap(*shown.item, shown.image, area);
         QPixmap after = shown.item->pixmap();
         QUndoStack stack;
         stack.push(new CBrushCommand(shown.item, area, &after, &shown.image, old));
@@ -224,11 +224,11 @@ private slots:
         shown.item->setPos(5, 5);
         const QRect area(100, 100, 10, 10);
         shown.whiten(area);
-        updatePixmap(*shown.item, shown.image, area);
+        canvas::updatePixmap(*shown.item, shown.image, area);
         QTRY_COMPARE(shown.onScreen(), shown.expected());
 
         shown.whiten(area.translated(40, 0));
-        updatePixmap(*shown.item, shown.image, area.translated(40, 0));
+        canvas::updatePixmap(*shown.item, shown.image, area.translated(40, 0));
         shown.item->setOpacity(0.5);
         QTRY_COMPARE(shown.onScreen(), shown.expected());
     }
@@ -240,7 +240,7 @@ private slots:
         holes.fill(Qt::transparent);
         for (int x = 0; x < holes.width(); x += 2)
             holes.setPixel(x, 20, 0xFFFF0000);
-        const PictureItem item(QPixmap::fromImage(holes));
+        const canvas::PictureItem item(QPixmap::fromImage(holes));
         QPainterPath all;
         all.addRect(QRectF(holes.rect()));
         QCOMPARE(item.shape(), all);
@@ -261,7 +261,7 @@ private slots:
         QTRY_COMPARE(shownBy(other), wantedBy(other));
         const QRect area(300, 300, 50, 50);
         shown.whiten(area);
-        updatePixmap(*shown.item, shown.image, area);
+        canvas::updatePixmap(*shown.item, shown.image, area);
         QTRY_COMPARE(shownBy(other), wantedBy(other));
         QCOMPARE(other.viewportUpdateMode(), QGraphicsView::FullViewportUpdate);
         QTRY_COMPARE(shown.onScreen(), shown.expected());

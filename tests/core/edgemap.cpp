@@ -72,6 +72,14 @@ TEST(EdgeMap, ofAwkwardSizes)
         expectReference(randomPicture(width, height, 11));
 }
 
+// Wider than the rows that are worked on at a time, by a little and by more.
+TEST(EdgeMap, ofTilesOfColumns)
+{
+    for (const auto &[width, height] :
+         {std::pair{65536, 9}, {65537, 9}, {131071, 8}, {196611, 11}, {70000, 3}})
+        expectReference(randomPicture(width, height, 12));
+}
+
 // Nearly black areas, where products are small and zeros abound.
 TEST(EdgeMap, ofDeepBlack)
 {

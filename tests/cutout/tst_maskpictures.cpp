@@ -22,9 +22,14 @@ constexpr QRgb white = 0xFFFFFFFF;
 constexpr QRgb black = 0xFF000000;
 constexpr QRgb green = 0xFF00FF00;
 
+QImage argb(const QImage &picture)
+{
+    return picture.convertToFormat(QImage::Format_ARGB32);
+}
+
 QImage argb(const QPixmap &pixmap)
 {
-    return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    return argb(pixmap.toImage());
 }
 
 QImage checkerboard()
@@ -113,6 +118,7 @@ private slots:
     void backgroundWithoutACheckerboard();
     void exportAgrees_data();
     void exportAgrees();
+    void exportOfManyTiles();
     void exportKeepsTransparency();
     void exportOfAZoomedBackgroundShrinksTheObject();
     void exportWithNothingToDo();
@@ -412,6 +418,29 @@ void TestMaskPictures::exportAgrees()
     for (const QSize size : {QSize(40, 30), QSize(80, 60), QSize(13, 7), QSize(1, 1), QSize(55, 21)})
         VERIFY_SAME(described(size), argb(cutout::composeExport(layersOf(source), size)),
                     argb(reference::exportComposition(source, size.width(), size.height())));
+}
+
+/// Of an object of many tiles some are wholly opaque, some wholly transparent, and some both.
+void TestMaskPictures::exportOfManyTiles()
+{
+    reference::ExportSource source = exportSource({300, 200}, 0xFF4080C0);
+    source.previewImage = testpictures::randomImage(300, 200, 71).convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < 200; ++y)
+        for (int x = 0; x < 300; ++x) {
+            QRgb pixel = source.previewImage.pixel(x, y);
+            const int alpha = std::clamp(255 - 2 * (std::abs(x - 150) + std::abs(y - 90) - 80), 0, 255);
+            source.previewImage.setPixel(x, y, (pixel & 0x00FFFFFFU) | static_cast<QRgb>(alpha) << 24);
+        }
+    for (const QRgb colour : {0xFF4080C0U, 0x00000000U, 0x80102030U}) {
+        source.backgroundColor = colour;
+        for (const QPoint offset : {QPoint(0, 0), QPoint(-70, 33), QPoint(129, -131), QPoint(299, 199),
+                                    QPoint(-299, -199), QPoint(300, 0), QPoint(1 << 29, -(1 << 29))}) {
+            source.previewOffset = offset;
+            for (const QSize size : {QSize(300, 200), QSize(600, 400), QSize(9999, 20)})
+                VERIFY_SAME(described(size), argb(cutout::composeExport(layersOf(source), size)),
+                            argb(reference::exportComposition(source, size.width(), size.height())));
+        }
+    }
 }
 
 void TestMaskPictures::exportKeepsTransparency()

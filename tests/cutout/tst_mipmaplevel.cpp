@@ -60,7 +60,7 @@ void TestMipmapLevel::averagesSquaresOfFour()
 {
     QFETCH(QSize, size);
     const QImage picture = randomPicture(size, 7);
-    const QImage half = cutout::halved(picture);
+    const QImage half = cutout::nextMipmapLevel(picture);
     QCOMPARE(half.size(), QSize((size.width() + 1) / 2, (size.height() + 1) / 2));
     for (int y = 0; y < half.height(); ++y)
         for (int x = 0; x < half.width(); ++x)
@@ -73,23 +73,23 @@ void TestMipmapLevel::renewsOnlyWhatChanged()
     for (int round = 0; round < 200; ++round) {
         const QSize size(1 + int(random() % 40), 1 + int(random() % 40));
         QImage picture = randomPicture(size, random());
-        QImage half = cutout::halved(picture);
+        QImage half = cutout::nextMipmapLevel(picture);
         const QRect area(int(random() % 50) - 5, int(random() % 50) - 5, int(random() % 20),
                          int(random() % 20));
         const QRect inside = area.intersected(picture.rect());
         for (int y = inside.top(); y <= inside.bottom(); ++y)
             for (int x = inside.left(); x <= inside.right(); ++x)
                 reinterpret_cast<QRgb *>(picture.scanLine(y))[x] = random();
-        cutout::renewHalved(half, picture, area);
-        QCOMPARE(half, cutout::halved(picture));
+        cutout::renewMipmapLevel(half, picture, area);
+        QCOMPARE(half, cutout::nextMipmapLevel(picture));
     }
 }
 
 void TestMipmapLevel::refusesOtherFormats()
 {
-    QVERIFY(cutout::halved(QImage()).isNull());
-    QVERIFY(cutout::halved(QImage(4, 4, QImage::Format_ARGB32)).isNull());
-    QVERIFY(!cutout::halved(QImage(4, 4, QImage::Format_RGB32)).isNull());
+    QVERIFY(cutout::nextMipmapLevel(QImage()).isNull());
+    QVERIFY(cutout::nextMipmapLevel(QImage(4, 4, QImage::Format_ARGB32)).isNull());
+    QVERIFY(!cutout::nextMipmapLevel(QImage(4, 4, QImage::Format_RGB32)).isNull());
 }
 
 ORNEVO_TEST_MAIN(TestMipmapLevel)

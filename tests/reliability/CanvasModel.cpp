@@ -33,6 +33,11 @@ int dabsIn(const QList<QGraphicsItem *> &items)
     return static_cast<int>(std::count_if(items.cbegin(), items.cend(), isDab));
 }
 
+bool isPress(const QEvent &event)
+{
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
 QPoint rounded(QPointF point)
 {
     return {static_cast<int>(std::round(point.x())), static_cast<int>(std::round(point.y()))};
@@ -86,7 +91,7 @@ CanvasModel::Expected CanvasModel::predict(const QMouseEvent &event) const
     const QRectF picture =
         m_canvas->scene()->sceneRect(); // first: it may have to grow, and the canvas scrolls
     const QPointF there = m_canvas->mapToScene(position);
-    const bool press = event.type() == QEvent::MouseButtonPress;
+    const bool press = isPress(event);
     const bool move = event.type() == QEvent::MouseMove;
     if (m_tool == ToolKeepMarker || m_tool == ToolRemoveMarker) {
         if (move && there.x() >= 1 && there.y() >= 1 && std::floor(there.x()) < picture.width() &&
@@ -109,7 +114,7 @@ CanvasModel::Expected CanvasModel::predict(const QMouseEvent &event) const
 
 void CanvasModel::trackPress(const QMouseEvent &event)
 {
-    if (event.type() == QEvent::MouseButtonPress)
+    if (isPress(event))
         m_pressed = true;
     if (event.type() == QEvent::MouseButtonRelease)
         m_pressed = false;
@@ -128,7 +133,7 @@ QString CanvasModel::send(QMouseEvent &event)
     const Expected expected = predict(event);
     const int entries = m_probe.undoStack().index();
     const qsizetype squares = m_probe.pendingBrushRects().size();
-    const bool press = event.type() == QEvent::MouseButtonPress;
+    const bool press = isPress(event);
     const qsizetype all = expected.erased ? scene->items().size() : 0;
     const int touched = expected.erased ? dabsIn(scene->items(*expected.erased)) : 0;
 

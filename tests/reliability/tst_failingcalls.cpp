@@ -51,7 +51,7 @@ public:
     [[nodiscard]] bool isThere() const { return m_mounted; }
 
 private:
-    testsupport::UncountedLeaks m_uncounted;
+    [[maybe_unused]] testsupport::UncountedLeaks m_uncounted;
     QByteArray m_folder;
     bool m_mounted;
 };

@@ -327,26 +327,85 @@ private slots:
         QVERIFY(shown.isNull() || qAlpha(shown.pixel(1000, 1000)) < 8); // smoothed, white is a little less
     }
 
-    /// A picture that is nothing but width takes little memory, and its edges much.
+    /// With memory again, a background choice shows the object as the marks have it, or nothing at all.
+    void backgroundAfterAShortPreview_data() { previewLargerThanMemory_data(); }
+
+    void backgroundAfterAShortPreview()
+    {
+        QFETCH(int, mebibytes);
+        if (hasSanitizer())
+            QSKIP("the address sanitizer needs an address space without limit");
+        const QString path = file("large.bmp");
+        testsupport::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        m_user->open(path);
+        m_user->layDabs();
+        m_user->preview(true);
+        const QImage whole = m_user->probe.previewImage();
+        QVERIFY(!whole.isNull());
+        m_user->preview(false);
+        {
+            const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
+            m_user->preview(true);
+        }
+        m_user->window.applypreviewmask();
+        if (m_user->status() == "Ready") {
+            QVERIFY(m_user->probe.previewImage() == whole);
+        } else {
+            QCOMPARE(m_user->status(), "Not enough memory for a preview");
+            QVERIFY(m_user->probe.previewItem() == nullptr);
+        }
+    }
+
+    /// Of a picture with long rows there is memory for all, then for the picture and not for its edges, then
+    /// for neither.
     void edgesLargerThanMemory()
     {
         if (hasSanitizer())
             QSKIP("the address sanitizer needs an address space without limit");
-        const QString path = file("wide.bmp");
-        QImage wide(4'000'000, 1, QImage::Format_Mono);
-        wide.fill(1);
-        testsupport::put(path, picturefiles::encoded(wide, "bmp"));
-        {
-            const ShortMemory memory(rlim_t{200} << 20);
-            m_user->open(path);
+        const QImage wide = picture(65536, 16);
+        testsupport::put(file("wide.bmp"), picturefiles::encoded(wide, "bmp"));
+        QStringList said;
+        for (int mebibytes = 40; mebibytes >= 2; mebibytes -= 2) {
+            {
+                const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
+                m_user->probe.currentFile() = file("wide.bmp");
+                m_user->window.open(); // the file dialog itself needs more than there is
+            }
+            if (said.isEmpty() || said.last() != m_user->status())
+                said << m_user->status();
+            QCOMPARE(m_user->probe.workingImage().size(), wide.size());
+            const unsigned char *const edges = m_user->probe.edgeMap();
+            if (said.last() == "Not enough memory to find the edges")
+                QVERIFY(std::all_of(edges, edges + 65536 * 16, [](unsigned char edge) { return edge == 0; }));
         }
-        QCOMPARE(m_user->status(), "Not enough memory to find the edges");
-        QCOMPARE(m_user->probe.workingImage().size(), wide.size());
-        const unsigned char *const edges = m_user->probe.edgeMap();
-        QVERIFY(std::all_of(edges, edges + wide.width(), [](unsigned char edge) { return edge == 0; }));
+        QCOMPARE(said, (QStringList{"Ready", "Not enough memory to find the edges", "Failed to read image"}));
+    }
+
+    /// A picture that is nothing but width takes no more memory for its edges than another.
+    void nothingButWidth()
+    {
+        if (hasSanitizer())
+            QSKIP("the address sanitizer needs an address space without limit");
+        testsupport::put(file("wide.bmp"), picturefiles::encoded(picture(10'000'000, 4), "bmp"));
+        {
+            const ShortMemory memory(rlim_t{400} << 20); // 160 MiB of pixels, 40 of edges
+            m_user->probe.currentFile() = file("wide.bmp");
+            m_user->window.open();
+        }
+        QCOMPARE(m_user->status(), "Ready");
+        m_user->open(m_photo);
     }
 
 private:
+    /// Of two colours, in few bytes.
+    static QImage picture(int width, int height)
+    {
+        QImage mono(width, height, QImage::Format_Mono);
+        for (int y = 0; y < height; ++y)
+            std::fill_n(mono.scanLine(y), mono.bytesPerLine(), static_cast<uchar>(0x0F * (1 + y)));
+        return mono;
+    }
+
     [[nodiscard]] QString file(const QString &name) const
     {
         return m_folder == nullptr ? name : m_folder->filePath(name);

@@ -52,7 +52,7 @@ public:
     FullDisk &operator=(const FullDisk &) = delete;
 
 private:
-    UncountedLeaks m_uncounted;
+    [[maybe_unused]] UncountedLeaks m_uncounted; // only a leak checker has a use for it
     rlimit m_before{};
     void (*m_signal)(int) = nullptr;
 };

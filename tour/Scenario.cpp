@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tour/Story.h"
+#include "tour/Scenario.h"
 
 #include "tests/reference/MaskReference.h"
 #include "tour/Agreement.h"
@@ -39,7 +39,8 @@ bool isMostlyOpaque(QRgb pixel)
 
 } // namespace
 
-Story::Story(MainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures)
+Scenario::Scenario(MainWindow &window, const QString &folder, const QString &samples,
+                   const QString &helpPictures)
     : m_window(window),
       m_state(window),
       m_driver(window, folder),
@@ -51,7 +52,7 @@ Story::Story(MainWindow &window, const QString &folder, const QString &samples, 
     expect(!m_truth.isNull(), "the sample's true mask can't be read");
 }
 
-void Story::tell()
+void Scenario::run()
 {
     m_driver.picture("start");
     openPhoto();
@@ -69,7 +70,7 @@ void Story::tell()
     leavePreview();
 }
 
-void Story::openPhoto()
+void Scenario::openPhoto()
 {
     const QString path = m_samples.absoluteFilePath("still-life.jpg");
     m_driver.withDialog(
@@ -85,7 +86,7 @@ void Story::openPhoto()
     m_driver.picture("photo");
 }
 
-void Story::layMarks()
+void Scenario::layMarks()
 {
     m_driver.clickTool("actionKeep_arker");
     for (const QLineF &stroke : m_strokes.keep)
@@ -101,7 +102,7 @@ void Story::layMarks()
     helpPicture(3);
 }
 
-void Story::undoAndErase()
+void Scenario::undoAndErase()
 {
     const qsizetype discs = itemCount(QGraphicsEllipseItem::Type);
     m_driver.press(Qt::Key_Z, Qt::ControlModifier);
@@ -114,7 +115,7 @@ void Story::undoAndErase()
     m_driver.picture("undone-and-erased");
 }
 
-void Story::showMask()
+void Scenario::showMask()
 {
     m_driver.clickTool("actionMask");
     const QImage overlay = pixmapAt(overlayZ).toImage();
@@ -126,7 +127,7 @@ void Story::showMask()
     helpPicture(4);
 }
 
-void Story::showPreview()
+void Scenario::showPreview()
 {
     m_driver.clickTool("actionPreview");
     const QImage object = pixmapAt(objectZ).toImage();
@@ -138,7 +139,7 @@ void Story::showPreview()
     helpPicture(5);
 }
 
-void Story::touchUp()
+void Scenario::touchUp()
 {
     const QImage before = pixmapAt(objectZ).toImage();
     const QPointF inside = m_strokes.keep.first().center();
@@ -160,13 +161,13 @@ void Story::touchUp()
     undoAndRedoTouchUp(before);
 }
 
-void Story::waitForBatch()
+void Scenario::waitForBatch()
 {
     const auto processed = [this] { return m_state.pendingBrushRects().isEmpty(); };
     expect(QTest::qWaitFor(processed), "the dabs of the brush are not processed");
 }
 
-void Story::undoAndRedoTouchUp(const QImage &before)
+void Scenario::undoAndRedoTouchUp(const QImage &before)
 {
     const QImage touchedUp = m_state.previewImage();
     expect(pixmapAt(objectZ).toImage() != before, "the Foreground brush undid more than its stroke");
@@ -185,7 +186,7 @@ void Story::undoAndRedoTouchUp(const QImage &before)
     undoAll();
 }
 
-void Story::chooseBackground(const QString &radioButton, const std::function<void(QWidget &)> &choose)
+void Scenario::chooseBackground(const QString &radioButton, const std::function<void(QWidget &)> &choose)
 {
     m_driver.withDialog(
         "BackgroundDialog",
@@ -198,7 +199,7 @@ void Story::chooseBackground(const QString &radioButton, const std::function<voi
         [&] { m_driver.clickTool("actionSelect_Background"); });
 }
 
-void Story::chooseColours()
+void Scenario::chooseColours()
 {
     chooseBackground("transparentradioButton", [](QWidget &) {});
     m_driver.picture("transparent");
@@ -231,7 +232,7 @@ void Story::chooseColours()
     helpPicture(7);
 }
 
-void Story::choosePicture()
+void Scenario::choosePicture()
 {
     chooseBackground("pictureradioButton", [&](QWidget &dialog) {
         m_driver.withDialog(
@@ -242,7 +243,7 @@ void Story::choosePicture()
     m_driver.picture("picture");
 }
 
-void Story::moveAndZoom()
+void Scenario::moveAndZoom()
 {
     const QPointF inside = m_strokes.keep.last().center();
     m_driver.clickTool("actionHandTool");
@@ -256,7 +257,7 @@ void Story::moveAndZoom()
     m_driver.clickTool("actionZoom_Out");
 }
 
-void Story::touchUpMoved()
+void Scenario::touchUpMoved()
 {
     // The right end of the handle has moved with the object; the brush has to land where it is seen.
     const QPointF handle = m_strokes.keep[4].center();
@@ -269,7 +270,7 @@ void Story::touchUpMoved()
     m_driver.picture("touched-up-after-the-move");
 }
 
-void Story::exportTo(const QString &name)
+void Scenario::exportTo(const QString &name)
 {
     QFile::remove(m_driver.file(name)); // of an earlier tour; the file dialog would ask
     m_driver.withDialog(
@@ -284,7 +285,7 @@ void Story::exportTo(const QString &name)
         [&] { m_driver.press(Qt::Key_S, Qt::ControlModifier); });
 }
 
-void Story::exportPictures()
+void Scenario::exportPictures()
 {
     const QImage background(m_samples.filePath("background.jpg"));
     for (const QString name : {"composition.png", "composition.jpg"}) {
@@ -297,7 +298,7 @@ void Story::exportPictures()
            "the exported PNG is not the composition to the pixel");
 }
 
-QImage Story::expectedComposition(const QImage &background)
+QImage Scenario::expectedComposition(const QImage &background)
 {
     reference::ExportSource source;
     source.backgroundImage = background;
@@ -311,7 +312,7 @@ QImage Story::expectedComposition(const QImage &background)
         .convertToFormat(QImage::Format_RGB32);
 }
 
-void Story::readHelp()
+void Scenario::readHelp()
 {
     m_driver.clickMenu("menuHelp", "actionIndex");
     QWidget *help = m_window.findChild<QWidget *>("HelpDialog");
@@ -334,14 +335,14 @@ void Story::readHelp()
         [&] { m_driver.clickMenu("menuOptions", "actionPreferences"); });
 }
 
-void Story::leavePreview()
+void Scenario::leavePreview()
 {
     m_driver.clickTool("actionPreview");
     expect(itemCount(QGraphicsRectItem::Type) > 0, "the marks are gone after the preview");
     m_driver.picture("back-to-the-marks");
 }
 
-void Story::helpPicture(int number)
+void Scenario::helpPicture(int number)
 {
     if (m_helpPictures.isEmpty())
         return;
@@ -351,7 +352,7 @@ void Story::helpPicture(int number)
            "can't write " + path);
 }
 
-QPixmap Story::pixmapAt(qreal z) const
+QPixmap Scenario::pixmapAt(qreal z) const
 {
     for (QGraphicsItem *item : m_driver.canvas().scene()->items())
         if (auto *picture = qgraphicsitem_cast<QGraphicsPixmapItem *>(item))
@@ -360,7 +361,7 @@ QPixmap Story::pixmapAt(qreal z) const
     return {};
 }
 
-qsizetype Story::itemCount(int type) const
+qsizetype Scenario::itemCount(int type) const
 {
     const auto items = m_driver.canvas().scene()->items();
     return std::count_if(items.cbegin(), items.cend(),

@@ -8,16 +8,17 @@
 #include "tour/Driver.h"
 #include "tour/Strokes.h"
 
-/// The tour itself: the program's whole job on the sample photograph, step by step, each of them looked at.
-class Story
+/// The tour's one scenario: the program's whole job on the sample photograph, step by step, each of them
+/// checked.
+class Scenario
 {
 public:
     /// `samples` is the folder of the sample pictures; `helpPictures` where the screenshots of the help are
     /// renewed, or empty.
-    Story(MainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures);
+    Scenario(MainWindow &window, const QString &folder, const QString &samples, const QString &helpPictures);
 
     /// Throws TourError where the program does not show what it should.
-    void tell();
+    void run();
 
 private:
     void openPhoto();
