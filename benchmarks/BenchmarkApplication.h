@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include "tests/support/MessageLog.h"
+#include "tests/support/PlainDesktop.h"
+#include "tests/support/Sandbox.h"
+
 #include <QApplication>
 #include <QImageReader>
-#include <QSettings>
-#include <QTemporaryDir>
 
 /// A program without a screen, unless one is asked for, that keeps quiet and keeps its settings to itself.
 class BenchmarkApplication
@@ -14,22 +16,17 @@ class BenchmarkApplication
 public:
     BenchmarkApplication(int &argc, char **argv) : m_application(prepared(argc), argv)
     {
-        for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-            QSettings::setPath(format, QSettings::UserScope, m_settings.path());
-        QApplication::setApplicationName("Ornevo benchmark");
-        QApplication::setOrganizationName("Ornevo benchmark");
         QImageReader::setAllocationLimit(0); // for what is decoded by QImage alone
     }
 
 private:
     static int &prepared(int &argc)
     {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        testsupport::stayOffscreen();
+        testsupport::printFatalMessagesOnly();
         return argc;
     }
 
-    QTemporaryDir m_settings;
+    testsupport::Sandbox m_sandbox;
     QApplication m_application;
 };

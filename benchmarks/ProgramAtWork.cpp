@@ -4,11 +4,6 @@
 #include "benchmarks/ProgramAtWork.h"
 
 #include "benchmarks/BenchmarkPictures.h"
-#include "canvas/MarkerDabs.h"
-#include "canvas/SceneLayers.h"
-
-#include <QAction>
-#include <QGraphicsRectItem>
 
 #include <cmath>
 #include <stdexcept>
@@ -33,16 +28,10 @@ ProgramAtWork::ProgramAtWork(int megapixels) : ProgramAtWork(QString())
     writePhoto(megapixels, m_photo);
 }
 
-ProgramAtWork::ProgramAtWork(const QString &photo) : m_photo(photo), m_state(m_window)
+ProgramAtWork::ProgramAtWork(const QString &photo) : m_photo(photo)
 {
-    m_window.resize(1280, 900);
-    m_window.show();
-}
-
-void ProgramAtWork::open()
-{
-    m_state.currentFile() = file();
-    m_window.open();
+    window().resize(1280, 900);
+    window().show();
 }
 
 void ProgramAtWork::layMarks()
@@ -54,23 +43,23 @@ void ProgramAtWork::layMarks()
         for (double x = dabSide; x < size().width() - 2.0 * dabSide; x += 1.5 * dabSide) {
             const QRectF dab(x, middle + 3 * dabSide * std::sin(x / 400), dabSide, dabSide);
             if (stroke % 2 == 0)
-                m_state.imageScene().addRect(dab)->setZValue(layers::dabZ);
+                state().imageScene().addRect(dab)->setZValue(layers::dabZ);
             else
-                m_state.imageScene().addEllipse(dab, QPen(removeColour))->setZValue(layers::dabZ);
+                state().imageScene().addEllipse(dab, QPen(removeColour))->setZValue(layers::dabZ);
         }
     }
 }
 
 void ProgramAtWork::run(const char *slot)
 {
-    if (!QMetaObject::invokeMethod(&m_window, slot))
+    if (!QMetaObject::invokeMethod(&window(), slot))
         throw std::runtime_error(slot);
 }
 
 void ProgramAtWork::preview()
 {
-    m_window.findChild<QAction *>("actionPreview")->setChecked(true);
-    m_window.findChild<QAction *>("actionBackground_Brush")->setChecked(true);
+    m_driver.preview(true);
+    m_driver.action("actionBackground_Brush").setChecked(true);
 }
 
 QList<QRect> ProgramAtWork::brushSquares()
@@ -83,13 +72,13 @@ QList<QRect> ProgramAtWork::brushSquares()
 
 void ProgramAtWork::brush()
 {
-    if (!QMetaObject::invokeMethod(&m_window, "on_RemoveBrushPressed", Q_ARG(QList<QRect>, brushSquares())))
+    if (!QMetaObject::invokeMethod(&window(), "on_RemoveBrushPressed", Q_ARG(QList<QRect>, brushSquares())))
         throw std::runtime_error("on_RemoveBrushPressed");
 }
 
 void ProgramAtWork::changeBackground(QRgb colour, const QImage &picture)
 {
-    m_state.backgroundColor() = colour;
-    m_state.backgroundImage() = picture;
-    m_window.applypreviewmask();
+    state().backgroundColor() = colour;
+    state().backgroundImage() = picture;
+    window().applypreviewmask();
 }

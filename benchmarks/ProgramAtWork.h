@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include "app/MainWindow.h"
-#include "tests/support/MainWindowProbe.h"
+#include "tests/support/MainWindowDriver.h"
 
 #include <QTemporaryDir>
 
@@ -20,13 +19,13 @@ public:
     /// Works on the picture in a file.
     explicit ProgramAtWork(const QString &photo);
 
-    MainWindow &window() { return m_window; }
-    MainWindowProbe &state() { return m_state; }
+    MainWindow &window() { return m_driver.window; }
+    MainWindowProbe &state() { return m_driver.probe; }
     /// Size of the picture that is open.
-    [[nodiscard]] QSize size() { return m_state.workingImage().size(); }
+    [[nodiscard]] QSize size() { return state().workingImage().size(); }
 
     /// Opens the picture from its file, a JPEG, without the dialog.
-    void open();
+    void open() { m_driver.openFile(m_photo); }
     /// Lays the marks of two regions on the editing scene.
     void layMarks();
     /// Runs a slot of the window that takes no arguments.
@@ -45,6 +44,5 @@ public:
 private:
     QTemporaryDir m_folder;
     QString m_photo;
-    MainWindow m_window;
-    MainWindowProbe m_state;
+    testsupport::MainWindowDriver m_driver;
 };

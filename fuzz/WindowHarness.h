@@ -3,13 +3,11 @@
 
 #pragma once
 
-#include "tests/support/MainWindowProbe.h"
+#include "tests/support/MainWindowDriver.h"
 
 #include <QApplication>
-#include <QByteArray>
-#include <QString>
 
-/// The real window, off screen and in a sandbox of its own, one for all inputs of a fuzzer's run.
+/// The real window, off screen and in a sandbox, one for all inputs of a fuzzer's run.
 class WindowHarness
 {
 public:
@@ -18,18 +16,17 @@ public:
     /// A name for a file of a target's own.
     static QString scratchFile();
 
-    MainWindow &window() { return m_window; }
-    MainWindowProbe &probe() { return m_probe; }
+    MainWindow &window() { return m_driver.window; }
+    MainWindowProbe &probe() { return m_driver.probe; }
     /// Writes bytes to a file of the harness and returns its path.
-    QString file(const QByteArray &contents);
+    static QString file(const QByteArray &contents);
     /// Ticks or unticks the preview.
-    void preview(bool on);
-    /// Lays a Keep and a Remove dab, which lie on any picture from 8 x 8 on.
-    void layDabs();
+    void preview(bool on) { m_driver.preview(on); }
+    /// Lays a Keep and a Remove dab.
+    void layDabs() { m_driver.layDabs(); }
 
 private:
-    WindowHarness();
+    WindowHarness() = default;
 
-    MainWindow m_window;
-    MainWindowProbe m_probe;
+    testsupport::MainWindowDriver m_driver;
 };

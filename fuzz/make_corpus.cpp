@@ -4,6 +4,7 @@
 #include "canvas/SettingsKeys.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/reliability/PictureFiles.h"
+#include "tests/support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,7 +33,7 @@ int main(int argc, char *argv[])
     const QDir corpus(argv[1]);
     const auto put = [&corpus](const QString &target, const QString &name, const QByteArray &bytes) {
         corpus.mkpath(target);
-        picturefiles::put(corpus.filePath(target + '/' + name), bytes);
+        testsupport::put(corpus.filePath(target + '/' + name), bytes);
     };
     for (const QString &target : QStringLiteral(TARGETS_OF_BYTES).split(',')) {
         put(target, "nothing", {});

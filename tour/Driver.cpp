@@ -3,12 +3,11 @@
 
 #include "tour/Driver.h"
 
-#include "tests/support/Activation.h"
+#include "tests/support/WindowDriver.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
@@ -16,30 +15,15 @@
 #include <QTest>
 #include <QToolBar>
 
-namespace {
+#include <exception>
 
-constexpr int settleTime = 60; // ms, for the window system to show what happened
-
-/// Open or Save, whichever the file dialog has.
-QPushButton &confirming(const QDialogButtonBox &buttons)
-{
-    for (const auto which : {QDialogButtonBox::Open, QDialogButtonBox::Save})
-        if (QPushButton *button = buttons.button(which))
-            return *button;
-    throw TourError("the file dialog has neither Open nor Save");
-}
-
-} // namespace
-
-Driver::Driver(QMainWindow &window, const QString &folder)
-    : m_window(window), m_canvas(window.findChild<QGraphicsView *>("graphicsView")), m_folder(folder)
+Driver::Driver(QMainWindow &window, const QString &folder, int patience)
+    : m_window(window),
+      m_canvas(window.findChild<QGraphicsView *>("graphicsView")),
+      m_folder(folder),
+      m_answers(patience)
 {
     expect(m_canvas != nullptr, "the window has no canvas");
-}
-
-void Driver::wait(int milliseconds)
-{
-    QTest::qWait(milliseconds);
 }
 
 void Driver::clickTool(const QString &name)
@@ -51,7 +35,7 @@ void Driver::clickTool(const QString &name)
     expect(button != nullptr && button->isVisible(), name + " has no button to be seen");
     expect(button->isEnabled(), "the button of " + name + " is disabled");
     QTest::mouseClick(button, Qt::LeftButton);
-    wait(settleTime);
+    testsupport::settle();
 }
 
 void Driver::clickMenu(const QString &menuName, const QString &actionName)
@@ -61,10 +45,9 @@ void Driver::clickMenu(const QString &menuName, const QString &actionName)
     expect(menu != nullptr && action != nullptr, "there is no " + actionName + " in " + menuName);
     QMenuBar *bar = m_window.menuBar();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
-    wait(settleTime);
-    expect(menu->isVisible(), menuName + " did not open");
+    expect(QTest::qWaitForWindowExposed(menu), menuName + " did not open");
     QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-    wait(settleTime);
+    testsupport::settle();
 }
 
 void Driver::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
@@ -78,51 +61,49 @@ void Driver::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     if (QApplication::activeWindow() == nullptr)
         testsupport::activate(m_window);
     QTest::keyClick(&m_window, key, modifiers);
-    wait(settleTime);
+    testsupport::settle();
 }
 
 void Driver::drag(QPointF from, QPointF to, int moves)
 {
-    QWidget *surface = m_canvas->viewport();
-    QTest::mouseMove(surface, m_canvas->mapFromScene(from));
-    QTest::mousePress(surface, Qt::LeftButton, {}, m_canvas->mapFromScene(from));
+    testsupport::CanvasMouse mouse(*m_canvas);
+    mouse.move(m_canvas->mapFromScene(from));
+    mouse.press(m_canvas->mapFromScene(from));
     for (int i = 0; i <= moves; ++i)
-        QTest::mouseMove(surface, m_canvas->mapFromScene(from + (to - from) * i / moves));
-    QTest::mouseRelease(surface, Qt::LeftButton, {}, m_canvas->mapFromScene(to));
-    wait(settleTime);
+        mouse.move(m_canvas->mapFromScene(from + (to - from) * i / moves));
+    mouse.release(m_canvas->mapFromScene(to));
+    testsupport::settle();
 }
 
 void Driver::withDialog(const char *className, const std::function<void(QWidget &)> &answer,
                         const std::function<void()> &cause)
 {
-    DialogAnswer awaited(className, [&answer](QWidget &dialog) {
-        wait(settleTime);
-        answer(dialog);
+    const Awaiting shown(QString("the dialog %1").arg(className));
+    std::exception_ptr failure; // must not fly through the dialog's event loop
+    m_answers.expectNamed(className, [&](QDialog &dialog) {
+        try {
+            testsupport::settle();
+            answer(dialog);
+        } catch (...) {
+            failure = std::current_exception();
+            dialog.close();
+        }
     });
     cause();
-    awaited.finish();
-    wait(settleTime);
+    const bool allWell = m_answers.waitForAll();
+    if (failure)
+        std::rethrow_exception(failure);
+    expect(allWell, m_answers.report());
+    testsupport::settle();
 }
 
-void Driver::chooseFile(QWidget &dialog, const QString &path, int patience)
+void Driver::chooseFile(QWidget &dialog, const QString &path)
 {
-    auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
-    auto *buttons = dialog.findChild<QDialogButtonBox *>();
-    expect(name != nullptr && buttons != nullptr, "the file dialog has no field for a name");
-    // Its list of guesses would get the keys, and on Wayland does not give them on.
-    name->setCompleter(nullptr);
-    // The dialog reads folders in another thread. Until it has read this one it may not know the file, and
-    // what it finds in the folder where it began may still get into the field.
+    auto *chooser = qobject_cast<QFileDialog *>(&dialog);
+    expect(chooser != nullptr, "no file dialog to type into");
     const Awaiting known("the file dialog to know " + path);
-    const auto typed = [&] {
-        if (name->text() != path) {
-            name->clear();
-            QTest::keyClicks(name, path);
-        }
-        return name->text() == path && confirming(*buttons).isEnabled();
-    };
-    expect(QTest::qWaitFor(typed, patience), "the file dialog does not let " + path + " be chosen");
-    QTest::keyClick(name, Qt::Key_Return);
+    expect(testsupport::typeFileName(*chooser, path, testsupport::DialogAnswers::usualPatience),
+           "the file dialog does not let " + path + " be chosen");
 }
 
 void Driver::click(QWidget &dialog, const QString &name)
@@ -131,7 +112,7 @@ void Driver::click(QWidget &dialog, const QString &name)
     expect(widget != nullptr && widget->isEnabled(), "no " + name + " to click");
     QTest::mouseClick(widget, Qt::LeftButton, {},
                       QPoint(qMin(12, widget->width() / 2), widget->height() / 2));
-    wait(settleTime);
+    testsupport::settle();
 }
 
 void Driver::accept(QWidget &dialog)
@@ -150,7 +131,7 @@ QImage Driver::look() const
 
 void Driver::picture(const QString &title, QWidget &widget)
 {
-    wait(settleTime);
+    testsupport::settle();
     const QString name = QString("%1-%2.png").arg(++m_number, 2, 10, QChar('0')).arg(title);
     expect(widget.grab().save(file(name)), "can't write " + file(name));
     qInfo("%s", qPrintable(name));

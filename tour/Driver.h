@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "tour/DialogAnswer.h"
+#include "tests/support/DialogAnswers.h"
 #include "tour/TourError.h"
 
 #include <QDir>
@@ -19,8 +19,10 @@
 class Driver
 {
 public:
-    /// `folder` exists and takes the pictures.
-    Driver(QMainWindow &window, const QString &folder);
+    /// `folder` exists and takes the pictures. `patience` is how many milliseconds a dialog may take to come
+    /// and to go.
+    Driver(QMainWindow &window, const QString &folder,
+           int patience = testsupport::DialogAnswers::usualPatience);
 
     [[nodiscard]] QGraphicsView &canvas() const { return *m_canvas; }
     [[nodiscard]] QString file(const QString &name) const { return m_folder.absoluteFilePath(name); }
@@ -39,13 +41,11 @@ public:
     void withDialog(const char *className, const std::function<void(QWidget &)> &answer,
                     const std::function<void()> &cause);
     /// Types a file's name into a file dialog and accepts it.
-    static void chooseFile(QWidget &dialog, const QString &path, int patience = DialogAnswer::usualPatience);
+    static void chooseFile(QWidget &dialog, const QString &path);
     /// Clicks a child widget of a dialog.
     static void click(QWidget &dialog, const QString &name);
     static void accept(QWidget &dialog);
 
-    /// Lets the program catch up for that many milliseconds.
-    static void wait(int milliseconds);
     /// Takes the next numbered picture, of the window or of another widget.
     void picture(const QString &title) { picture(title, m_window); }
     void picture(const QString &title, QWidget &widget);
@@ -57,4 +57,5 @@ private:
     QGraphicsView *m_canvas;
     QDir m_folder;
     int m_number = 0;
+    testsupport::DialogAnswers m_answers;
 };

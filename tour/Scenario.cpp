@@ -25,7 +25,6 @@ constexpr qreal objectZ = 10.0;
 constexpr int movesPerStroke = 40;
 constexpr int movesPerBrushStroke = 12;
 constexpr int brushGrowth = 24;
-constexpr int batchPause = 100; // ms; a pause of 30 ends a batch
 constexpr int mostUndos = 200;
 constexpr int helpPictureWidth = 700; // twice what the help shows, for sharp screens
 
@@ -151,15 +150,21 @@ void Scenario::touchUp()
                QString("Background brush size is %1").arg(10 + brushGrowth),
            "the Background brush did not grow");
     m_driver.drag(inside, inside + QPointF(200, 0), movesPerBrushStroke);
-    Driver::wait(batchPause);
+    waitForBatch();
     expect(pixmapAt(objectZ).toImage() != before, "the Background brush changed nothing");
     m_driver.picture("background-brush");
 
     m_driver.clickTool("actionForeground_Brush"); // brings back half of it
     m_driver.drag(inside, inside + QPointF(100, 0), movesPerBrushStroke);
-    Driver::wait(batchPause);
+    waitForBatch();
     m_driver.picture("foreground-brush");
     undoAndRedoTouchUp(before);
+}
+
+void Scenario::waitForBatch()
+{
+    const auto processed = [this] { return m_state.pendingBrushRects().isEmpty(); };
+    expect(QTest::qWaitFor(processed), "the dabs of the brush are not processed");
 }
 
 void Scenario::undoAndRedoTouchUp(const QImage &before)
@@ -259,7 +264,7 @@ void Scenario::touchUpMoved()
     const QPointF seen = handle + m_state.previewOffset();
     m_driver.clickTool("actionBackground_Brush");
     m_driver.drag(seen, seen + QPointF(0, 60), movesPerBrushStroke);
-    Driver::wait(batchPause);
+    waitForBatch();
     expect(qAlpha(m_state.previewImage().pixel(handle.toPoint())) < 255,
            "the brush did not land where it was seen");
     m_driver.picture("touched-up-after-the-move");

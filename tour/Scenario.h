@@ -27,6 +27,7 @@ private:
     void showMask();
     void showPreview();
     void touchUp();
+    void waitForBatch();
     void undoAndRedoTouchUp(const QImage &before);
     void chooseColours();
     void choosePicture();

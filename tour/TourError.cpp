@@ -44,9 +44,3 @@ QString awaited()
     const QString all = names().isEmpty() ? "the end of a step" : names().join(", in there for ");
     return QString("%1 (open windows: %2)").arg(all, windows.join("; "));
 }
-
-QString topmostDialog()
-{
-    const QWidget *dialog = QApplication::activeModalWidget();
-    return dialog == nullptr ? "no dialog is open" : "open is " + described(*dialog);
-}

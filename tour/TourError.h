@@ -33,6 +33,3 @@ public:
 
 /// All that is waited for now, the outermost first, and the windows that are open.
 [[nodiscard]] QString awaited();
-
-/// The class, title and text of what is open on top of everything; also when nothing is.
-[[nodiscard]] QString topmostDialog();

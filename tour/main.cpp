@@ -3,14 +3,12 @@
 
 #include "app/MainWindow.h"
 #include "tests/support/PlainDesktop.h"
-#include "tour/DialogAnswer.h"
+#include "tests/support/Sandbox.h"
 #include "tour/Scenario.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QPalette>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -49,13 +47,8 @@ QPalette darkPalette()
 int main(int argc, char *argv[])
 {
     testsupport::usePlainDesktop();
-    // The user's settings are none of the tour's business.
-    const QTemporaryDir settings;
-    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-        QSettings::setPath(format, QSettings::UserScope, settings.path());
+    const testsupport::Sandbox sandbox;
     QApplication application(argc, argv);
-    QApplication::setApplicationName("Ornevo tour");
-    QApplication::setOrganizationName("Ornevo tour");
 
     QCommandLineParser parser;
     parser.addOption({"samples", "folder of the sample pictures", "folder", "samples"});

@@ -57,7 +57,7 @@ QStringList looseLabels(const QDialog &dialog)
 
 } // namespace
 
-class AccessibilityTest : public QObject
+class TestAccessibility : public QObject
 {
     Q_OBJECT
 
@@ -72,13 +72,13 @@ private slots:
     void help();
 };
 
-void AccessibilityTest::toolButtonsHaveNames()
+void TestAccessibility::toolButtonsHaveNames()
 {
     WindowUnderTest t;
     QList<QWidget *> buttons;
     for (QToolButton *button : t.window.findChild<QToolBar *>("mainToolBar")->findChildren<QToolButton *>())
         buttons << button;
-    QCOMPARE(buttons.size(), 17); // sixteen actions, and the one that shows what has no room
+    QCOMPARE(buttons.size(), 17); // sixteen actions, and the one that shows what does not fit
     const QStringList names = spokenNames(buttons);
     QVERIFY2(!names.contains(QString()), qPrintable(names.join(", ")));
     QVERIFY2(QSet<QString>(names.begin(), names.end()).size() == names.size(), qPrintable(names.join(", ")));
@@ -86,7 +86,7 @@ void AccessibilityTest::toolButtonsHaveNames()
         QVERIFY(QAccessible::queryAccessibleInterface(button)->state().focusable);
 }
 
-void AccessibilityTest::canvasAndToolBarHaveNames()
+void TestAccessibility::canvasAndToolBarHaveNames()
 {
     WindowUnderTest t;
     QCOMPARE(spokenName(t.view), QString("Picture"));
@@ -94,7 +94,7 @@ void AccessibilityTest::canvasAndToolBarHaveNames()
     QCOMPARE(spokenName(*t.window.findChild<QToolBar *>("mainToolBar")), QString("Tools"));
 }
 
-void AccessibilityTest::preferences()
+void TestAccessibility::preferences()
 {
     QSettings settings;
     OptionsDialog dialog(&settings, nullptr);
@@ -107,7 +107,7 @@ void AccessibilityTest::preferences()
     QCOMPARE(looseLabels(dialog), QStringList());
 }
 
-void AccessibilityTest::exportDialog()
+void TestAccessibility::exportDialog()
 {
     QSettings settings;
     ExportDialog dialog(40, 30, &settings, nullptr);
@@ -117,7 +117,7 @@ void AccessibilityTest::exportDialog()
     QCOMPARE(looseLabels(dialog), QStringList());
 }
 
-void AccessibilityTest::exportDialogWithAFreeHeight()
+void TestAccessibility::exportDialogWithAFreeHeight()
 {
     QSettings settings;
     ExportDialog dialog(40, 30, &settings, nullptr);
@@ -126,7 +126,7 @@ void AccessibilityTest::exportDialogWithAFreeHeight()
              QStringList({"Choose the file name", "Width", "Height", "Keep Aspect Ratio", "Cancel"}));
 }
 
-void AccessibilityTest::background()
+void TestAccessibility::background()
 {
     BackgroundDialog dialog;
     // Of a group of radio buttons Tab comes by the one that is on; arrows lead to the others.
@@ -141,11 +141,11 @@ void AccessibilityTest::background()
     QCOMPARE(looseLabels(dialog), QStringList());
 }
 
-void AccessibilityTest::help()
+void TestAccessibility::help()
 {
     HelpDialog dialog;
     QCOMPARE(namesAlongTheTabKey(dialog), QStringList({"Help", "OK", "Cancel"}));
 }
 
-ORNEVO_TEST_MAIN(AccessibilityTest)
+ORNEVO_TEST_MAIN(TestAccessibility)
 #include "tst_accessibility.moc"

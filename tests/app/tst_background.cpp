@@ -18,7 +18,7 @@
 
 #include <cmath>
 
-using testsupport::ModalAnswers;
+using testsupport::DialogAnswers;
 using testsupport::part;
 using testsupport::WindowUnderTest;
 
@@ -49,7 +49,7 @@ QPair<bool, bool> choosersEnabled(const QWidget &dialog)
 
 } // namespace
 
-class BackgroundTest : public QObject
+class TestBackground : public QObject
 {
     Q_OBJECT
 
@@ -97,7 +97,7 @@ private:
     {
         t.answers.expect<BackgroundDialog>([radioButton](BackgroundDialog &dialog) {
             choose(dialog, radioButton);
-            ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+            testsupport::press(dialog, QDialogButtonBox::Ok);
         });
         t.trigger("actionSelect_Background");
     }
@@ -106,7 +106,7 @@ private:
         t.answers.expect<BackgroundDialog>([](BackgroundDialog &dialog) {
             choose(dialog, "pictureradioButton");
             press(dialog, "pushButton_2");
-            ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+            testsupport::press(dialog, QDialogButtonBox::Ok);
         });
         t.answers.chooseFile(path);
         t.trigger("actionSelect_Background");
@@ -117,7 +117,7 @@ private:
     QImage m_backdrop = testpictures::blobImage(100, 50, 5);
 };
 
-void BackgroundTest::initTestCase()
+void TestBackground::initTestCase()
 {
     QVERIFY(m_picture.save(picture()));
     QVERIFY(m_backdrop.save(backdrop()));
@@ -126,7 +126,7 @@ void BackgroundTest::initTestCase()
     broken.write("no picture");
 }
 
-void BackgroundTest::formOfTheDialog()
+void TestBackground::formOfTheDialog()
 {
     BackgroundDialog dialog;
     QCOMPARE(dialog.windowTitle(), QString("Select Background Color or Picture"));
@@ -151,7 +151,7 @@ void BackgroundTest::formOfTheDialog()
     QCOMPARE(dialog.picturePath, QString());
 }
 
-void BackgroundTest::radioButtonsEnableTheChoosers()
+void TestBackground::radioButtonsEnableTheChoosers()
 {
     BackgroundDialog dialog;
     dialog.show();
@@ -167,7 +167,7 @@ void BackgroundTest::radioButtonsEnableTheChoosers()
     QCOMPARE(choosersEnabled(dialog), qMakePair(false, false));
 }
 
-void BackgroundTest::colourChooser_data()
+void TestBackground::colourChooser_data()
 {
     QTest::addColumn<uint>("colour");
     QTest::addColumn<QString>("label");
@@ -177,34 +177,34 @@ void BackgroundTest::colourChooser_data()
     QTest::newRow("white") << 0xFFFFFFFFU << "ffffffff";
 }
 
-void BackgroundTest::colourChooser()
+void TestBackground::colourChooser()
 {
     QFETCH(uint, colour);
     QFETCH(QString, label);
     BackgroundDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.expect<QColorDialog>([colour](QColorDialog &chooser) {
         chooser.setCurrentColor(QColor::fromRgba(colour));
-        ModalAnswers::press(chooser, QDialogButtonBox::Ok);
+        testsupport::press(chooser, QDialogButtonBox::Ok);
     });
     choose(dialog, "colorradioButton");
     press(dialog, "pushButton");
     QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
     QCOMPARE(part<QLabel>(dialog, "colorlabel").text(), label);
-    ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    testsupport::press(dialog, QDialogButtonBox::Ok);
     QVERIFY(dialog.accepted);
     QVERIFY(dialog.useColor);
     QCOMPARE(dialog.color, colour);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
-void BackgroundTest::colourChooserAsks()
+void TestBackground::colourChooserAsks()
 {
     BackgroundDialog dialog;
     dialog.show();
-    ModalAnswers answers;
+    DialogAnswers answers;
     QString title;
     QColor initial;
     bool alpha = false;
@@ -224,11 +224,11 @@ void BackgroundTest::colourChooserAsks()
     QCOMPARE(parent, &dialog);
 }
 
-void BackgroundTest::colourChooserCancelled()
+void TestBackground::colourChooserCancelled()
 {
     BackgroundDialog dialog;
     dialog.show();
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.expect<QColorDialog>([](QColorDialog &chooser) {
         chooser.setCurrentColor(Qt::red);
         chooser.reject();
@@ -236,15 +236,15 @@ void BackgroundTest::colourChooserCancelled()
     choose(dialog, "colorradioButton");
     press(dialog, "pushButton");
     QCOMPARE(part<QLabel>(dialog, "colorlabel").text(), QString("FFFFFFFF"));
-    ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    testsupport::press(dialog, QDialogButtonBox::Ok);
     QCOMPARE(dialog.color, 0xFFFFFFFFU);
 }
 
-void BackgroundTest::pictureChooser()
+void TestBackground::pictureChooser()
 {
     BackgroundDialog dialog;
     dialog.show();
-    ModalAnswers answers;
+    DialogAnswers answers;
     QString caption;
     QStringList filters;
     QWidget *parent = nullptr;
@@ -259,18 +259,18 @@ void BackgroundTest::pictureChooser()
     QCOMPARE(filters, QStringList({"Image Files (*.png *.jpg *.bmp)"}));
     QCOMPARE(parent, &dialog);
     QCOMPARE(part<QLabel>(dialog, "picturelabel").text(), backdrop());
-    ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    testsupport::press(dialog, QDialogButtonBox::Ok);
     QVERIFY(dialog.accepted);
     QVERIFY(!dialog.useColor);
     QCOMPARE(dialog.picturePath, backdrop());
 }
 
-void BackgroundTest::pictureChooserCancelled()
+void TestBackground::pictureChooserCancelled()
 {
     BackgroundDialog dialog;
     dialog.show();
     part<QLabel>(dialog, "picturelabel").setText("/somewhere/else.png");
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.cancelFile();
     choose(dialog, "pictureradioButton");
     press(dialog, "pushButton_2");
@@ -279,15 +279,15 @@ void BackgroundTest::pictureChooserCancelled()
 
 /// "Use White" is ticked and both choosers are enabled: whoever chooses something there wants it, and
 /// confirms it with Return.
-void BackgroundTest::chosenColourIsUsed()
+void TestBackground::chosenColourIsUsed()
 {
     BackgroundDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.expect<QColorDialog>([](QColorDialog &chooser) {
         chooser.setCurrentColor(QColor::fromRgba(0xFF12ABEF));
-        ModalAnswers::press(chooser, QDialogButtonBox::Ok);
+        testsupport::press(chooser, QDialogButtonBox::Ok);
     });
     press(dialog, "pushButton");
     QVERIFY(part<QRadioButton>(dialog, "colorradioButton").isChecked());
@@ -299,12 +299,12 @@ void BackgroundTest::chosenColourIsUsed()
     QCOMPARE(dialog.color, 0xFF12ABEFU);
 }
 
-void BackgroundTest::chosenPictureIsUsed()
+void TestBackground::chosenPictureIsUsed()
 {
     BackgroundDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.chooseFile(backdrop());
     press(dialog, "pushButton_2");
     QVERIFY(part<QRadioButton>(dialog, "pictureradioButton").isChecked());
@@ -316,11 +316,11 @@ void BackgroundTest::chosenPictureIsUsed()
     QCOMPARE(dialog.picturePath, backdrop());
 }
 
-void BackgroundTest::cancelledChoosersChangeNothing()
+void TestBackground::cancelledChoosersChangeNothing()
 {
     BackgroundDialog dialog;
     dialog.show();
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.expect<QColorDialog>([](QColorDialog &chooser) { chooser.reject(); });
     press(dialog, "pushButton");
     answers.cancelFile();
@@ -332,7 +332,7 @@ void BackgroundTest::cancelledChoosersChangeNothing()
     QCOMPARE(part<QLabel>(dialog, "picturelabel").text(), QString());
 }
 
-void BackgroundTest::answers_data()
+void TestBackground::answers_data()
 {
     QTest::addColumn<QString>("radioButton");
     QTest::addColumn<QString>("colourText");
@@ -374,7 +374,7 @@ void BackgroundTest::answers_data()
                                 << "" << true << 0xFFFFFFFFU;
 }
 
-void BackgroundTest::answers()
+void TestBackground::answers()
 {
     QFETCH(QString, radioButton);
     QFETCH(QString, colourText);
@@ -388,7 +388,7 @@ void BackgroundTest::answers()
         choose(dialog, radioButton.toLatin1());
     part<QLabel>(dialog, "colorlabel").setText(colourText);
     part<QLabel>(dialog, "picturelabel").setText(pathText);
-    ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+    testsupport::press(dialog, QDialogButtonBox::Ok);
     QVERIFY(dialog.accepted);
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.useColor, useColour);
@@ -398,13 +398,13 @@ void BackgroundTest::answers()
         QCOMPARE(dialog.picturePath, pathText);
 }
 
-void BackgroundTest::cancelIsNotAccepted()
+void TestBackground::cancelIsNotAccepted()
 {
     BackgroundDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     choose(dialog, "transparentradioButton");
-    ModalAnswers::press(dialog, QDialogButtonBox::Cancel);
+    testsupport::press(dialog, QDialogButtonBox::Cancel);
     QVERIFY(!dialog.accepted);
     QVERIFY(!dialog.isVisible());
     dialog.show();
@@ -412,7 +412,7 @@ void BackgroundTest::cancelIsNotAccepted()
     QVERIFY(!dialog.accepted);
 }
 
-void BackgroundTest::languageChange()
+void TestBackground::languageChange()
 {
     BackgroundDialog dialog;
     part<QRadioButton>(dialog, "whiteradioButton").setText("Weiß");
@@ -423,7 +423,7 @@ void BackgroundTest::languageChange()
     QCOMPARE(dialog.windowTitle(), QString("Select Background Color or Picture"));
 }
 
-void BackgroundTest::dialogStartsAnew()
+void TestBackground::dialogStartsAnew()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -441,7 +441,7 @@ void BackgroundTest::dialogStartsAnew()
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
 }
 
-void BackgroundTest::cancelChangesNothing()
+void TestBackground::cancelChangesNothing()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -454,7 +454,7 @@ void BackgroundTest::cancelChangesNothing()
             if (close)
                 dialog.close();
             else
-                ModalAnswers::press(dialog, QDialogButtonBox::Cancel);
+                testsupport::press(dialog, QDialogButtonBox::Cancel);
         });
         t.trigger("actionSelect_Background");
         QCOMPARE(t.probe.backgroundColor(), 0x11223344U);
@@ -464,7 +464,7 @@ void BackgroundTest::cancelChangesNothing()
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
 }
 
-void BackgroundTest::colourChoice_data()
+void TestBackground::colourChoice_data()
 {
     QTest::addColumn<QString>("radioButton");
     QTest::addColumn<uint>("colour");
@@ -473,7 +473,7 @@ void BackgroundTest::colourChoice_data()
     QTest::newRow("the label's colour") << "colorradioButton" << 0xFFFFFFFFU;
 }
 
-void BackgroundTest::colourChoice()
+void TestBackground::colourChoice()
 {
     QFETCH(QString, radioButton);
     QFETCH(uint, colour);
@@ -499,10 +499,10 @@ void BackgroundTest::colourChoice()
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
             colours << layer.pixel(x, y);
-    QCOMPARE(colours.size() > 1, colour == 0U); // the board shows through what is transparent only
+    QCOMPARE(colours.size() > 1, colour == 0U); // the checkerboard shows through what is transparent only
 }
 
-void BackgroundTest::pictureChoice()
+void TestBackground::pictureChoice()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -520,7 +520,7 @@ void BackgroundTest::pictureChoice()
     QCOMPARE(t.probe.previewOffset(), QPoint());
 }
 
-void BackgroundTest::unreadablePicture()
+void TestBackground::unreadablePicture()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -536,7 +536,7 @@ void BackgroundTest::unreadablePicture()
     QCOMPARE(t.status(), QString("Ready"));
 }
 
-void BackgroundTest::pictureWithoutAName()
+void TestBackground::pictureWithoutAName()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -546,7 +546,7 @@ void BackgroundTest::pictureWithoutAName()
     QVERIFY(t.probe.backgroundImage().isNull());
 }
 
-void BackgroundTest::zoomOfAColour()
+void TestBackground::zoomOfAColour()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -556,7 +556,7 @@ void BackgroundTest::zoomOfAColour()
     QCOMPARE(t.probe.backgroundItem()->transform(), QTransform());
 }
 
-void BackgroundTest::zoomOfAPicture()
+void TestBackground::zoomOfAPicture()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -578,7 +578,7 @@ void BackgroundTest::zoomOfAPicture()
     QCOMPARE(t.probe.backgroundItem()->pixmap().size(), QSize(60, 30));
 }
 
-void BackgroundTest::zoomIsLostOnRebuild()
+void TestBackground::zoomIsLostOnRebuild()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -588,7 +588,7 @@ void BackgroundTest::zoomIsLostOnRebuild()
     QCOMPARE(t.probe.backgroundItem()->transform(), QTransform());
 }
 
-void BackgroundTest::choiceKeepsBrushWork()
+void TestBackground::choiceKeepsBrushWork()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -605,5 +605,5 @@ void BackgroundTest::choiceKeepsBrushWork()
     QCOMPARE(t.probe.previewImage(), before);
 }
 
-ORNEVO_TEST_MAIN(BackgroundTest)
+ORNEVO_TEST_MAIN(TestBackground)
 #include "tst_background.moc"

@@ -3,20 +3,25 @@
 
 #include "tests/reference/MaskReference.h"
 #include "tests/reference/TestPictures.h"
+#include "tests/support/DialogParts.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/PaintedArea.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
 
 #include <QAbstractButton>
-#include <QDialogButtonBox>
 #include <QGraphicsPixmapItem>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QThread>
 
-using driver::action;
+#include <optional>
+
+using testsupport::action;
+using testsupport::CanvasMouse;
+using testsupport::DialogAnswers;
+using testsupport::part;
 
 class TestBrushes : public QObject
 {
@@ -72,6 +77,7 @@ private:
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<MainWindowProbe> probe;
     QGraphicsView *view = nullptr;
+    std::optional<CanvasMouse> mouse; ///< over it
 };
 
 namespace {
@@ -104,11 +110,12 @@ void TestBrushes::init()
     QSettings().clear();
     window = std::make_unique<MainWindow>();
     probe = std::make_unique<MainWindowProbe>(*window);
-    view = driver::canvas(*window);
-    driver::show(*window);
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    view = testsupport::canvas(*window);
+    mouse.emplace(*view);
+    testsupport::show(*window);
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     action(*window, "actionPreview")->trigger();
-    driver::settle();
+    testsupport::settle();
     view->resetTransform();
     view->centerOn(width / 2, height / 2);
 }
@@ -149,27 +156,25 @@ void TestBrushes::markAndPreview()
     if (action(*window, "actionPreview")->isChecked())
         action(*window, "actionPreview")->trigger();
     action(*window, "actionKeep_arker")->trigger();
-    driver::stroke(*view, {{70, 60}, {75, 60}, {80, 60}});
+    mouse->draw({{70, 60}, {75, 60}, {80, 60}});
     action(*window, "action_Remove_Marker")->trigger();
-    driver::stroke(*view, {{15, 15}, {15, 60}, {140, 100}, {140, 20}});
+    mouse->draw({{15, 15}, {15, 60}, {140, 100}, {140, 20}});
     action(*window, "actionPreview")->trigger();
 }
 
 void TestBrushes::answerBackground(const QString &choice, const QString &picture)
 {
-    QList<driver::DialogAnswers::Answer> answers{[&](QWidget *dialog) {
-        auto *button = dialog->findChild<QRadioButton *>(choice);
-        QVERIFY(button != nullptr);
-        button->click();
+    DialogAnswers answers;
+    answers.expect<QDialog>([&](QDialog &dialog) {
+        part<QRadioButton>(dialog, qPrintable(choice)).click();
         if (!picture.isEmpty())
-            dialog->findChild<QPushButton *>("pushButton_2")->click();
-        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)->click();
-    }};
+            part<QPushButton>(dialog, "pushButton_2").click();
+        testsupport::press(dialog, QDialogButtonBox::Ok);
+    });
     if (!picture.isEmpty())
-        answers.append([&](QWidget *dialog) { driver::typeFileName(dialog, picture); });
-    driver::DialogAnswers given(answers);
+        answers.chooseFile(picture);
     action(*window, "actionSelect_Background")->trigger();
-    QCOMPARE(given.given(), answers.size());
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
 }
 
 void TestBrushes::pressIsProcessedAtOnce()
@@ -177,7 +182,7 @@ void TestBrushes::pressIsProcessedAtOnce()
     usePreviewImage(opaque(0x102030, 20));
     action(*window, "actionForeground_Brush")->trigger();
     QImage expected = image().copy();
-    driver::press(*view, view->mapFromScene(80, 60));
+    mouse->press(view->mapFromScene(80, 60));
     QCOMPARE(probe->pendingBrushRects(), QList<QRect>{QRect(75, 55, 10, 10)});
     QCOMPARE(probe->brushTimer().interval(), 0);
     QCOMPARE(stack().count(), 0);
@@ -195,12 +200,12 @@ void TestBrushes::moveWaits()
 {
     action(*window, "actionBackground_Brush")->trigger();
     const QPoint position = view->mapFromScene(80, 60);
-    driver::press(*view, position);
+    mouse->press(position);
     QCoreApplication::processEvents();
     QCOMPARE(stack().count(), 1);
     QElapsedTimer age;
     age.start();
-    driver::move(*view, position + QPoint(3, 0), Qt::LeftButton);
+    mouse->move(position + QPoint(3, 0), Qt::LeftButton);
     QVERIFY(probe->brushTimer().isActive());
     QVERIFY(probe->brushTimer().isSingleShot());
     QCOMPARE(probe->brushTimer().interval(), 30);
@@ -234,15 +239,15 @@ void TestBrushes::tenSquaresAreABatch()
     QImage expected = image().copy();
     action(*window, "actionForeground_Brush")->trigger();
     const QPoint start = view->mapFromScene(50, 60);
-    driver::press(*view, start);
+    mouse->press(start);
     QCoreApplication::processEvents(); // the press
     QList<QRect> squares;
     for (int i = 1; i <= 10; ++i) {
-        driver::move(*view, start + QPoint(4 * i, 0), Qt::LeftButton);
+        mouse->move(start + QPoint(4 * i, 0), Qt::LeftButton);
         squares.append(QRect(45 + 4 * i, 55, 10, 10));
         QCOMPARE(probe->brushTimer().interval(), i < 10 ? 30 : 0);
     }
-    driver::release(*view, start + QPoint(40, 0));
+    mouse->release(start + QPoint(40, 0));
     QCOMPARE(probe->pendingBrushRects(), squares);
     QCoreApplication::processEvents();
     QCOMPARE(stack().count(), 2);
@@ -262,13 +267,13 @@ void TestBrushes::slowDrag()
 {
     action(*window, "actionBackground_Brush")->trigger();
     const QPoint start = view->mapFromScene(50, 60);
-    driver::press(*view, start);
+    mouse->press(start);
     QCoreApplication::processEvents();
     for (int i = 1; i <= 4; ++i) {
-        driver::move(*view, start + QPoint(i * 5, 0), Qt::LeftButton);
+        mouse->move(start + QPoint(i * 5, 0), Qt::LeftButton);
         QTRY_COMPARE(stack().count(), 1 + i);
     }
-    driver::release(*view, start + QPoint(20, 0));
+    mouse->release(start + QPoint(20, 0));
     QVERIFY(!probe->brushTimer().isActive()); // the release adds nothing
     QCoreApplication::processEvents();
     QCOMPARE(stack().count(), 5);
@@ -304,7 +309,7 @@ void TestBrushes::limits()
     (keep ? probe->brushIntensityRemove() : probe->brushIntensityKeep()) = 33; // the other brush's own
     usePreviewImage(opaque(0xA1B2C3, alpha));
     action(*window, keep ? "actionForeground_Brush" : "actionBackground_Brush")->trigger();
-    driver::press(*view, view->mapFromScene(80, 60));
+    mouse->press(view->mapFromScene(80, 60));
     QCoreApplication::processEvents();
     QCOMPARE(image().pixel(80, 60), (static_cast<QRgb>(expected) << 24) | 0xA1B2C3U);
     QCOMPARE(image().pixel(20, 20), (static_cast<QRgb>(alpha) << 24) | 0xA1B2C3U);
@@ -329,7 +334,7 @@ void TestBrushes::intensityIsReadPerBatch()
     usePreviewImage(opaque(0x0, 0));
     action(*window, "actionForeground_Brush")->trigger();
     send(QRect(60, 50, 20, 20), true);
-    driver::key(*window, Qt::Key_Up);
+    testsupport::key(*window, Qt::Key_Up);
     QTRY_COMPARE(stack().count(), 1);
     QCOMPARE(qAlpha(image().pixel(70, 60)), 151);
 }
@@ -358,11 +363,11 @@ void TestBrushes::pastTheEdge()
     stack().undo();
     stack().redo();
     QCOMPARE(image(), before);
-    // By hand: a stroke that runs over the edge of the picture.
-    driver::press(*view, view->mapFromScene(150, 60));
-    driver::move(*view, view->mapFromScene(157, 60), Qt::LeftButton);
-    driver::move(*view, view->mapFromScene(164, 60), Qt::LeftButton);
-    driver::release(*view, view->mapFromScene(164, 60));
+    // With the mouse: a stroke that runs over the edge of the picture.
+    mouse->press(view->mapFromScene(150, 60));
+    mouse->move(view->mapFromScene(157, 60), Qt::LeftButton);
+    mouse->move(view->mapFromScene(164, 60), Qt::LeftButton);
+    mouse->release(view->mapFromScene(164, 60));
     QTRY_VERIFY(probe->pendingBrushRects().isEmpty());
     expected = before.copy();
     reference::applyBrush(expected, {QRect(145, 55, 10, 10), QRect(152, 55, 10, 10), QRect(159, 55, 10, 10)},
@@ -423,12 +428,12 @@ void TestBrushes::handToolOffset()
     usePreviewImage(expected.copy());
     action(*window, "actionHandTool")->trigger();
     QPoint position = view->mapFromScene(80, 60);
-    driver::press(*view, position);
+    mouse->press(position);
     for (int i = 0; i < 30; ++i)
-        driver::move(*view, position += QPoint(1, 0), Qt::LeftButton);
+        mouse->move(position += QPoint(1, 0), Qt::LeftButton);
     for (int i = 0; i < 10; ++i)
-        driver::move(*view, position -= QPoint(0, 1), Qt::LeftButton);
-    driver::release(*view, position);
+        mouse->move(position -= QPoint(0, 1), Qt::LeftButton);
+    mouse->release(position);
     QCOMPARE(probe->previewOffset(), QPoint(30, -10));
     QCOMPARE(probe->previewItem()->pos(), QPointF(30, -10));
     QCOMPARE(probe->backgroundItem()->pos(), QPointF(0, 0));
@@ -455,7 +460,7 @@ void TestBrushes::lastSquareIsKept()
     sendAndWait({QRect(30, 30, 20, 20), QRect(60, 30, 20, 20)});
     QCOMPARE(probe->lastBrushRect(), QRect(60, 30, 20, 20));
     QVERIFY(probe->skipLastRect());
-    // Told not to skip it, the next batch leaves the last square alone, and only the next.
+    // Set not to skip it, the next batch leaves the last square alone, and only the next.
     probe->skipLastRect() = false;
     QImage expected = image().copy();
     reference::applyBrush(expected, {QRect(55, 30, 20, 20)}, {}, reference::Brush::Keep, 20, false,
@@ -479,14 +484,14 @@ void TestBrushes::undoRedoKeys()
     QCOMPARE(stack().count(), 4);
     for (int round = 0; round < 3; ++round) {
         for (int i = 3; i >= 0; --i) {
-            driver::key(*window, QKeySequence::Undo);
+            testsupport::key(*window, QKeySequence::Undo);
             QCOMPARE(image(), states.at(i));
             checkShown();
         }
-        driver::key(*window, QKeySequence::Undo); // nothing left
+        testsupport::key(*window, QKeySequence::Undo); // nothing left
         QCOMPARE(image(), states.at(0));
         for (int i = 1; i <= 4; ++i) {
-            driver::key(*window, QKeySequence::Redo);
+            testsupport::key(*window, QKeySequence::Redo);
             QCOMPARE(image(), states.at(i));
             checkShown();
         }
@@ -559,10 +564,10 @@ void TestBrushes::undoWhileThePreviewIsOff()
     sendAndWait({QRect(65, 50, 20, 20)});
     const QImage brushed = image().copy();
     action(*window, "actionPreview")->trigger();
-    driver::key(*window, QKeySequence::Undo);
+    testsupport::key(*window, QKeySequence::Undo);
     QCOMPARE(image(), fresh);
     checkShown();
-    driver::key(*window, QKeySequence::Redo);
+    testsupport::key(*window, QKeySequence::Redo);
     QCOMPARE(image(), brushed);
     checkShown();
 }
@@ -573,7 +578,7 @@ void TestBrushes::openingForgets()
     sendAndWait({QRect(60, 50, 20, 20)});
     QCOMPARE(stack().count(), 1);
     send(QRect(30, 30, 10, 10), false);
-    driver::openPhoto(*window, folder.filePath("background.png"));
+    testsupport::openPhoto(*window, folder.filePath("background.png"));
     QCOMPARE(stack().count(), 0);
     QTRY_VERIFY(probe->pendingBrushRects().isEmpty());
     QCOMPARE(stack().count(), 0);
@@ -585,7 +590,7 @@ void TestBrushes::withoutPreview()
     MainWindow empty;
     MainWindowProbe inside(empty);
     action(empty, "actionForeground_Brush")->setChecked(true);
-    QGraphicsView *canvas = driver::canvas(empty);
+    QGraphicsView *canvas = testsupport::canvas(empty);
     QVERIFY(
         QMetaObject::invokeMethod(canvas, "AnyBrush", Q_ARG(QRect, QRect(5, 5, 9, 9)), Q_ARG(bool, true)));
     QVERIFY(QMetaObject::invokeMethod(canvas, "HandTool", Q_ARG(QPoint, QPoint(1, 1)),
@@ -651,13 +656,13 @@ void TestBrushes::exportAfterTouchUp()
     const auto exported = [this] {
         const QString name = folder.filePath("export.png");
         QFile::remove(name);
-        driver::DialogAnswers answers(
-            {[](QWidget *dialog) {
-                 dialog->findChild<QPushButton *>("pushButton")->click();
-                 dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)->click();
-             },
-             [name](QWidget *dialog) { driver::typeFileName(dialog, name); }});
-        driver::key(*window, Qt::Key_S);
+        DialogAnswers answers;
+        answers.expect<QDialog>([](QDialog &dialog) {
+            part<QPushButton>(dialog, "pushButton").click();
+            testsupport::press(dialog, QDialogButtonBox::Ok);
+        });
+        answers.chooseFile(name);
+        testsupport::key(*window, Qt::Key_S);
         return QImage(name);
     };
     const QImage before = exported();
@@ -692,13 +697,13 @@ QSize repaintedByADab(QGraphicsView &view, QUndoStack &stack)
     const int before = stack.index();
     const QPoint position = view.mapFromScene(80, 60);
     testsupport::PaintedArea painted(view.viewport());
-    driver::move(view, position + QPoint(3, 3)); // so that the circle is painted, wherever it was
-    driver::move(view, position);
+    CanvasMouse mouse(view);
+    mouse.move(position + QPoint(3, 3)); // so that the circle is painted, wherever it was
+    mouse.move(position);
     if (!QTest::qWaitFor([&] { return !painted.take().isEmpty(); }))
         qFatal("no circle");
     QSignalSpy pushed(&stack, &QUndoStack::indexChanged);
-    driver::press(view, position);
-    driver::release(view, position);
+    mouse.click(position);
     if (!QTest::qWaitFor([&] { return !pushed.isEmpty(); }))
         qFatal("no batch after %d", before);
     QRegion area;
@@ -720,7 +725,7 @@ void TestBrushes::batchAtTheUndoLimitRepaintsItselfOnly()
     action(*window, "actionPreview")->trigger();
     action(*window, "actionKeep_arker")->trigger();
     for (int i = 0; i < 210; ++i)
-        driver::stroke(*view, {QPointF(60 + i % 40, 50 + i / 40)});
+        mouse->draw({QPointF(60 + i % 40, 50 + i / 40)});
     QCOMPARE(stack().count(), 200);
     action(*window, "actionPreview")->trigger();
     action(*window, "actionBackground_Brush")->trigger();
@@ -740,7 +745,7 @@ void TestBrushes::batchAfterANewBackgroundRepaintsItselfOnly()
     stack().undo();
     answerBackground("transparentradioButton");
     action(*window, "actionForeground_Brush")->setChecked(true);
-    driver::settle();
+    testsupport::settle();
     QVERIFY(isSmall(repaintedByADab(*view, stack())));
     checkShown();
     testsupport::PaintedArea painted(view->viewport());
@@ -760,7 +765,7 @@ void TestBrushes::dabsLeaveTheHiddenPreviewAlone()
     action(*window, "actionPreview")->trigger();
     const qint64 shown = probe->previewItem()->pixmap().cacheKey();
     action(*window, "actionKeep_arker")->trigger();
-    driver::stroke(*view, {{70, 60}, {75, 60}});
+    mouse->draw({{70, 60}, {75, 60}});
     QCOMPARE(stack().count(), 3);
     QCOMPARE(probe->previewItem()->pixmap().cacheKey(), shown);
 }
@@ -782,24 +787,25 @@ void TestBrushes::dialogEndsTheStroke()
         action(*window, "actionPreview")->trigger();
     action(*window, tool)->trigger();
     const auto lay = [&](int x, Qt::MouseButtons held) {
-        driver::move(*view, view->mapFromScene(x, 60), held);
+        mouse->move(view->mapFromScene(x, 60), held);
         // The brush waits for more dabs.
         if (!QTest::qWaitFor([&] { return probe->pendingBrushRects().isEmpty(); }))
             qFatal("the batch does not come");
         return std::pair(stack().count(), probe->previewOffset());
     };
-    driver::press(*view, view->mapFromScene(60, 60));
+    mouse->press(view->mapFromScene(60, 60));
     const auto drawn = lay(65, Qt::LeftButton);
     QVERIFY(drawn.first > 0 || !drawn.second.isNull());
-    driver::DialogAnswers answers(driver::pressEscape);
-    driver::key(*window, Qt::Key_O);
+    DialogAnswers answers;
+    answers.expect<QFileDialog>(testsupport::pressEscape);
+    testsupport::key(*window, Qt::Key_O);
     QCOMPARE(answers.given(), 1);
     QCOMPARE(lay(80, {}), drawn);
     QCOMPARE(lay(90, {}), drawn);
-    driver::release(*view, view->mapFromScene(90, 60)); // for the toolkit's own book
-    driver::press(*view, view->mapFromScene(70, 60));
+    mouse->release(view->mapFromScene(90, 60)); // for the toolkit's own book
+    mouse->press(view->mapFromScene(70, 60));
     QVERIFY(lay(75, Qt::LeftButton) != drawn); // the next stroke draws
-    driver::release(*view, view->mapFromScene(75, 60));
+    mouse->release(view->mapFromScene(75, 60));
 }
 
 ORNEVO_TEST_MAIN(TestBrushes)

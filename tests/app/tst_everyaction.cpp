@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/reference/TestPictures.h"
+#include "tests/support/DialogParts.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/TestMain.h"
 #include "tests/support/WindowDriver.h"
@@ -12,8 +13,9 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 
-using driver::action;
-using driver::status;
+using testsupport::action;
+using testsupport::part;
+using testsupport::status;
 
 namespace {
 
@@ -80,7 +82,7 @@ bool expectedEnabled(const Row &row, bool preview)
            (row.enabled == Previewing && preview);
 }
 
-// A tool in use can be told from outside by its cursor only.
+// A tool in use can be recognised from outside by its cursor only.
 Qt::CursorShape shapeOf(int tool)
 {
     switch (tool) {
@@ -137,15 +139,15 @@ void TestEveryAction::cleanup()
 
 void TestEveryAction::chooseBackground(const QString &picture)
 {
-    driver::DialogAnswers answers(
-        {[](QWidget *dialog) {
-             dialog->findChild<QRadioButton *>("pictureradioButton")->click();
-             dialog->findChild<QPushButton *>("pushButton_2")->click();
-             dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)->click();
-         },
-         [picture](QWidget *dialog) { driver::typeFileName(dialog, picture); }});
+    testsupport::DialogAnswers answers;
+    answers.expect<QDialog>([](QDialog &dialog) {
+        part<QRadioButton>(dialog, "pictureradioButton").click();
+        part<QPushButton>(dialog, "pushButton_2").click();
+        testsupport::press(dialog, QDialogButtonBox::Ok);
+    });
+    answers.chooseFile(picture);
     action(*window, "actionSelect_Background")->trigger();
-    QCOMPARE(answers.given(), 2);
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
 }
 
 void TestEveryAction::enter(State state)
@@ -154,16 +156,16 @@ void TestEveryAction::enter(State state)
     probe.reset();
     window = std::make_unique<MainWindow>();
     probe = std::make_unique<MainWindowProbe>(*window);
-    driver::show(*window);
+    testsupport::show(*window);
     if (state == NoPhoto)
         return;
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     if (state == Photo)
         return;
     action(*window, "actionKeep_arker")->trigger();
-    driver::stroke(*driver::canvas(*window), {{35, 30}, {40, 30}});
+    testsupport::CanvasMouse(*testsupport::canvas(*window)).draw({{35, 30}, {40, 30}});
     action(*window, "action_Remove_Marker")->trigger();
-    driver::stroke(*driver::canvas(*window), {{8, 8}, {8, 50}, {72, 50}});
+    testsupport::CanvasMouse(*testsupport::canvas(*window)).draw({{8, 8}, {8, 50}, {72, 50}});
     action(*window, state == Overlay ? "actionMask" : "actionPreview")->trigger();
     if (state == PicturePreview)
         chooseBackground(folder.filePath("background.png"));
@@ -195,7 +197,7 @@ void TestEveryAction::theTableIsWhole()
     for (const Row &row : rows)
         QVERIFY2(!action(*window, row.name)->isChecked(), row.name);
     QCOMPARE(status(*window), "");
-    QCOMPARE(driver::canvas(*window)->viewport()->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(testsupport::canvas(*window)->viewport()->cursor().shape(), Qt::ArrowCursor);
 }
 
 void TestEveryAction::everyActionInEveryState_data()
@@ -216,7 +218,7 @@ void TestEveryAction::everyActionInEveryState()
     enter(before);
     checkEnabled(isPreview(before));
     const QString statusBefore = status(*window);
-    const auto cursorBefore = driver::canvas(*window)->viewport()->cursor().shape();
+    const auto cursorBefore = testsupport::canvas(*window)->viewport()->cursor().shape();
     QMap<QString, bool> checkedBefore;
     for (const Row &other : rows)
         checkedBefore.insert(other.name, action(*window, other.name)->isChecked());
@@ -226,14 +228,15 @@ void TestEveryAction::everyActionInEveryState()
     const bool nothingToAsk = before == NoPhoto && (isSave || isExport);
     QSignalSpy quit(window.get(), &MainWindow::mwquit);
 
-    driver::DialogAnswers answers([](QWidget *dialog) { driver::pressEscape(dialog); });
+    testsupport::DialogAnswers answers;
+    answers.expect<QDialog>(testsupport::pressEscape);
     action(*window, expected.name)->trigger();
     QCOMPARE(answers.given(), enabled && expected.dialogs && !nothingToAsk ? 1 : 0);
     QCOMPARE(quit.size(), qstrcmp(expected.name, "actionQuit") == 0 ? 1 : 0);
 
     if (!enabled) {
         QCOMPARE(status(*window), statusBefore);
-        QCOMPARE(driver::canvas(*window)->viewport()->cursor().shape(), cursorBefore);
+        QCOMPARE(testsupport::canvas(*window)->viewport()->cursor().shape(), cursorBefore);
         for (auto it = checkedBefore.cbegin(); it != checkedBefore.cend(); ++it)
             QCOMPARE(action(*window, it.key())->isChecked(), it.value());
         return;
@@ -274,9 +277,9 @@ void TestEveryAction::everyActionInEveryState()
     }
 
     // The tool.
-    const auto cursor = driver::canvas(*window)->viewport()->cursor().shape();
+    const auto cursor = testsupport::canvas(*window)->viewport()->cursor().shape();
     QCOMPARE(cursor, expected.tool < 0 ? cursorBefore : shapeOf(expected.tool));
-    QCOMPARE(driver::canvas(*window)->scene(),
+    QCOMPARE(testsupport::canvas(*window)->scene(),
              before == NoPhoto && !preview && name != "actionPreview"
                  ? nullptr
                  : (preview ? &probe->previewScene() : &probe->imageScene()));
@@ -301,24 +304,25 @@ void TestEveryAction::toolsInEveryState()
                 continue;
             tool->trigger();
             QVERIFY2(tool->isChecked(), row.name);
-            QCOMPARE(driver::canvas(*window)->viewport()->cursor().shape(), shapeOf(row.tool));
-            driver::stroke(*driver::canvas(*window), {{30, 30}, {35, 32}, {-20, 40}, {50, 20}});
+            QCOMPARE(testsupport::canvas(*window)->viewport()->cursor().shape(), shapeOf(row.tool));
+            testsupport::CanvasMouse(*testsupport::canvas(*window))
+                .draw({{30, 30}, {35, 32}, {-20, 40}, {50, 20}});
         }
         QTRY_VERIFY(probe->pendingBrushRects().isEmpty());
         action(*window, "actionPreview")->trigger();
         checkEnabled(action(*window, "actionPreview")->isChecked());
-        QCOMPARE(driver::canvas(*window)->viewport()->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(testsupport::canvas(*window)->viewport()->cursor().shape(), Qt::ArrowCursor);
     }
     const int entries = probe->undoStack().count();
     QVERIFY(entries > 0 || state == NoPhoto);
     for (int left = entries; left > 0; --left) {
         QCOMPARE(probe->undoStack().index(), left);
-        driver::key(*window, QKeySequence::Undo);
+        testsupport::key(*window, QKeySequence::Undo);
     }
     QVERIFY(!probe->undoStack().canUndo());
     for (int done = 0; done < entries; ++done) {
         QCOMPARE(probe->undoStack().index(), done);
-        driver::key(*window, QKeySequence::Redo);
+        testsupport::key(*window, QKeySequence::Redo);
     }
     QVERIFY(!probe->undoStack().canRedo());
 }

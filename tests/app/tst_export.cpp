@@ -22,8 +22,8 @@
 
 #include <memory>
 
+using testsupport::DialogAnswers;
 using testsupport::MessageLog;
-using testsupport::ModalAnswers;
 using testsupport::part;
 using testsupport::WindowUnderTest;
 
@@ -44,7 +44,7 @@ QImage argb(const QImage &image)
 
 } // namespace
 
-class ExportTest : public QObject
+class TestExport : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ private slots:
     void backgroundPicture();
     void zoomedTwiceShrinksTheObject();
     void movedByHand();
-    void chessboardIsNotExported();
+    void checkerboardIsNotExported();
     void jpegIsWrittenAtFullQuality();
     void cancelAfterAFileExports();
     void cancelWithoutAFile();
@@ -111,7 +111,7 @@ private:
                 part<QSpinBox>(dialog, "spinBox").setValue(size.width());
                 part<QSpinBox>(dialog, "spinBox_2").setValue(size.height());
             }
-            ModalAnswers::press(dialog, confirm ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+            testsupport::press(dialog, confirm ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
         });
         t.answers.chooseFile(path);
         t.trigger("actionExport");
@@ -131,19 +131,19 @@ private:
     QImage m_backdrop = testpictures::blobImage(120, 66, 5);
 };
 
-void ExportTest::initTestCase()
+void TestExport::initTestCase()
 {
     QCOMPARE(m_picture.size(), QSize(width, height));
 }
 
-void ExportTest::init()
+void TestExport::init()
 {
     QSettings().clear();
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_picture.save(file("picture.png")));
 }
 
-void ExportTest::formOfTheDialog()
+void TestExport::formOfTheDialog()
 {
     QSettings settings;
     ExportDialog dialog(800, 600, &settings, nullptr);
@@ -170,7 +170,7 @@ void ExportTest::formOfTheDialog()
         QVERIFY(dialog.findChild<QLayout *>(name) != nullptr);
 }
 
-void ExportTest::heightFollowsTheWidth_data()
+void TestExport::heightFollowsTheWidth_data()
 {
     QTest::addColumn<QSize>("start");
     QTest::addColumn<int>("newWidth");
@@ -186,7 +186,7 @@ void ExportTest::heightFollowsTheWidth_data()
             << QSize(997, 331) << candidate << reference::exportHeight(candidate, 331.0F / 997.0F);
 }
 
-void ExportTest::heightFollowsTheWidth()
+void TestExport::heightFollowsTheWidth()
 {
     QFETCH(QSize, start);
     QFETCH(int, newWidth);
@@ -197,7 +197,7 @@ void ExportTest::heightFollowsTheWidth()
     QCOMPARE(part<QSpinBox>(dialog, "spinBox_2").value(), newHeight);
 }
 
-void ExportTest::freeHeight()
+void TestExport::freeHeight()
 {
     QSettings settings;
     ExportDialog dialog(800, 600, &settings, nullptr);
@@ -217,13 +217,13 @@ void ExportTest::freeHeight()
     QCOMPARE(heightBox.value(), 750);
 }
 
-void ExportTest::fileChooser()
+void TestExport::fileChooser()
 {
     QSettings settings;
     settings.setValue("CurrDir", m_folder->path());
     ExportDialog dialog(800, 600, &settings, nullptr);
     dialog.show();
-    ModalAnswers answers;
+    DialogAnswers answers;
     QString caption;
     QString directory;
     QStringList filters;
@@ -248,12 +248,12 @@ void ExportTest::fileChooser()
     QVERIFY(!QFile::exists(file("out.png")));
 }
 
-void ExportTest::fileChooserCancelled()
+void TestExport::fileChooserCancelled()
 {
     QSettings settings;
     ExportDialog dialog(800, 600, &settings, nullptr);
     dialog.show();
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.cancelFile();
     QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
     QVERIFY(!okOf(dialog).isEnabled());
@@ -266,7 +266,7 @@ void ExportTest::fileChooserCancelled()
     QCOMPARE(part<QLabel>(dialog, "label_2").text(), file("out.png"));
 }
 
-void ExportTest::nameWithoutAnEnding_data()
+void TestExport::nameWithoutAnEnding_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("filter");
@@ -292,7 +292,7 @@ void ExportTest::nameWithoutAnEnding_data()
 }
 
 /// The chosen filter completes the name, and that file is written.
-void ExportTest::nameWithoutAnEnding()
+void TestExport::nameWithoutAnEnding()
 {
     QFETCH(QString, typed);
     QFETCH(QString, filter);
@@ -304,7 +304,7 @@ void ExportTest::nameWithoutAnEnding()
     t.answers.expect<ExportDialog>([&label](ExportDialog &dialog) {
         QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
         label = part<QLabel>(dialog, "label_2").text();
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file(typed), [&filter](QFileDialog &chooser) {
         auto *filters = chooser.findChild<QComboBox *>("fileTypeCombo");
@@ -324,13 +324,13 @@ void ExportTest::nameWithoutAnEnding()
     QVERIFY(!QImage(file(shown)).isNull());
 }
 
-void ExportTest::completedNameIsAskedAbout()
+void TestExport::completedNameIsAskedAbout()
 {
     QSettings settings;
     QVERIFY(QFile::copy(file("picture.png"), file("out.jpg")));
     ExportDialog dialog(800, 600, &settings, nullptr);
     dialog.show();
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.chooseFile(file("out"));
     QString question;
     answers.expect<QMessageBox>([&question](QMessageBox &box) {
@@ -346,13 +346,13 @@ void ExportTest::completedNameIsAskedAbout()
 }
 
 /// Return opens the chooser, confirms the name there, and then the dialog.
-void ExportTest::returnConfirmsAfterChoosing()
+void TestExport::returnConfirmsAfterChoosing()
 {
     QSettings settings;
     ExportDialog dialog(800, 600, &settings, nullptr);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    ModalAnswers answers;
+    DialogAnswers answers;
     answers.chooseFile(file("out.png"));
     testsupport::pressKey(dialog, Qt::Key_Return);
     QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
@@ -362,7 +362,7 @@ void ExportTest::returnConfirmsAfterChoosing()
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
-void ExportTest::noSettingsOfTheDialogAreLost()
+void TestExport::noSettingsOfTheDialogAreLost()
 {
     QSettings settings;
     ExportDialog dialog(800, 600, &settings, nullptr);
@@ -384,7 +384,7 @@ void ExportTest::noSettingsOfTheDialogAreLost()
 }
 
 /// Nothing to nothing has no ratio; to any height it is as large as the box allows.
-void ExportTest::widthOfZero()
+void TestExport::widthOfZero()
 {
     QSettings settings;
     for (const auto &[height, following] : {std::pair(0, 0), std::pair(7, 9999)}) {
@@ -395,7 +395,7 @@ void ExportTest::widthOfZero()
     }
 }
 
-void ExportTest::languageChange()
+void TestExport::languageChange()
 {
     QSettings settings;
     ExportDialog dialog(800, 600, &settings, nullptr);
@@ -405,7 +405,7 @@ void ExportTest::languageChange()
     QCOMPARE(part<QCheckBox>(dialog, "checkBox").text(), QString("Keep Aspect Ratio"));
 }
 
-void ExportTest::nothingToExport()
+void TestExport::nothingToExport()
 {
     WindowUnderTest t;
     t.trigger("actionExport");
@@ -416,7 +416,7 @@ void ExportTest::nothingToExport()
     QCOMPARE(t.status(), QString("Ready"));
 }
 
-void ExportTest::startingSize()
+void TestExport::startingSize()
 {
     WindowUnderTest t;
     QSize size;
@@ -439,7 +439,7 @@ void ExportTest::startingSize()
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
 }
 
-void ExportTest::diagnostics()
+void TestExport::diagnostics()
 {
     WindowUnderTest t;
     MessageLog log;
@@ -447,7 +447,7 @@ void ExportTest::diagnostics()
     QCOMPARE(log.taken(), QStringList({"Export"}));
 }
 
-void ExportTest::previewNeverShown()
+void TestExport::previewNeverShown()
 {
     WindowUnderTest t;
     t.openPicture(file("picture.png"));
@@ -456,7 +456,7 @@ void ExportTest::previewNeverShown()
     QVERIFY(!QFile::exists(file("out.png")));
 }
 
-void ExportTest::previewGoneWithTheLastPicture()
+void TestExport::previewGoneWithTheLastPicture()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -469,7 +469,7 @@ void ExportTest::previewGoneWithTheLastPicture()
     QCOMPARE(argb(QImage(file("out.png"))), argb(expected(t, QSize(width, height))));
 }
 
-void ExportTest::composition_data()
+void TestExport::composition_data()
 {
     QTest::addColumn<uint>("colour");
     QTest::addColumn<QSize>("size");
@@ -486,7 +486,7 @@ void ExportTest::composition_data()
     QTest::newRow("moved out of sight") << 0xFF808080U << own << QPoint(1000, 1000);
 }
 
-void ExportTest::composition()
+void TestExport::composition()
 {
     QFETCH(uint, colour);
     QFETCH(QSize, size);
@@ -503,7 +503,7 @@ void ExportTest::composition()
     QCOMPARE(argb(written), argb(expected(t, size)));
 }
 
-void ExportTest::backgroundPicture_data()
+void TestExport::backgroundPicture_data()
 {
     QTest::addColumn<int>("zoom");
     QTest::addColumn<QSize>("size");
@@ -515,7 +515,7 @@ void ExportTest::backgroundPicture_data()
     QTest::newRow("another size") << 1 << QSize(77, 91) << QPoint(2, -4);
 }
 
-void ExportTest::backgroundPicture()
+void TestExport::backgroundPicture()
 {
     QFETCH(int, zoom);
     QFETCH(QSize, size);
@@ -531,7 +531,7 @@ void ExportTest::backgroundPicture()
     QCOMPARE(argb(QImage(file("out.png"))), argb(expected(t, size)));
 }
 
-void ExportTest::zoomedTwiceShrinksTheObject()
+void TestExport::zoomedTwiceShrinksTheObject()
 {
     // A photo as large as the background, with an object that fills it.
     QVERIFY(testpictures::constantImage(200, 100, 0xFF0000FF).save(file("blue.png")));
@@ -549,12 +549,12 @@ void ExportTest::zoomedTwiceShrinksTheObject()
     int columns = 0;
     for (int x = 0; x < 200; ++x)
         columns += written.pixel(x, 0) == 0xFF0000FF;
-    // 200 * 1.1025 = 220.5, cut to 220: the object is int(200 * 200 / 220) = 181 wide.
+    // 200 * 1.1025 = 220.5, truncated to 220: the object is int(200 * 200 / 220) = 181 wide.
     QCOMPARE(columns, 181);
     QCOMPARE(written.pixel(190, 50), 0xFFFF0000U);
 }
 
-void ExportTest::movedByHand()
+void TestExport::movedByHand()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -567,7 +567,7 @@ void ExportTest::movedByHand()
     QCOMPARE(argb(QImage(file("out.png"))), argb(expected(t, QSize(width, height))));
 }
 
-void ExportTest::chessboardIsNotExported()
+void TestExport::checkerboardIsNotExported()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -587,7 +587,7 @@ void ExportTest::chessboardIsNotExported()
     QVERIFY(clear > 0);
 }
 
-void ExportTest::jpegIsWrittenAtFullQuality()
+void TestExport::jpegIsWrittenAtFullQuality()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -601,7 +601,7 @@ void ExportTest::jpegIsWrittenAtFullQuality()
     QCOMPARE(written.readAll(), buffer.data());
 }
 
-void ExportTest::cancelAfterAFileExports()
+void TestExport::cancelAfterAFileExports()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -610,7 +610,7 @@ void ExportTest::cancelAfterAFileExports()
     QCOMPARE(argb(QImage(file("out.png"))), argb(expected(t, QSize(width, height))));
 }
 
-void ExportTest::cancelWithoutAFile()
+void TestExport::cancelWithoutAFile()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -622,7 +622,7 @@ void ExportTest::cancelWithoutAFile()
     QCOMPARE(QDir(m_folder->path()).entryList(), before);
 }
 
-void ExportTest::sizeOfZero()
+void TestExport::sizeOfZero()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -633,7 +633,7 @@ void ExportTest::sizeOfZero()
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
 }
 
-void ExportTest::suffixes_data()
+void TestExport::suffixes_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("format");
@@ -645,7 +645,7 @@ void ExportTest::suffixes_data()
     QTest::newRow("unknown") << "out.picture" << QByteArray();
 }
 
-void ExportTest::suffixes()
+void TestExport::suffixes()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, format);
@@ -657,7 +657,7 @@ void ExportTest::suffixes()
     QCOMPARE(QImageReader(file(name)).format(), format);
 }
 
-void ExportTest::lostTransparency_data()
+void TestExport::lostTransparency_data()
 {
     QTest::addColumn<uint>("colour");
     QTest::addColumn<bool>("picture");
@@ -672,7 +672,7 @@ void ExportTest::lostTransparency_data()
     QTest::newRow("hidden by a picture") << 0U << true << "out.jpg" << true;
 }
 
-void ExportTest::lostTransparency()
+void TestExport::lostTransparency()
 {
     QFETCH(uint, colour);
     QFETCH(bool, picture);
@@ -692,7 +692,7 @@ void ExportTest::lostTransparency()
     const QWidget *parent = &t.window;
     t.answers.expect<ExportDialog>([](ExportDialog &dialog) {
         QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file(name));
     if (warned)
@@ -720,7 +720,7 @@ void ExportTest::lostTransparency()
     QCOMPARE(parent, nullptr);
 }
 
-void ExportTest::folderThatCannotBeWritten_data()
+void TestExport::folderThatCannotBeWritten_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("missing folder") << "missing/out.png";
@@ -729,7 +729,7 @@ void ExportTest::folderThatCannotBeWritten_data()
     QTest::newRow("a folder of that name") << "folder.png";
 }
 
-void ExportTest::folderThatCannotBeWritten()
+void TestExport::folderThatCannotBeWritten()
 {
     QFETCH(QString, name);
     QVERIFY(QDir(m_folder->path()).mkpath("folder.png/inside"));
@@ -743,7 +743,7 @@ void ExportTest::folderThatCannotBeWritten()
     t.answers.expect<ExportDialog>([&](ExportDialog &dialog) {
         part<QLabel>(dialog, "label_2").setText(file(name)); // the chooser itself would object
         okOf(dialog).setEnabled(true);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.trigger("actionExport");
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report())); // nothing is reported
@@ -753,7 +753,7 @@ void ExportTest::folderThatCannotBeWritten()
     QFile::setPermissions(file("locked"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-void ExportTest::existingFileIsReplaced()
+void TestExport::existingFileIsReplaced()
 {
     QFile old(file("out.png"));
     QVERIFY(old.open(QIODevice::WriteOnly));
@@ -763,7 +763,7 @@ void ExportTest::existingFileIsReplaced()
     startPreview(t);
     t.answers.expect<ExportDialog>([](ExportDialog &dialog) {
         QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file("out.png"));
     t.answers.expect<QMessageBox>([](QMessageBox &box) { // of the file chooser
@@ -774,7 +774,7 @@ void ExportTest::existingFileIsReplaced()
     QCOMPARE(argb(QImage(file("out.png"))), argb(expected(t, QSize(width, height))));
 }
 
-void ExportTest::failureLeavesTheOldFile()
+void TestExport::failureLeavesTheOldFile()
 {
     QFile old(file("out.picture"));
     QVERIFY(old.open(QIODevice::WriteOnly));
@@ -791,7 +791,7 @@ void ExportTest::failureLeavesTheOldFile()
     QCOMPARE(old.readAll(), QByteArray("what was there"));
 }
 
-void ExportTest::stateIsUntouched()
+void TestExport::stateIsUntouched()
 {
     WindowUnderTest t;
     startPreview(t);
@@ -817,5 +817,5 @@ void ExportTest::stateIsUntouched()
     QCOMPARE(t.statusTexts, QStringList());
 }
 
-ORNEVO_TEST_MAIN(ExportTest)
+ORNEVO_TEST_MAIN(TestExport)
 #include "tst_export.moc"

@@ -16,7 +16,7 @@
 #include <QTextEdit>
 #include <QUrlQuery>
 
-using driver::action;
+using testsupport::action;
 
 class TestHelp : public QObject
 {
@@ -99,7 +99,7 @@ struct HelpAtItsEnd
 void TestHelp::init()
 {
     window = std::make_unique<MainWindow>();
-    driver::show(*window);
+    testsupport::show(*window);
     pages.clear();
     QDesktopServices::setUrlHandler("https", this, "takePage");
 }
@@ -329,13 +329,12 @@ void TestHelp::aboutBoxes()
     QString shownTitle;
     QString text;
     QWidget *parent = nullptr;
-    driver::DialogAnswers answers([&](QWidget *dialog) {
-        auto *box = qobject_cast<QMessageBox *>(dialog);
-        QVERIFY(box != nullptr);
-        shownTitle = box->windowTitle();
-        text = box->text();
-        parent = box->parentWidget();
-        QTest::keyClick(box, Qt::Key_Return);
+    testsupport::DialogAnswers answers;
+    answers.expect<QMessageBox>([&](QMessageBox &box) {
+        shownTitle = box.windowTitle();
+        text = box.text();
+        parent = box.parentWidget();
+        QTest::keyClick(&box, Qt::Key_Return);
     });
     action(*window, name)->trigger();
     QCOMPARE(answers.given(), 1);

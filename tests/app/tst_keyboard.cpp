@@ -89,7 +89,7 @@ bool tabToAndPress(const WindowUnderTest &t, const QString &action)
 
 } // namespace
 
-class KeyboardTest : public QObject
+class TestKeyboard : public QObject
 {
     Q_OBJECT
 
@@ -121,20 +121,20 @@ private:
     void openPhoto(WindowUnderTest &t)
     {
         t.openPicture(folder.filePath("photo.png"));
-        testsupport::activate(t.window); // not every platform hands that back after a dialog
-        driver::settle();
+        testsupport::activate(t.window); // not every platform makes it active again after a dialog
+        testsupport::settle();
     }
 
     QTemporaryDir folder;
 };
 
-void KeyboardTest::initTestCase()
+void TestKeyboard::initTestCase()
 {
     QVERIFY(testpictures::blobImage(800, 600, 3).save(folder.filePath("photo.png")));
     QVERIFY(testpictures::blobImage(50, 70, 4).save(folder.filePath("background.png")));
 }
 
-void KeyboardTest::canvasHasTheFocusAtStart()
+void TestKeyboard::canvasHasTheFocusAtStart()
 {
     WindowUnderTest t;
     QCOMPARE(QApplication::focusWidget(), &t.view);
@@ -142,7 +142,7 @@ void KeyboardTest::canvasHasTheFocusAtStart()
     QCOMPARE(QApplication::focusWidget(), &t.view);
 }
 
-void KeyboardTest::tabWalksTheToolBar()
+void TestKeyboard::tabWalksTheToolBar()
 {
     WindowUnderTest t;
     t.window.resize(1000, 480);
@@ -153,7 +153,7 @@ void KeyboardTest::tabWalksTheToolBar()
     QCOMPARE(namesOf(focusRound(t.window, Qt::Key_Backtab)), expected);
 }
 
-void KeyboardTest::tabWalksTheToolBarOfThePreview()
+void TestKeyboard::tabWalksTheToolBarOfThePreview()
 {
     WindowUnderTest t;
     t.window.resize(1000, 480);
@@ -171,7 +171,7 @@ void KeyboardTest::tabWalksTheToolBarOfThePreview()
     QVERIFY(!t.action("actionPreview").isChecked());
 }
 
-void KeyboardTest::arrowsWalkTheToolBar()
+void TestKeyboard::arrowsWalkTheToolBar()
 {
     WindowUnderTest t;
     QVERIFY(tabTo(t, "actionZoom_In"));
@@ -182,7 +182,7 @@ void KeyboardTest::arrowsWalkTheToolBar()
     QCOMPARE(focusName(t), QString("actionOpen"));
 }
 
-void KeyboardTest::focusCanBeSeen_data()
+void TestKeyboard::focusCanBeSeen_data()
 {
     QTest::addColumn<QString>("action");
     QTest::newRow("action") << "actionZoom_In";
@@ -191,13 +191,13 @@ void KeyboardTest::focusCanBeSeen_data()
 }
 
 // A frame around most of the button, far darker or lighter than what was there.
-void KeyboardTest::focusCanBeSeen()
+void TestKeyboard::focusCanBeSeen()
 {
     QFETCH(QString, action);
     WindowUnderTest t;
     t.action("actionEraser").setChecked(true);
     QWidget &button = buttonOf(t, action);
-    driver::settle();
+    testsupport::settle();
     const QImage before = button.grab().toImage();
     const auto *flat = qobject_cast<const QToolButton *>(&button);
     QVERIFY(flat->autoRaise()); // a frame only where the pointer or the focus is
@@ -217,7 +217,7 @@ void KeyboardTest::focusCanBeSeen()
     QCOMPARE(button.grab().toImage(), before);
 }
 
-void KeyboardTest::markersAreTakenByKeys()
+void TestKeyboard::markersAreTakenByKeys()
 {
     WindowUnderTest t;
     openPhoto(t);
@@ -229,7 +229,7 @@ void KeyboardTest::markersAreTakenByKeys()
     }
 }
 
-void KeyboardTest::toolsOfThePreviewAreTakenByKeys()
+void TestKeyboard::toolsOfThePreviewAreTakenByKeys()
 {
     WindowUnderTest t;
     t.window.resize(1000, 480);
@@ -246,12 +246,12 @@ void KeyboardTest::toolsOfThePreviewAreTakenByKeys()
     }
 }
 
-void KeyboardTest::zoomByKeys()
+void TestKeyboard::zoomByKeys()
 {
     WindowUnderTest t;
     openPhoto(t);
     QVERIFY(tabToAndPress(t, "actionZoom_In"));
-    driver::settle(); // the scroll bars come, and scale a little
+    testsupport::settle(); // the scroll bars come, and scale a little
     const double before = t.view.transform().m11();
     pressKey(t.window, Qt::Key_Space);
     QCOMPARE(t.view.transform().m11(), before * 1.2);
@@ -261,14 +261,14 @@ void KeyboardTest::zoomByKeys()
     QCOMPARE(t.view.transform().m11(), before * 1.2);
 }
 
-void KeyboardTest::backgroundZoomByKeys()
+void TestKeyboard::backgroundZoomByKeys()
 {
     WindowUnderTest t;
     t.window.resize(1000, 480);
     openPhoto(t);
     QVERIFY(tabToAndPress(t, "actionPreview"));
     t.answers.expect<QDialog>([&](QDialog &dialog) { // the whole of the dialog by keys, too
-        // A window manager may show it before it hands over the keys.
+        // A window manager may show it before it gives it the keys.
         QTRY_VERIFY(dialog.focusWidget() != nullptr);
         pressKey(dialog, Qt::Key_Down); // transparent
         pressKey(dialog, Qt::Key_Down); // colour
@@ -279,7 +279,7 @@ void KeyboardTest::backgroundZoomByKeys()
         QCOMPARE(nameOf(dialog.focusWidget()), QString("pushButton_2"));
         t.answers.chooseFile(folder.filePath("background.png"));
         pressKey(dialog, Qt::Key_Space);
-        testsupport::ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     QVERIFY(tabToAndPress(t, "actionSelect_Background"));
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
@@ -293,7 +293,7 @@ void KeyboardTest::backgroundZoomByKeys()
     QVERIFY(shownWidth() < enlarged);
 }
 
-void KeyboardTest::dialogsOpenByKeys_data()
+void TestKeyboard::dialogsOpenByKeys_data()
 {
     QTest::addColumn<QString>("action");
     QTest::addColumn<QByteArray>("dialog");
@@ -301,7 +301,7 @@ void KeyboardTest::dialogsOpenByKeys_data()
     QTest::newRow("export") << "actionExport" << QByteArray("ExportDialog");
 }
 
-void KeyboardTest::dialogsOpenByKeys()
+void TestKeyboard::dialogsOpenByKeys()
 {
     QFETCH(QString, action);
     QFETCH(QByteArray, dialog);
@@ -318,7 +318,7 @@ void KeyboardTest::dialogsOpenByKeys()
     QTRY_COMPARE(focusName(t), action); // and back where it was
 }
 
-void KeyboardTest::maskByKeys()
+void TestKeyboard::maskByKeys()
 {
     WindowUnderTest t;
     openPhoto(t);
@@ -329,7 +329,7 @@ void KeyboardTest::maskByKeys()
     QVERIFY(!t.probe.outmask().isEmpty());
 }
 
-void KeyboardTest::clicksLeaveTheFocusWithTheCanvas()
+void TestKeyboard::clicksLeaveTheFocusWithTheCanvas()
 {
     WindowUnderTest t;
     t.window.resize(1000, 480);
@@ -346,7 +346,7 @@ void KeyboardTest::clicksLeaveTheFocusWithTheCanvas()
     }
 }
 
-void KeyboardTest::clicksLeaveTheFocusWithAButton()
+void TestKeyboard::clicksLeaveTheFocusWithAButton()
 {
     WindowUnderTest t;
     QVERIFY(tabTo(t, "actionEraser"));
@@ -356,7 +356,7 @@ void KeyboardTest::clicksLeaveTheFocusWithAButton()
     QCOMPARE(focusName(t), QString("actionEraser"));
 }
 
-void KeyboardTest::clickIntoTheCanvasTakesTheFocusBack()
+void TestKeyboard::clickIntoTheCanvasTakesTheFocusBack()
 {
     WindowUnderTest t;
     openPhoto(t);
@@ -366,13 +366,13 @@ void KeyboardTest::clickIntoTheCanvasTakesTheFocusBack()
     QCOMPARE(QApplication::focusWidget(), &t.view);
 }
 
-void KeyboardTest::canvasKeysStillWork()
+void TestKeyboard::canvasKeysStillWork()
 {
     WindowUnderTest t;
     openPhoto(t);
     for (int i = 0; i < 8; ++i)
         QTest::mouseClick(&buttonOf(t, "actionZoom_In"), Qt::LeftButton);
-    driver::settle();
+    testsupport::settle();
     QScrollBar &across = *t.view.horizontalScrollBar();
     QScrollBar &down = *t.view.verticalScrollBar();
     const int left = across.value();
@@ -390,7 +390,7 @@ void KeyboardTest::canvasKeysStillWork()
     QCOMPARE(QApplication::focusWidget(), &t.view);
 }
 
-void KeyboardTest::shortcutsWorkFromAButton()
+void TestKeyboard::shortcutsWorkFromAButton()
 {
     WindowUnderTest t;
     openPhoto(t);
@@ -411,7 +411,7 @@ void KeyboardTest::shortcutsWorkFromAButton()
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
 }
 
-void KeyboardTest::buttonsThatHaveNoRoom()
+void TestKeyboard::buttonsThatHaveNoRoom()
 {
     WindowUnderTest t;
     t.window.resize(300, 400);
@@ -428,7 +428,7 @@ void KeyboardTest::buttonsThatHaveNoRoom()
 }
 
 // The titles of the menus have no letters underlined.
-void KeyboardTest::altOpensTheMenus()
+void TestKeyboard::altOpensTheMenus()
 {
     WindowUnderTest t;
     const QList<QAction *> titles = t.window.menuBar()->actions();
@@ -436,7 +436,7 @@ void KeyboardTest::altOpensTheMenus()
     for (int steps = 0; steps < titles.size(); ++steps) {
         const QMenu &menu = *titles.at(steps)->menu();
         testsupport::activate(t.window); // nobody else gives it back on a bare X server
-        driver::settle();
+        testsupport::settle();
         QCOMPARE(QApplication::focusWidget(), &t.view);
         pressKey(t.window, Qt::Key_Alt);
         for (int i = 0; i < steps; ++i)
@@ -450,5 +450,5 @@ void KeyboardTest::altOpensTheMenus()
     }
 }
 
-ORNEVO_TEST_MAIN(KeyboardTest)
+ORNEVO_TEST_MAIN(TestKeyboard)
 #include "tst_keyboard.moc"

@@ -28,7 +28,7 @@ using testsupport::WindowUnderTest;
 
 namespace {
 
-/// A language of the test's own: every text half as long again, between marks by which it is known.
+/// A language of the test's own: every text half as long again, between quotation marks by which it is known.
 class LongTexts : public QTranslator
 {
 public:
@@ -85,7 +85,7 @@ void eachLanguage()
     QTest::newRow(longTexts) << QString(longTexts);
 }
 
-/// Texts that a widget shows, or tells a screen reader.
+/// Texts that a widget shows, or reports to a screen reader.
 QStringList textsOf(const QWidget &widget)
 {
     if (qobject_cast<const QMenu *>(&widget) != nullptr && widget.objectName().isEmpty())
@@ -115,7 +115,7 @@ QStringList allTexts(const QWidget &window)
     return texts;
 }
 
-/// Labels and buttons that have less room than their text needs.
+/// Labels and buttons that have less space than their text needs.
 QStringList clipped(const QWidget &window)
 {
     QStringList found;
@@ -329,7 +329,7 @@ void TestLanguages::settingsDoNotDependOnIt()
         dialog.show();
         part<QDoubleSpinBox>(dialog, "doubleSpinBox").setValue(0.35);
         part<QSpinBox>(dialog, "spinBox").setValue(42);
-        testsupport::ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
         QMap<QString, QString> all;
         for (const QString &key : settings.allKeys())
             all.insert(key, settings.value(key).toString());

@@ -20,7 +20,7 @@
 
 #include <stdexcept>
 
-using testsupport::ModalAnswers;
+using testsupport::DialogAnswers;
 using testsupport::part;
 using testsupport::WindowUnderTest;
 
@@ -93,7 +93,7 @@ private:
 } // namespace
 
 /// While the program is busy the pointer says so, and no pixels of a closed dialog are left on the screen.
-class LongWorkTest : public QObject
+class TestLongWork : public QObject
 {
     Q_OBJECT
 
@@ -134,7 +134,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-void LongWorkTest::opening()
+void TestLongWork::opening()
 {
     WindowUnderTest t;
     const Witness witness(t);
@@ -150,7 +150,7 @@ void LongWorkTest::opening()
 
 /// What the status bar says of a step, and what the step has to show so far, is on the screen while it runs:
 /// the event loop, which paints otherwise, is only back when all of it is over.
-void LongWorkTest::stepsAreSeen()
+void TestLongWork::stepsAreSeen()
 {
     WindowUnderTest t;
     const PaintedTexts painted(t);
@@ -167,7 +167,7 @@ void LongWorkTest::stepsAreSeen()
 }
 
 /// A status text stays until the next one comes, wherever the pointer goes meanwhile.
-void LongWorkTest::menusLeaveTheStatusText()
+void TestLongWork::menusLeaveTheStatusText()
 {
     WindowUnderTest t;
     t.openPicture(file("photo.png"));
@@ -189,7 +189,7 @@ void LongWorkTest::menusLeaveTheStatusText()
     QCOMPARE(t.status(), QString("Ready"));
 }
 
-void LongWorkTest::unreadableFile()
+void TestLongWork::unreadableFile()
 {
     WindowUnderTest t;
     const Witness witness(t);
@@ -199,7 +199,7 @@ void LongWorkTest::unreadableFile()
     QCOMPARE(witness.waiting, 1);
 }
 
-void LongWorkTest::mask()
+void TestLongWork::mask()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -210,7 +210,7 @@ void LongWorkTest::mask()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::preview()
+void TestLongWork::preview()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -220,18 +220,18 @@ void LongWorkTest::preview()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::background()
+void TestLongWork::background()
 {
     WindowUnderTest t;
     openAndMark(t);
     t.trigger("actionPreview");
-    t.window.statusBar()->showMessage("nothing yet"); // a text that stays is not told of
+    t.window.statusBar()->showMessage("nothing yet"); // a text that stays is not reported
     const Witness witness(t);
     bool inDialog = true;
     t.answers.expect<BackgroundDialog>([&](BackgroundDialog &dialog) {
         inDialog = pointerWaits();
         part<QRadioButton>(dialog, "transparentradioButton").click();
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.trigger("actionSelect_Background");
     QVERIFY(!inDialog);
@@ -239,7 +239,7 @@ void LongWorkTest::background()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::exporting()
+void TestLongWork::exporting()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -250,7 +250,7 @@ void LongWorkTest::exporting()
     t.answers.expect<ExportDialog>([&](ExportDialog &dialog) {
         inDialog = pointerWaits();
         pressDots(dialog);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file("out.jpg"));
     t.trigger("actionExport");
@@ -260,7 +260,7 @@ void LongWorkTest::exporting()
     QVERIFY(!witness.fileWasThere);
 }
 
-void LongWorkTest::exportWithALostTransparency()
+void TestLongWork::exportWithALostTransparency()
 {
     WindowUnderTest t;
     openAndMark(t);
@@ -269,7 +269,7 @@ void LongWorkTest::exportWithALostTransparency()
     bool inWarning = true;
     t.answers.expect<ExportDialog>([](ExportDialog &dialog) {
         pressDots(dialog);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file("out.jpg"));
     t.answers.expect<QMessageBox>([&](QMessageBox &box) {
@@ -281,7 +281,7 @@ void LongWorkTest::exportWithALostTransparency()
     QVERIFY(!inWarning);
 }
 
-void LongWorkTest::saving()
+void TestLongWork::saving()
 {
     WindowUnderTest t;
     QVERIFY(QFile::copy(file("photo.png"), file("mine.png")));
@@ -300,7 +300,7 @@ void LongWorkTest::saving()
     QCOMPARE(witness.free, 0);
 }
 
-void LongWorkTest::savingAs()
+void TestLongWork::savingAs()
 {
     WindowUnderTest t;
     t.openPicture(file("photo.png"));
@@ -315,7 +315,7 @@ void LongWorkTest::savingAs()
 }
 
 /// Memory may be short at any moment of the work.
-void LongWorkTest::exceptions()
+void TestLongWork::exceptions()
 {
     WindowUnderTest t;
     try {
@@ -329,5 +329,5 @@ void LongWorkTest::exceptions()
     QVERIFY(!t.progressBar().isVisible());
 }
 
-ORNEVO_TEST_MAIN(LongWorkTest)
+ORNEVO_TEST_MAIN(TestLongWork)
 #include "tst_longwork.moc"

@@ -136,7 +136,7 @@ QString plainText(const QString &toolTip)
 
 } // namespace
 
-class MainWindowTest : public QObject
+class TestMainWindow : public QObject
 {
     Q_OBJECT
 
@@ -174,7 +174,7 @@ private slots:
     void hintCanBeRead();
 };
 
-void MainWindowTest::startsWithoutAWarning()
+void TestMainWindow::startsWithoutAWarning()
 {
     MessageLog log;
     {
@@ -190,14 +190,14 @@ void MainWindowTest::startsWithoutAWarning()
     QCOMPARE(ours, QStringList());
 }
 
-void MainWindowTest::actions_data()
+void TestMainWindow::actions_data()
 {
     QTest::addColumn<int>("row");
     for (int row = 0; row < int(std::size(actionRows)); ++row)
         QTest::newRow(actionRows[row].name) << row;
 }
 
-void MainWindowTest::actions()
+void TestMainWindow::actions()
 {
     QFETCH(int, row);
     const ActionRow &expected = actionRows[row];
@@ -235,7 +235,7 @@ void MainWindowTest::actions()
         QVERIFY(!action->isIconVisibleInMenu());
 }
 
-void MainWindowTest::actionsAreMadeInOrder()
+void TestMainWindow::actionsAreMadeInOrder()
 {
     MainWindow window;
     QStringList made;
@@ -249,7 +249,7 @@ void MainWindowTest::actionsAreMadeInOrder()
     QCOMPARE(made, expected);
 }
 
-void MainWindowTest::toolBarHoldsNothingElse()
+void TestMainWindow::toolBarHoldsNothingElse()
 {
     MainWindow window;
     const auto *toolBar = window.findChild<QToolBar *>("mainToolBar");
@@ -258,7 +258,7 @@ void MainWindowTest::toolBarHoldsNothingElse()
     QCOMPARE(toolBar->actions().size(), 16);
 }
 
-void MainWindowTest::menusHoldNothingElse()
+void TestMainWindow::menusHoldNothingElse()
 {
     MainWindow window;
     QStringList menus;
@@ -272,7 +272,7 @@ void MainWindowTest::menusHoldNothingElse()
     QCOMPARE(window.findChild<QMenu *>("menuHelp")->actions().size(), 3);
 }
 
-void MainWindowTest::undoActionComesLast()
+void TestMainWindow::undoActionComesLast()
 {
     WindowUnderTest t;
     QAction *undo = t.window.findChild<QMenu *>("menuActions")->actions().last();
@@ -286,7 +286,7 @@ void MainWindowTest::undoActionComesLast()
     QCOMPARE(t.probe.undoStack().index(), 0);
 }
 
-void MainWindowTest::redoWorksByItsKey()
+void TestMainWindow::redoWorksByItsKey()
 {
     WindowUnderTest t;
     t.probe.undoStack().push(new QUndoCommand);
@@ -296,7 +296,7 @@ void MainWindowTest::redoWorksByItsKey()
     QTRY_COMPARE(t.probe.undoStack().index(), 1);
 }
 
-void MainWindowTest::toolTips_data()
+void TestMainWindow::toolTips_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("actionKeep_arker") << "\"Keep\" Marker\nUsed to mark the areas of image you want to keep.";
@@ -321,7 +321,7 @@ void MainWindowTest::toolTips_data()
            "product sucks?\nWant to negotiate price?\nTell us about that! Your opinion matters to us.";
 }
 
-void MainWindowTest::toolTips()
+void TestMainWindow::toolTips()
 {
     QFETCH(QString, text);
     MainWindow window;
@@ -329,7 +329,7 @@ void MainWindowTest::toolTips()
     QCOMPARE(plainText(toolTip), text);
 }
 
-void MainWindowTest::slotsStandInOrder()
+void TestMainWindow::slotsStandInOrder()
 {
     const QMetaObject &meta = MainWindow::staticMetaObject;
     int index = meta.methodOffset();
@@ -344,7 +344,7 @@ void MainWindowTest::slotsStandInOrder()
     QCOMPARE(meta.methodCount(), index + 1);
 }
 
-void MainWindowTest::actionGroups()
+void TestMainWindow::actionGroups()
 {
     MainWindow window;
     QList<QStringList> groups;
@@ -360,7 +360,7 @@ void MainWindowTest::actionGroups()
                           {"actionForeground_Brush", "actionBackground_Brush", "actionHandTool"}}));
 }
 
-void MainWindowTest::windowAndItsParts()
+void TestMainWindow::windowAndItsParts()
 {
     MainWindow window;
     QCOMPARE(window.objectName(), QString("MainWindow"));
@@ -399,7 +399,7 @@ void MainWindowTest::windowAndItsParts()
     QCOMPARE(window.statusBar()->objectName(), QString("statusBar"));
 }
 
-void MainWindowTest::initialState()
+void TestMainWindow::initialState()
 {
     WindowUnderTest t;
     QCOMPARE(t.status(), QString());
@@ -431,7 +431,7 @@ void MainWindowTest::initialState()
     QCOMPARE(t.probe.settings().applicationName(), QString("Ornevo Pro 2.7 for Mac OS X"));
 }
 
-void MainWindowTest::quitGoesThroughTheSignal()
+void TestMainWindow::quitGoesThroughTheSignal()
 {
     WindowUnderTest t;
     QSignalSpy quit(&t.window, &MainWindow::mwquit);
@@ -440,7 +440,7 @@ void MainWindowTest::quitGoesThroughTheSignal()
     QVERIFY(t.window.isVisible());
 }
 
-void MainWindowTest::quitByKey()
+void TestMainWindow::quitByKey()
 {
     WindowUnderTest t;
     QObject::connect(&t.window, SIGNAL(mwquit()), qApp, SLOT(quit()));
@@ -452,10 +452,10 @@ void MainWindowTest::quitByKey()
     QCOMPARE(QApplication::exec(), 0);
 }
 
-void MainWindowTest::toolSlots_data()
+void TestMainWindow::toolSlots_data()
 {
     QTest::addColumn<QString>("signature");
-    // What the tool does on the canvas tells which one it is.
+    // What the tool does on the canvas shows which one it is.
     QTest::newRow("actionEraser") << "erases";
     QTest::newRow("actionKeep_arker") << "rectangle";
     QTest::newRow("action_Remove_Marker") << "ellipse";
@@ -465,7 +465,7 @@ void MainWindowTest::toolSlots_data()
     QTest::newRow("actionBlueMarker") << "blue";
 }
 
-void MainWindowTest::toolSlots()
+void TestMainWindow::toolSlots()
 {
     QFETCH(QString, signature);
     WindowUnderTest t;
@@ -504,7 +504,7 @@ void MainWindowTest::toolSlots()
     t.view.setScene(nullptr);
 }
 
-void MainWindowTest::uncheckingLeavesTheTool()
+void TestMainWindow::uncheckingLeavesTheTool()
 {
     WindowUnderTest t;
     t.trigger("actionKeep_arker");
@@ -521,7 +521,7 @@ void MainWindowTest::uncheckingLeavesTheTool()
     QCOMPARE(t.view.viewport()->cursor().shape(), pencil.shape());
 }
 
-void MainWindowTest::groupsAreSeparate()
+void TestMainWindow::groupsAreSeparate()
 {
     WindowUnderTest t;
     for (const char *name : {"actionForeground_Brush", "actionHandTool"})
@@ -538,7 +538,7 @@ void MainWindowTest::groupsAreSeparate()
     QVERIFY(t.action("actionHandTool").isChecked());
 }
 
-void MainWindowTest::emptySlots()
+void TestMainWindow::emptySlots()
 {
     WindowUnderTest t;
     t.trigger("actionFinematt");
@@ -552,7 +552,7 @@ void MainWindowTest::emptySlots()
     QCOMPARE(t.probe.undoStack().count(), 0);
 }
 
-void MainWindowTest::hiddenActionsAreBound()
+void TestMainWindow::hiddenActionsAreBound()
 {
     WindowUnderTest t;
     t.answers.cancelFile();
@@ -566,7 +566,7 @@ void MainWindowTest::hiddenActionsAreBound()
     QVERIFY2(t.answers.allGiven(), qPrintable(t.answers.report()));
 }
 
-void MainWindowTest::backgroundEraserDoesNothing()
+void TestMainWindow::backgroundEraserDoesNothing()
 {
     WindowUnderTest t;
     t.trigger("actionKeep_arker");
@@ -577,7 +577,7 @@ void MainWindowTest::backgroundEraserDoesNothing()
     QCOMPARE(t.statusTexts, QStringList());
 }
 
-void MainWindowTest::undoLimit()
+void TestMainWindow::undoLimit()
 {
     WindowUnderTest t;
     QCOMPARE(t.probe.undoStack().undoLimit(), 200);
@@ -586,7 +586,7 @@ void MainWindowTest::undoLimit()
     QCOMPARE(t.probe.undoStack().count(), 200);
 }
 
-void MainWindowTest::undoFromTheMenu()
+void TestMainWindow::undoFromTheMenu()
 {
     WindowUnderTest t;
     QGraphicsScene scene(0, 0, 100, 100);
@@ -601,7 +601,7 @@ void MainWindowTest::undoFromTheMenu()
     t.view.setScene(nullptr);
 }
 
-void MainWindowTest::canvasGetsItsSettings()
+void TestMainWindow::canvasGetsItsSettings()
 {
     QSettings().setValue("KEEPMSIZE", 17);
     WindowUnderTest t;
@@ -616,7 +616,7 @@ void MainWindowTest::canvasGetsItsSettings()
     t.view.setScene(nullptr);
 }
 
-void MainWindowTest::dialogsTakeTheIcon()
+void TestMainWindow::dialogsTakeTheIcon()
 {
     const MainWindow window;
     QSettings settings;
@@ -631,7 +631,7 @@ void MainWindowTest::dialogsTakeTheIcon()
         QCOMPARE(dialog->windowIcon().pixmap(32).toImage(), icon);
 }
 
-void MainWindowTest::hintUntilAPhotoIsOpen()
+void TestMainWindow::hintUntilAPhotoIsOpen()
 {
     QTemporaryDir folder;
     QVERIFY(testpictures::blobImage(40, 30, 4).save(folder.filePath("photo.png")));
@@ -658,7 +658,7 @@ void MainWindowTest::hintUntilAPhotoIsOpen()
     QVERIFY(!hint.isVisible()); // by now it is known
 }
 
-void MainWindowTest::hintCanBeRead_data()
+void TestMainWindow::hintCanBeRead_data()
 {
     QTest::addColumn<bool>("dark");
     QTest::addColumn<bool>("preview");
@@ -668,7 +668,7 @@ void MainWindowTest::hintCanBeRead_data()
     QTest::newRow("dark, preview of nothing") << true << true;
 }
 
-void MainWindowTest::hintCanBeRead()
+void TestMainWindow::hintCanBeRead()
 {
     QFETCH(bool, dark);
     QFETCH(bool, preview);
@@ -690,5 +690,5 @@ void MainWindowTest::hintCanBeRead()
     QApplication::setPalette(before);
 }
 
-ORNEVO_TEST_MAIN(MainWindowTest)
+ORNEVO_TEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

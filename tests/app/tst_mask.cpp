@@ -40,7 +40,7 @@ QList<reference::Marker> markersOn(const QGraphicsScene &scene)
 
 } // namespace
 
-class MaskTest : public QObject
+class TestMask : public QObject
 {
     Q_OBJECT
 
@@ -86,12 +86,12 @@ private:
     QImage m_picture = testpictures::blobImage(width, height, 3);
 };
 
-void MaskTest::initTestCase()
+void TestMask::initTestCase()
 {
     QVERIFY(m_picture.save(file()));
 }
 
-void MaskTest::overlayOfPaintedMarkers()
+void TestMask::overlayOfPaintedMarkers()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -119,7 +119,7 @@ void MaskTest::overlayOfPaintedMarkers()
     QCOMPARE(overlay->opacity(), double(0.6F));
 }
 
-void MaskTest::statusTextsAndProgress()
+void TestMask::statusTextsAndProgress()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -135,7 +135,7 @@ void MaskTest::statusTextsAndProgress()
     QCOMPARE(t.statusTexts, QStringList({"Isolating object"})); // the caller replaces it
 }
 
-void MaskTest::diagnostics()
+void TestMask::diagnostics()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -150,7 +150,7 @@ void MaskTest::diagnostics()
                                        QString("outmask size after watd is %1").arg(count)}));
 }
 
-void MaskTest::orderOnTheScene()
+void TestMask::orderOnTheScene()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -166,7 +166,7 @@ void MaskTest::orderOnTheScene()
     QCOMPARE(items[3]->zValue(), 0.0);
 }
 
-void MaskTest::twiceGivesOneOverlay()
+void TestMask::twiceGivesOneOverlay()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -179,7 +179,7 @@ void MaskTest::twiceGivesOneOverlay()
     }
 }
 
-void MaskTest::leavesTheZoomAlone()
+void TestMask::leavesTheZoomAlone()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -187,17 +187,17 @@ void MaskTest::leavesTheZoomAlone()
     t.dab("action_Remove_Marker", 50, 20);
     for (int i = 0; i < 8; ++i)
         t.trigger("actionZoom_In");
-    driver::settle();
+    testsupport::settle();
     const QTransform zoom = t.view.transform();
     // The progress bar comes and goes with every mask; the canvas must not give way to it.
     for (int i = 0; i < 3; ++i) {
         t.trigger("actionMask");
-        driver::settle();
+        testsupport::settle();
         QCOMPARE(t.view.transform(), zoom);
     }
 }
 
-void MaskTest::opacityComesFromTheSettings()
+void TestMask::opacityComesFromTheSettings()
 {
     QSettings().setValue("MOPACITY", "0");
     WindowUnderTest t;
@@ -214,7 +214,7 @@ void MaskTest::opacityComesFromTheSettings()
     QCOMPARE(t.probe.maskItem()->opacity(), 0.25);
 }
 
-void MaskTest::withoutAPicture()
+void TestMask::withoutAPicture()
 {
     WindowUnderTest t;
     MessageLog log;
@@ -229,7 +229,7 @@ void MaskTest::withoutAPicture()
     QCOMPARE(t.probe.imageScene().items().size(), 1);
 }
 
-void MaskTest::withoutAPictureTheOldResultStays()
+void TestMask::withoutAPictureTheOldResultStays()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -245,7 +245,7 @@ void MaskTest::withoutAPictureTheOldResultStays()
     QCOMPARE(t.probe.maskItem(), nullptr);
 }
 
-void MaskTest::withoutSeeds()
+void TestMask::withoutSeeds()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -260,7 +260,7 @@ void MaskTest::withoutSeeds()
     QCOMPARE(t.probe.outmask(), expected(t));
 }
 
-void MaskTest::everyRectangleKeeps_data()
+void TestMask::everyRectangleKeeps_data()
 {
     QTest::addColumn<QColor>("pen");
     QTest::newRow("green") << QColor(50, 255, 50);
@@ -271,7 +271,7 @@ void MaskTest::everyRectangleKeeps_data()
     QTest::newRow("transparent") << QColor(0, 0, 0, 0);
 }
 
-void MaskTest::everyRectangleKeeps()
+void TestMask::everyRectangleKeeps()
 {
     QFETCH(QColor, pen);
     WindowUnderTest t;
@@ -290,7 +290,7 @@ void MaskTest::everyRectangleKeeps()
     QCOMPARE(t.probe.outmask(), expected(t));
 }
 
-void MaskTest::onlyTheRectangleOfAnItemCounts()
+void TestMask::onlyTheRectangleOfAnItemCounts()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -312,7 +312,7 @@ void MaskTest::onlyTheRectangleOfAnItemCounts()
     QCOMPARE(moved, plain);
 }
 
-void MaskTest::heightIsNotRead()
+void TestMask::heightIsNotRead()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -323,7 +323,7 @@ void MaskTest::heightIsNotRead()
     keep->setRect(20, 20, 10, 1);
     t.trigger("actionMask");
     QCOMPARE(t.probe.outmask(), square);
-    keep->setRect(20.9, 20.9, 10.9, 40); // cut to whole numbers
+    keep->setRect(20.9, 20.9, 10.9, 40); // truncated to whole numbers
     t.trigger("actionMask");
     QCOMPARE(t.probe.outmask(), square);
     keep->setRect(20, 20, 11, 10);
@@ -331,7 +331,7 @@ void MaskTest::heightIsNotRead()
     QCOMPARE(t.probe.outmask(), expected(t));
 }
 
-void MaskTest::blueIsIgnored_data()
+void TestMask::blueIsIgnored_data()
 {
     QTest::addColumn<QColor>("pen");
     QTest::addColumn<bool>("counts");
@@ -343,7 +343,7 @@ void MaskTest::blueIsIgnored_data()
     QTest::newRow("default pen") << QPen().color() << true;
 }
 
-void MaskTest::blueIsIgnored()
+void TestMask::blueIsIgnored()
 {
     QFETCH(QColor, pen);
     QFETCH(bool, counts);
@@ -360,7 +360,7 @@ void MaskTest::blueIsIgnored()
     delete disc;
 }
 
-void MaskTest::otherItemsAreIgnored()
+void TestMask::otherItemsAreIgnored()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -376,7 +376,7 @@ void MaskTest::otherItemsAreIgnored()
     QCOMPARE(t.probe.outmask(), without);
 }
 
-void MaskTest::squaresAtTheEdges_data()
+void TestMask::squaresAtTheEdges_data()
 {
     QTest::addColumn<QRectF>("rect");
     QTest::newRow("past the right edge") << QRectF(width - 4, 20, 10, 10);
@@ -395,7 +395,7 @@ void MaskTest::squaresAtTheEdges_data()
     QTest::newRow("larger than the picture") << QRectF(0, 0, 255, 255);
 }
 
-void MaskTest::squaresAtTheEdges()
+void TestMask::squaresAtTheEdges()
 {
     QFETCH(QRectF, rect);
     for (const bool keep : {true, false}) {
@@ -414,7 +414,7 @@ void MaskTest::squaresAtTheEdges()
     }
 }
 
-void MaskTest::undoAndEraserTakeSeedsAway()
+void TestMask::undoAndEraserTakeSeedsAway()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -435,7 +435,7 @@ void MaskTest::undoAndEraserTakeSeedsAway()
     QCOMPARE(t.probe.outmask(), one);
 }
 
-void MaskTest::previewDropsTheOverlay()
+void TestMask::previewDropsTheOverlay()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -448,7 +448,7 @@ void MaskTest::previewDropsTheOverlay()
     QCOMPARE(t.probe.imageScene().items().size(), 3);
 }
 
-void MaskTest::overlayMayBeGone()
+void TestMask::overlayMayBeGone()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -462,5 +462,5 @@ void MaskTest::overlayMayBeGone()
     QCOMPARE(t.probe.imageScene().items().size(), 1);
 }
 
-ORNEVO_TEST_MAIN(MaskTest)
+ORNEVO_TEST_MAIN(TestMask)
 #include "tst_mask.moc"

@@ -42,7 +42,7 @@ bool sameEdges(MainWindowProbe &probe, const QImage &picture)
 
 } // namespace
 
-class OpeningTest : public QObject
+class TestOpening : public QObject
 {
     Q_OBJECT
 
@@ -81,7 +81,7 @@ private:
     QImage m_other = testpictures::blobImage(40, 70, 2);
 };
 
-void OpeningTest::initTestCase()
+void TestOpening::initTestCase()
 {
     QVERIFY(m_folder.isValid());
     QVERIFY(m_picture.save(file("first.png")));
@@ -96,12 +96,12 @@ void OpeningTest::initTestCase()
     QVERIFY(empty.open(QIODevice::WriteOnly));
     QFile whole(file("first.png"));
     QVERIFY(whole.open(QIODevice::ReadOnly));
-    QFile cut(file("cut.png"));
-    QVERIFY(cut.open(QIODevice::WriteOnly));
-    cut.write(whole.readAll().left(20));
+    QFile truncated(file("truncated.png"));
+    QVERIFY(truncated.open(QIODevice::WriteOnly));
+    truncated.write(whole.readAll().left(20));
 }
 
-void OpeningTest::dialogAsksAsItShould()
+void TestOpening::dialogAsksAsItShould()
 {
     WindowUnderTest t;
     QString caption;
@@ -120,7 +120,7 @@ void OpeningTest::dialogAsksAsItShould()
     QCOMPARE(parent, &t.window);
 }
 
-void OpeningTest::dialogStartsWhereTheLastPictureWas()
+void TestOpening::dialogStartsWhereTheLastPictureWas()
 {
     WindowUnderTest t;
     QString directory;
@@ -134,7 +134,7 @@ void OpeningTest::dialogStartsWhereTheLastPictureWas()
     QCOMPARE(QDir(directory), QDir(QFileInfo(m_folder.path()).canonicalFilePath()));
 }
 
-void OpeningTest::cancelledDialog()
+void TestOpening::cancelledDialog()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
@@ -159,7 +159,7 @@ void OpeningTest::cancelledDialog()
     QCOMPARE(t.probe.imageScene().items().size(), 1);
 }
 
-void OpeningTest::pictureComesUp()
+void TestOpening::pictureComesUp()
 {
     WindowUnderTest t;
     t.probe.isOriginalFile() = false;
@@ -187,7 +187,7 @@ void OpeningTest::pictureComesUp()
     QCOMPARE(t.probe.previewScene().items().size(), 0);
 }
 
-void OpeningTest::statusAndProgress()
+void TestOpening::statusAndProgress()
 {
     WindowUnderTest t;
     VisibilityLog log;
@@ -197,11 +197,11 @@ void OpeningTest::statusAndProgress()
     QCOMPARE(log.events, QStringList({"show", "hide"}));
     QVERIFY(t.progressBar().isHidden());
     QCOMPARE(t.progressBar().value(), 0);
-    driver::settle();
+    testsupport::settle();
     QCOMPARE(t.status(), QString("Ready")); // stays
 }
 
-void OpeningTest::fitsTheView()
+void TestOpening::fitsTheView()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
@@ -214,7 +214,7 @@ void OpeningTest::fitsTheView()
     QVERIFY(shown.m11() > 1.0);
 }
 
-void OpeningTest::titleIsTheFileName()
+void TestOpening::titleIsTheFileName()
 {
     WindowUnderTest t;
     QCOMPARE(t.window.windowTitle(), QString("Ornevo Pro"));
@@ -222,7 +222,7 @@ void OpeningTest::titleIsTheFileName()
     QCOMPARE(t.window.windowTitle(), QString("Ornevo Pro - a picture, v. 2.png"));
 }
 
-void OpeningTest::alphaIsDropped()
+void TestOpening::alphaIsDropped()
 {
     const QImage translucent = testpictures::randomArgbImage(31, 17, 5);
     QVERIFY(translucent.save(file("translucent.png")));
@@ -236,7 +236,7 @@ void OpeningTest::alphaIsDropped()
     QVERIFY(sameEdges(t.probe, t.probe.workingImage()));
 }
 
-void OpeningTest::formatByContents()
+void TestOpening::formatByContents()
 {
     WindowUnderTest t;
     t.openPicture(file("disguised.jpg"));
@@ -244,7 +244,7 @@ void OpeningTest::formatByContents()
     QCOMPARE(t.probe.workingImage(), m_picture);
 }
 
-void OpeningTest::directoryIsCanonical()
+void TestOpening::directoryIsCanonical()
 {
     QVERIFY(QFile::link(file("deep/er"), file("shortcut")));
     WindowUnderTest t;
@@ -253,15 +253,15 @@ void OpeningTest::directoryIsCanonical()
     QCOMPARE(QSettings().value("CurrDir").toString(), QFileInfo(file("deep/er")).canonicalFilePath());
 }
 
-void OpeningTest::unreadableFile_data()
+void TestOpening::unreadableFile_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("text") << "notes.txt";
     QTest::newRow("empty") << "empty.png";
-    QTest::newRow("cut off") << "cut.png";
+    QTest::newRow("truncated") << "truncated.png";
 }
 
-void OpeningTest::unreadableFile()
+void TestOpening::unreadableFile()
 {
     QFETCH(QString, name);
     WindowUnderTest t;
@@ -275,7 +275,7 @@ void OpeningTest::unreadableFile()
     QCOMPARE(t.probe.currentFile(), file(name));
 }
 
-void OpeningTest::unreadableFileAtFirst()
+void TestOpening::unreadableFileAtFirst()
 {
     WindowUnderTest t;
     t.answers.chooseFile(file("notes.txt"),
@@ -293,7 +293,7 @@ void OpeningTest::unreadableFileAtFirst()
     t.window.colorsobel();
 }
 
-void OpeningTest::failureLeavesAPartialState()
+void TestOpening::failureLeavesAPartialState()
 {
     WindowUnderTest t;
     t.openPicture(file("deep/er/a picture, v. 2.png"));
@@ -303,7 +303,8 @@ void OpeningTest::failureLeavesAPartialState()
     t.action("actionPreview").setChecked(true);
     t.probe.previewOffset() = QPoint(5, 6);
     t.probe.isOriginalFile() = false;
-    driver::settle(); // the progress bar came and went, and the view is resized when events are processed
+    testsupport::settle(); // the progress bar came and went, and the view is resized when events are
+                           // processed
     const QTransform zoom = t.view.transform();
     t.statusTexts.clear();
     t.answers.chooseFile(file("notes.txt"),
@@ -336,7 +337,7 @@ void OpeningTest::failureLeavesAPartialState()
     QCOMPARE(t.view.transform(), zoom);
 }
 
-void OpeningTest::secondPictureReplacesTheFirst()
+void TestOpening::secondPictureReplacesTheFirst()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
@@ -354,10 +355,10 @@ void OpeningTest::secondPictureReplacesTheFirst()
     QCOMPARE(t.probe.maskItem(), nullptr);
     QCOMPARE(t.probe.undoStack().count(), 0);
     QCOMPARE(t.window.windowTitle(), QString("Ornevo Pro - second.png"));
-    QVERIFY(t.action("action_Remove_Marker").isChecked()); // the tool in hand stays
+    QVERIFY(t.action("action_Remove_Marker").isChecked()); // the chosen tool stays
 }
 
-void OpeningTest::secondPictureWhilePreviewing()
+void TestOpening::secondPictureWhilePreviewing()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
@@ -382,7 +383,7 @@ void OpeningTest::secondPictureWhilePreviewing()
     QVERIFY(!t.action("action_Remove_Marker").isChecked());
 }
 
-void OpeningTest::backgroundChoiceStays()
+void TestOpening::backgroundChoiceStays()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
@@ -393,7 +394,7 @@ void OpeningTest::backgroundChoiceStays()
     QCOMPARE(t.probe.backgroundImage(), m_other);
 }
 
-void OpeningTest::picturesOfManySizes_data()
+void TestOpening::picturesOfManySizes_data()
 {
     QTest::addColumn<QSize>("size");
     for (const QSize size :
@@ -401,7 +402,7 @@ void OpeningTest::picturesOfManySizes_data()
         QTest::addRow("%d x %d", size.width(), size.height()) << size;
 }
 
-void OpeningTest::picturesOfManySizes()
+void TestOpening::picturesOfManySizes()
 {
     QFETCH(QSize, size);
     const QImage picture = testpictures::randomImage(size.width(), size.height(), 9);
@@ -416,14 +417,14 @@ void OpeningTest::picturesOfManySizes()
     QCOMPARE(t.probe.previewImage().size(), size);
 }
 
-void OpeningTest::openingWhileTheCircleIsShown_data()
+void TestOpening::openingWhileTheCircleIsShown_data()
 {
     QTest::addColumn<QString>("next");
     for (const char *next : {"move", "leave", "another tool", "grow", "preview", "mask"})
         QTest::newRow(next) << next;
 }
 
-void OpeningTest::openingWhileTheCircleIsShown()
+void TestOpening::openingWhileTheCircleIsShown()
 {
     QFETCH(QString, next);
     WindowUnderTest t;
@@ -452,7 +453,7 @@ void OpeningTest::openingWhileTheCircleIsShown()
     QCOMPARE(t.probe.imageScene().items().size(), next == "mask" ? 2 : 1); // the circle went with its tool
 }
 
-void OpeningTest::openingMidStroke()
+void TestOpening::openingMidStroke()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
@@ -475,7 +476,7 @@ void OpeningTest::openingMidStroke()
     QCOMPARE(t.probe.imageScene().items().size(), 1);
 }
 
-void OpeningTest::openWithoutTheDialog()
+void TestOpening::openWithoutTheDialog()
 {
     WindowUnderTest t;
     t.openPicture(file("first.png"));
@@ -490,5 +491,5 @@ void OpeningTest::openWithoutTheDialog()
     QCOMPARE(t.probe.workingImage(), m_other);
 }
 
-ORNEVO_TEST_MAIN(OpeningTest)
+ORNEVO_TEST_MAIN(TestOpening)
 #include "tst_opening.moc"

@@ -10,7 +10,6 @@
 #include "tests/support/WindowDriver.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QGraphicsEllipseItem>
 #include <QGridLayout>
@@ -18,9 +17,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+using testsupport::action;
 using testsupport::part;
-
-using driver::action;
 
 class TestOptionsDialog : public QObject
 {
@@ -56,18 +54,6 @@ namespace {
 QSpinBox *spin(const QWidget &dialog, const char *name)
 {
     return &part<QSpinBox>(dialog, name);
-}
-
-void pressOk(const QWidget &dialog)
-{
-    QTest::mouseClick(part<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Ok),
-                      Qt::LeftButton);
-}
-
-void pressCancel(const QWidget &dialog)
-{
-    QTest::mouseClick(part<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Cancel),
-                      Qt::LeftButton);
 }
 
 const QList<std::pair<const char *, const char *>> sizes{
@@ -199,7 +185,7 @@ void TestOptionsDialog::valuesOutOfRange()
     settings.setValue("GOUSSIZE", 2147483647);
     OptionsDialog dialog(&settings, nullptr);
     dialog.show();
-    pressOk(dialog);
+    testsupport::press(dialog, QDialogButtonBox::Ok);
     QCOMPARE(settings.value("KEEPMSIZE").toInt(), 99);
     QCOMPARE(settings.value("REMOVEMSIZE").toInt(), 0);
     QCOMPARE(settings.value("KEEPBSIZE").toInt(), 0);
@@ -254,7 +240,7 @@ void TestOptionsDialog::okWritesEverything()
     QTest::mouseClick(&part<QCheckBox>(dialog, "checkBoxSmooth"), Qt::LeftButton, {}, QPoint(8, 8));
     spin(dialog, "spinBox_9")->setValue(11);
     QVERIFY(settings.allKeys().isEmpty()); // nothing before OK
-    pressOk(dialog);
+    testsupport::press(dialog, QDialogButtonBox::Ok);
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int{QDialog::Accepted});
     value = 31;
@@ -292,7 +278,7 @@ void TestOptionsDialog::cancelWritesNothing()
         if (escape)
             QTest::keyClick(&dialog, Qt::Key_Escape);
         else
-            pressCancel(dialog);
+            testsupport::press(dialog, QDialogButtonBox::Cancel);
         QVERIFY(!dialog.isVisible());
         QCOMPARE(dialog.result(), int{QDialog::Rejected});
         QCOMPARE(settings.allKeys(), QStringList{"KEEPMSIZE"});
@@ -328,7 +314,7 @@ void TestOptionsDialog::sameSizeKeepsOwnSizes()
     OptionsDialog dialog(&settings, nullptr);
     dialog.show();
     part<QCheckBox>(dialog, "checkBox").click();
-    pressOk(dialog);
+    testsupport::press(dialog, QDialogButtonBox::Ok);
     QCOMPARE(settings.value("SAMESIZECHECKED").toBool(), true);
     QCOMPARE(settings.value("REMOVEMSIZE").toInt(), 33);
     QCOMPARE(settings.value("BLUEMSIZE").toInt(), 44);
@@ -377,12 +363,13 @@ void TestOptionsDialog::windowFollowsOk()
 {
     MainWindow window;
     MainWindowProbe probe(window);
-    driver::show(window);
-    driver::DialogAnswers answers([](QWidget *dialog) {
-        QVERIFY(dialog->parentWidget() == nullptr);
-        spin(*dialog, "spinBox")->setValue(23);
-        spin(*dialog, "spinBox_9")->setValue(13);
-        pressOk(*dialog);
+    testsupport::show(window);
+    testsupport::DialogAnswers answers;
+    answers.expect<OptionsDialog>([](OptionsDialog &dialog) {
+        QVERIFY(dialog.parentWidget() == nullptr);
+        spin(dialog, "spinBox")->setValue(23);
+        spin(dialog, "spinBox_9")->setValue(13);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     action(window, "actionPreferences")->trigger();
     QCOMPARE(answers.given(), 1);
@@ -397,12 +384,13 @@ void TestOptionsDialog::windowFollowsCancel()
 {
     MainWindow window;
     MainWindowProbe probe(window);
-    driver::show(window);
+    testsupport::show(window);
     probe.settings().setValue("KEEPMSIZE", 64); // behind the window's back
     probe.settings().setValue("SMOOTHEDGESCHECKED", false);
-    driver::DialogAnswers answers([](QWidget *dialog) {
-        spin(*dialog, "spinBox")->setValue(23);
-        pressCancel(*dialog);
+    testsupport::DialogAnswers answers;
+    answers.expect<OptionsDialog>([](OptionsDialog &dialog) {
+        spin(dialog, "spinBox")->setValue(23);
+        testsupport::press(dialog, QDialogButtonBox::Cancel);
     });
     action(window, "actionPreferences")->trigger();
     QCOMPARE(answers.given(), 1);
@@ -419,15 +407,16 @@ void TestOptionsDialog::canvasFollows()
     QVERIFY(photo.save(folder.filePath("photo.png")));
     MainWindow window;
     MainWindowProbe probe(window);
-    driver::show(window);
-    driver::openPhoto(window, folder.filePath("photo.png"));
-    driver::DialogAnswers answers([](QWidget *dialog) {
-        spin(*dialog, "spinBox_2")->setValue(17);
-        pressOk(*dialog);
+    testsupport::show(window);
+    testsupport::openPhoto(window, folder.filePath("photo.png"));
+    testsupport::DialogAnswers answers;
+    answers.expect<OptionsDialog>([](OptionsDialog &dialog) {
+        spin(dialog, "spinBox_2")->setValue(17);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     action(window, "actionPreferences")->trigger();
     action(window, "action_Remove_Marker")->trigger();
-    driver::stroke(*driver::canvas(window), {{45, 40}});
+    testsupport::CanvasMouse(*testsupport::canvas(window)).draw({{45, 40}});
     QGraphicsItem *dab = probe.imageScene().items().first();
     QCOMPARE(qgraphicsitem_cast<QGraphicsEllipseItem *>(dab)->rect().width(), 17.0);
 }

@@ -26,7 +26,7 @@ QImage argb(const QPixmap &pixmap)
     return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
-QImage chessboard()
+QImage checkerboard()
 {
     return QImage(":/icons/chessbackground.png");
 }
@@ -39,7 +39,7 @@ void markObject(WindowUnderTest &t)
 
 } // namespace
 
-class PreviewTest : public QObject
+class TestPreview : public QObject
 {
     Q_OBJECT
 
@@ -83,12 +83,12 @@ private:
     QImage m_picture = testpictures::blobImage(width, height, 4);
 };
 
-void PreviewTest::initTestCase()
+void TestPreview::initTestCase()
 {
     QVERIFY(m_picture.save(file()));
 }
 
-void PreviewTest::switchesTheTools()
+void TestPreview::switchesTheTools()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -114,7 +114,7 @@ void PreviewTest::switchesTheTools()
     QCOMPARE(t.view.scene(), &t.probe.imageScene());
 }
 
-void PreviewTest::dropsTheToolInHand()
+void TestPreview::dropsTheToolInHand()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -136,12 +136,12 @@ void PreviewTest::dropsTheToolInHand()
         // An exclusive group keeps its last action checked against setChecked(false) only where Qt says so.
         QVERIFY(!t.action(name).isChecked());
     }
-    t.mouse.stroke({t.at(20, 20), t.at(25, 25)}); // no tool is in hand
+    t.mouse.stroke({t.at(20, 20), t.at(25, 25)}); // no tool is chosen
     QCOMPARE(t.probe.undoStack().count(), 0);
     QVERIFY(t.probe.pendingBrushRects().isEmpty());
 }
 
-void PreviewTest::layersOnTheScene()
+void TestPreview::layersOnTheScene()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -159,7 +159,7 @@ void PreviewTest::layersOnTheScene()
     QCOMPARE(t.probe.backgroundItem()->pixmap().size(), QSize(width, height));
 }
 
-void PreviewTest::maskAndCutOut_data()
+void TestPreview::maskAndCutOut_data()
 {
     QTest::addColumn<bool>("smooth");
     QTest::addColumn<QString>("size");
@@ -169,7 +169,7 @@ void PreviewTest::maskAndCutOut_data()
         QTest::newRow(size) << true << size;
 }
 
-void PreviewTest::maskAndCutOut()
+void TestPreview::maskAndCutOut()
 {
     QFETCH(bool, smooth);
     QFETCH(QString, size);
@@ -198,7 +198,7 @@ void PreviewTest::maskAndCutOut()
     }
 }
 
-void PreviewTest::statusTexts()
+void TestPreview::statusTexts()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -218,7 +218,7 @@ void PreviewTest::statusTexts()
     QVERIFY(!t.statusTexts.contains("getting inversed mask"));
 }
 
-void PreviewTest::diagnostics()
+void TestPreview::diagnostics()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -230,7 +230,7 @@ void PreviewTest::diagnostics()
     QCOMPARE(log.taken(), QStringList({QString("outmask size is %1").arg(count)}));
 }
 
-void PreviewTest::greyMaskGivesItsComplement()
+void TestPreview::greyMaskGivesItsComplement()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -253,7 +253,7 @@ void PreviewTest::greyMaskGivesItsComplement()
     QCOMPARE(argb(object), argb(QPixmap::fromImage(t.probe.previewImage())));
 }
 
-void PreviewTest::maskOfAnotherSize()
+void TestPreview::maskOfAnotherSize()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -269,7 +269,7 @@ void PreviewTest::maskOfAnotherSize()
     QCOMPARE(qAlpha(t.probe.previewImage().pixel(0, 0)), 255);
 }
 
-void PreviewTest::existingCutOutIsUsed()
+void TestPreview::existingCutOutIsUsed()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -282,7 +282,7 @@ void PreviewTest::existingCutOutIsUsed()
     QCOMPARE(argb(t.probe.previewItem()->pixmap()), argb(QPixmap::fromImage(drawn)));
 }
 
-void PreviewTest::backgroundLayer_data()
+void TestPreview::backgroundLayer_data()
 {
     QTest::addColumn<uint>("colour");
     QTest::addColumn<QImage>("picture");
@@ -299,25 +299,25 @@ void PreviewTest::backgroundLayer_data()
     QTest::newRow("translucent picture") << 0xFFFFFFFFU << testpictures::randomArgbImage(90, 90, 4);
 }
 
-void PreviewTest::backgroundLayer()
+void TestPreview::backgroundLayer()
 {
     QFETCH(uint, colour);
     QFETCH(QImage, picture);
-    QVERIFY(!chessboard().isNull());
+    QVERIFY(!checkerboard().isNull());
     WindowUnderTest t;
     t.openPicture(file());
     t.trigger("actionPreview");
     t.probe.backgroundColor() = colour;
     t.probe.backgroundImage() = picture;
     t.window.applypreviewmask();
-    const QPixmap expected = reference::backgroundLayer(colour, picture, chessboard(), width, height);
+    const QPixmap expected = reference::backgroundLayer(colour, picture, checkerboard(), width, height);
     QCOMPARE(t.probe.backgroundItem()->pixmap().size(), expected.size());
     QCOMPARE(argb(t.probe.backgroundItem()->pixmap()), argb(expected));
     if (!picture.isNull() && picture.size() != QSize(width, height))
-        QVERIFY(expected.width() < width || expected.height() < height); // a strip stays uncovered
+        QVERIFY(expected.width() < width || expected.height() < height); // a part stays uncovered
 }
 
-void PreviewTest::missingPictureLeavesThePixmaps()
+void TestPreview::missingPictureLeavesThePixmaps()
 {
     WindowUnderTest t;
     QPixmap background(3, 3);
@@ -333,7 +333,7 @@ void PreviewTest::missingPictureLeavesThePixmaps()
     QCOMPARE(t.statusTexts, QStringList());
 }
 
-void PreviewTest::withoutAPicture()
+void TestPreview::withoutAPicture()
 {
     WindowUnderTest t;
     t.trigger("actionPreview");
@@ -354,7 +354,7 @@ void PreviewTest::withoutAPicture()
     QCOMPARE(t.probe.previewScene().items().size(), 2);
 }
 
-void PreviewTest::switchingOffKeepsTheCaches()
+void TestPreview::switchingOffKeepsTheCaches()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -369,7 +369,7 @@ void PreviewTest::switchingOffKeepsTheCaches()
     QCOMPARE(t.probe.previewImage(), cutOut);
 }
 
-void PreviewTest::switchingOnRebuilds()
+void TestPreview::switchingOnRebuilds()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -391,7 +391,7 @@ void PreviewTest::switchingOnRebuilds()
                                reference::maskImage(t.probe.outmask(), width, height, true, 5)));
 }
 
-void PreviewTest::offsetPlacesTheObject()
+void TestPreview::offsetPlacesTheObject()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -412,7 +412,7 @@ void PreviewTest::offsetPlacesTheObject()
     QCOMPARE(t.probe.previewItem()->pos(), QPointF(offset));
 }
 
-void PreviewTest::whatIsSeen()
+void TestPreview::whatIsSeen()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -439,7 +439,7 @@ void PreviewTest::whatIsSeen()
     }
 }
 
-void PreviewTest::rebuildingWhileTheCircleIsShown()
+void TestPreview::rebuildingWhileTheCircleIsShown()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -460,7 +460,7 @@ void PreviewTest::rebuildingWhileTheCircleIsShown()
     }
 }
 
-void PreviewTest::brushBatchAfterThePreviewWent()
+void TestPreview::brushBatchAfterThePreviewWent()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -476,7 +476,7 @@ void PreviewTest::brushBatchAfterThePreviewWent()
     QVERIFY(t.probe.previewImage().isNull());
 }
 
-void PreviewTest::handToolAfterThePreviewWent()
+void TestPreview::handToolAfterThePreviewWent()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -495,7 +495,7 @@ void PreviewTest::handToolAfterThePreviewWent()
     QCOMPARE(t.probe.previewItem()->pos(), QPointF(offset));
 }
 
-void PreviewTest::undoOfBrushAfterRebuilding()
+void TestPreview::undoOfBrushAfterRebuilding()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -532,7 +532,7 @@ void PreviewTest::undoOfBrushAfterRebuilding()
     QCOMPARE(t.view.scene(), &t.probe.imageScene());
 }
 
-void PreviewTest::switchingInAnyOrder()
+void TestPreview::switchingInAnyOrder()
 {
     const QList<const char *> steps{"actionPreview",
                                     "actionMask",
@@ -595,7 +595,7 @@ void PreviewTest::switchingInAnyOrder()
     QCOMPARE(t.probe.workingImage(), m_picture);
 }
 
-void PreviewTest::handIsUnderThePointer_data()
+void TestPreview::handIsUnderThePointer_data()
 {
     QTest::addColumn<int>("zoomSteps");
     QTest::addColumn<QPoint>("step");
@@ -607,7 +607,7 @@ void PreviewTest::handIsUnderThePointer_data()
 }
 
 /// The object goes where the pointer goes; all else stays where it is.
-void PreviewTest::handIsUnderThePointer()
+void TestPreview::handIsUnderThePointer()
 {
     QFETCH(int, zoomSteps);
     QFETCH(QPoint, step);
@@ -668,7 +668,7 @@ bool nothingToScroll(const WindowUnderTest &t)
 
 } // namespace
 
-void PreviewTest::fittedPreviewIsCentred()
+void TestPreview::fittedPreviewIsCentred()
 {
     WindowUnderTest t;
     const QString large = m_folder.filePath("large.png");
@@ -682,14 +682,14 @@ void PreviewTest::fittedPreviewIsCentred()
                  qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
         QVERIFY(nothingToScroll(t));
         QCOMPARE(t.probe.previewScene().sceneRect(), QRectF(t.probe.workingImage().rect()));
-        // What the hand did to one photo is nothing to the next.
+        // What the Hand tool did to one photo is nothing to the next.
         t.trigger("actionHandTool");
         t.mouse.stroke({QPoint(200, 200), QPoint(20, 20)});
         QVERIFY(nothingToScroll(t));
     }
 }
 
-void PreviewTest::windowToHalfAndBack()
+void TestPreview::windowToHalfAndBack()
 {
     WindowUnderTest t;
     t.window.resize(1200, 900);
@@ -723,7 +723,7 @@ void PreviewTest::windowToHalfAndBack()
 }
 
 /// Who looks at a detail goes on doing so in the preview and back.
-void PreviewTest::zoomGoesOnWhereItWas()
+void TestPreview::zoomGoesOnWhereItWas()
 {
     WindowUnderTest t;
     const QString large = m_folder.filePath("large.png");
@@ -752,7 +752,7 @@ void PreviewTest::zoomGoesOnWhereItWas()
     }
 }
 
-void PreviewTest::backgroundZoomFramesTheBackground()
+void TestPreview::backgroundZoomFramesTheBackground()
 {
     WindowUnderTest t;
     t.openPicture(file());
@@ -773,5 +773,5 @@ void PreviewTest::backgroundZoomFramesTheBackground()
     QCOMPARE(t.probe.previewScene().sceneRect(), photo);
 }
 
-ORNEVO_TEST_MAIN(PreviewTest)
+ORNEVO_TEST_MAIN(TestPreview)
 #include "tst_preview.moc"

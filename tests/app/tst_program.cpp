@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/Files.h"
 #include "tests/support/TestMain.h"
 
 #include <QDirIterator>
 #include <QProcess>
+
+using testsupport::contentsOf;
 
 namespace {
 
@@ -21,12 +24,6 @@ QStringList filesBelow(const QString &folder)
     files.removeIf(
         [](const QString &file) { return file.startsWith(".cache/"); }); // the fonts', of the system's
     return files;
-}
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// How a run of the program ended.
@@ -83,9 +80,9 @@ private slots:
     {
         const QString settings = m_home->filePath(".config/" + settingsName());
         QCOMPARE(start("Ctrl+Right Ctrl+Q").code, 0);
-        QVERIFY2(contents(settings).contains("KEEPMSIZE=11\n"), contents(settings));
+        QVERIFY2(contentsOf(settings).contains("KEEPMSIZE=11\n"), contentsOf(settings));
         QCOMPARE(start("Ctrl+Right Ctrl+Right Ctrl+Q").code, 0);
-        QVERIFY2(contents(settings).contains("KEEPMSIZE=13\n"), contents(settings));
+        QVERIFY2(contentsOf(settings).contains("KEEPMSIZE=13\n"), contentsOf(settings));
     }
 
 private:
@@ -113,7 +110,7 @@ private:
         }
         run.how = program.exitStatus();
         run.code = program.exitCode();
-        run.called = contents(outside.filePath("names"));
+        run.called = contentsOf(outside.filePath("names"));
         return run;
     }
 

@@ -34,7 +34,7 @@ private:
 } // namespace
 
 /// The bar moves on the screen during a long step, and does not make it longer.
-class ProgressTest : public QObject
+class TestProgress : public QObject
 {
     Q_OBJECT
 
@@ -83,9 +83,9 @@ private slots:
                 QVERIFY2(before - paintedBefore < pause, qPrintable(QString::number(before - paintedBefore)));
             }
         }
-        QCOMPARE(changes.size(), 100); // whoever listens is told of every one
-        QVERIFY(paintings.values.size() >=
-                3); // at the start, and of the tenth of a second at least that this takes
+        QCOMPARE(changes.size(), 100); // every one is reported to whoever listens
+        // At the start, and of the tenth of a second at least that this takes.
+        QVERIFY(paintings.values.size() >= 3);
         QCOMPARE(QSet<int>(paintings.values.begin(), paintings.values.end()).size(), paintings.values.size());
     }
 
@@ -109,17 +109,17 @@ private slots:
     void barComesAndGoesWithoutMovingTheCanvas()
     {
         WindowUnderTest t;
-        driver::settle();
+        testsupport::settle();
         const QRect canvas = t.view.geometry();
         const int below = t.window.centralWidget()->height() - canvas.bottom();
         QVERIFY2(below <= 14, qPrintable(QString::number(below)));
         {
             const app::ProgressStep step(&t.progressBar());
-            driver::settle();
+            testsupport::settle();
             QCOMPARE(t.view.geometry(), canvas);
             QVERIFY(t.progressBar().height() >= 4); // enough to be seen
         }
-        driver::settle();
+        testsupport::settle();
         QCOMPARE(t.view.geometry(), canvas);
     }
 
@@ -143,5 +143,5 @@ private slots:
     }
 };
 
-ORNEVO_TEST_MAIN(ProgressTest)
+ORNEVO_TEST_MAIN(TestProgress)
 #include "tst_progress.moc"

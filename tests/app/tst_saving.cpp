@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/reference/TestPictures.h"
+#include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/MainWindowProbe.h"
 #include "tests/support/TestMain.h"
@@ -16,8 +17,9 @@
 #include <QPainter>
 #include <QPushButton>
 
-using driver::action;
-using driver::status;
+using testsupport::action;
+using testsupport::contentsOf;
+using testsupport::status;
 
 class TestSaving : public QObject
 {
@@ -49,7 +51,6 @@ private:
     void openPhoto();
     void mark();
     static QImage throughJpeg(const QImage &picture);
-    QByteArray contents(const QString &path);
     int answerQuestion(QMessageBox::StandardButton button);
     int saveAs(const QString &path);
 
@@ -67,7 +68,7 @@ void TestSaving::init()
     QVERIFY(testpictures::blobImage(90, 70, 3).save(photo));
     window = std::make_unique<MainWindow>();
     probe = std::make_unique<MainWindowProbe>(*window);
-    driver::show(*window);
+    testsupport::show(*window);
 }
 
 void TestSaving::cleanup()
@@ -79,15 +80,15 @@ void TestSaving::cleanup()
 
 void TestSaving::openPhoto()
 {
-    driver::openPhoto(*window, photo);
+    testsupport::openPhoto(*window, photo);
 }
 
 void TestSaving::mark()
 {
     action(*window, "actionKeep_arker")->trigger();
-    driver::stroke(*driver::canvas(*window), {{40, 35}, {45, 35}, {50, 35}});
+    testsupport::CanvasMouse(*testsupport::canvas(*window)).draw({{40, 35}, {45, 35}, {50, 35}});
     action(*window, "action_Remove_Marker")->trigger();
-    driver::stroke(*driver::canvas(*window), {{8, 8}, {8, 60}, {80, 60}});
+    testsupport::CanvasMouse(*testsupport::canvas(*window)).draw({{8, 8}, {8, 60}, {80, 60}});
 }
 
 /// What is left of a picture after the way through a file.
@@ -99,32 +100,23 @@ QImage TestSaving::throughJpeg(const QImage &picture)
     return QImage::fromData(buffer.data(), "JPG").convertToFormat(QImage::Format_RGB32);
 }
 
-QByteArray TestSaving::contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// Saves and answers the question; returns how often it was asked.
 int TestSaving::answerQuestion(QMessageBox::StandardButton button)
 {
-    driver::DialogAnswers answers([button](QWidget *dialog) {
-        auto *box = qobject_cast<QMessageBox *>(dialog);
-        QVERIFY(box != nullptr);
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
-    });
+    testsupport::DialogAnswers answers;
+    answers.expect<QMessageBox>(
+        [button](QMessageBox &box) { QTest::mouseClick(box.button(button), Qt::LeftButton); });
     action(*window, "actionSave")->trigger();
     return answers.given();
 }
 
 int TestSaving::saveAs(const QString &path)
 {
-    driver::DialogAnswers answers([path](QWidget *dialog) {
-        if (path.isEmpty())
-            driver::pressEscape(dialog);
-        else
-            driver::typeFileName(dialog, path);
-    });
+    testsupport::DialogAnswers answers;
+    if (path.isEmpty())
+        answers.expect<QFileDialog>(testsupport::pressEscape);
+    else
+        answers.chooseFile(path);
     action(*window, "actionSave_As")->trigger();
     return answers.given();
 }
@@ -132,22 +124,21 @@ int TestSaving::saveAs(const QString &path)
 void TestSaving::question()
 {
     openPhoto();
-    driver::DialogAnswers answers([this](QWidget *dialog) {
-        auto *box = qobject_cast<QMessageBox *>(dialog);
-        QVERIFY(box != nullptr);
-        QCOMPARE(box->windowTitle(), "Save file?");
-        QCOMPARE(box->text(),
+    testsupport::DialogAnswers answers;
+    answers.expect<QMessageBox>([this](QMessageBox &box) {
+        QCOMPARE(box.windowTitle(), "Save file?");
+        QCOMPARE(box.text(),
                  "You are going to overwrite your original file.\nAre you sure you want to continue?");
-        QCOMPARE(box->icon(), QMessageBox::Warning);
-        QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
-        QCOMPARE(box->defaultButton(), qobject_cast<QPushButton *>(box->button(QMessageBox::Yes)));
-        QCOMPARE(box->parentWidget(), window.get());
-        driver::pressEscape(box);
+        QCOMPARE(box.icon(), QMessageBox::Warning);
+        QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(box.defaultButton(), qobject_cast<QPushButton *>(box.button(QMessageBox::Yes)));
+        QCOMPARE(box.parentWidget(), window.get());
+        testsupport::pressEscape(box);
     });
-    const QByteArray before = contents(photo);
+    const QByteArray before = contentsOf(photo);
     action(*window, "actionSave")->trigger();
     QCOMPARE(answers.given(), 1);
-    QCOMPARE(contents(photo), before);
+    QCOMPARE(contentsOf(photo), before);
 }
 
 void TestSaving::noLeavesAllAsItWas_data()
@@ -163,20 +154,21 @@ void TestSaving::noLeavesAllAsItWas()
     openPhoto();
     mark();
     action(*window, "actionMask")->trigger();
-    const QByteArray before = contents(photo);
+    const QByteArray before = contentsOf(photo);
     const QList<QGraphicsItem *> items = probe->imageScene().items();
     const QList<int> outmask = probe->outmask();
     const QString message = status(*window);
     const int entries = probe->undoStack().count();
     QVERIFY(entries > 0);
     if (escape) {
-        driver::DialogAnswers answers([](QWidget *dialog) { driver::pressEscape(dialog); });
+        testsupport::DialogAnswers answers;
+        answers.expect<QMessageBox>(testsupport::pressEscape);
         action(*window, "actionSave")->trigger();
         QCOMPARE(answers.given(), 1);
     } else {
         QCOMPARE(answerQuestion(QMessageBox::No), 1);
     }
-    QCOMPARE(contents(photo), before);
+    QCOMPARE(contentsOf(photo), before);
     QCOMPARE(probe->imageScene().items(), items);
     QCOMPARE(probe->outmask(), outmask);
     QCOMPARE(status(*window), message);
@@ -190,11 +182,12 @@ void TestSaving::yesSavesAndReopens()
     openPhoto();
     mark();
     const QImage before = probe->workingImage().copy();
-    driver::DialogAnswers answers(
-        [](QWidget *dialog) { QTest::keyClick(dialog, Qt::Key_Return); }); // the default
+    testsupport::DialogAnswers answers;
+    answers.expect<QMessageBox>(
+        [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); }); // the default
     action(*window, "actionSave")->trigger();
     QCOMPARE(answers.given(), 1);
-    QVERIFY(contents(photo).startsWith("\xFF\xD8\xFF"));
+    QVERIFY(contentsOf(photo).startsWith("\xFF\xD8\xFF"));
     QCOMPARE(probe->workingImage(), throughJpeg(before)); // what is worked on is what the file holds
     QCOMPARE(probe->imageScene().items().size(), 1);
     QVERIFY(probe->outmask().isEmpty());
@@ -212,11 +205,11 @@ void TestSaving::questionComesAgain()
 void TestSaving::saveAs()
 {
     openPhoto();
-    const QByteArray original = contents(photo);
+    const QByteArray original = contentsOf(photo);
     const QImage before = probe->workingImage().copy();
     const QString copy = folder->filePath("copy.jpg");
     QCOMPARE(saveAs(copy), 1);
-    QCOMPARE(contents(photo), original);
+    QCOMPARE(contentsOf(photo), original);
     QCOMPARE(QImage(copy).convertToFormat(QImage::Format_RGB32), throughJpeg(before));
     QCOMPARE(probe->currentFile(), copy);
     QVERIFY(!probe->isOriginalFile());
@@ -245,15 +238,14 @@ void TestSaving::saveAsCancelled()
 void TestSaving::saveAsStartsInTheLastFolder()
 {
     openPhoto();
-    driver::DialogAnswers answers([this](QWidget *dialog) {
-        auto *chooser = qobject_cast<QFileDialog *>(dialog);
-        QVERIFY(chooser != nullptr);
-        QCOMPARE(chooser->windowTitle(), "Save File");
-        QCOMPARE(chooser->directory().canonicalPath(), QDir(folder->path()).canonicalPath());
-        QCOMPARE(chooser->nameFilters(), QStringList{"JPG Files (*.jpg)"});
-        QCOMPARE(chooser->acceptMode(), QFileDialog::AcceptSave);
-        QCOMPARE(chooser->parentWidget(), window.get());
-        driver::pressEscape(dialog);
+    testsupport::DialogAnswers answers;
+    answers.expect<QFileDialog>([this](QFileDialog &chooser) {
+        QCOMPARE(chooser.windowTitle(), "Save File");
+        QCOMPARE(chooser.directory().canonicalPath(), QDir(folder->path()).canonicalPath());
+        QCOMPARE(chooser.nameFilters(), QStringList{"JPG Files (*.jpg)"});
+        QCOMPARE(chooser.acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(chooser.parentWidget(), window.get());
+        testsupport::pressEscape(chooser);
     });
     action(*window, "actionSave_As")->trigger();
     QCOMPARE(answers.given(), 1);
@@ -314,7 +306,7 @@ void TestSaving::previewIsLeft()
             QCOMPARE(answerQuestion(QMessageBox::Yes), 1);
         QVERIFY(!action(*window, "actionPreview")->isChecked());
         QVERIFY(action(*window, "actionMask")->isEnabled());
-        QCOMPARE(driver::canvas(*window)->scene(), &probe->imageScene());
+        QCOMPARE(testsupport::canvas(*window)->scene(), &probe->imageScene());
     }
     openPhoto();
     action(*window, "actionPreview")->trigger();
@@ -360,13 +352,13 @@ void TestSaving::fullStrength()
 void TestSaving::fullDisk()
 {
     openPhoto();
-    const QByteArray before = contents(photo);
+    const QByteArray before = contentsOf(photo);
     {
-        const FullDisk full(600);
+        const testsupport::FullDisk full(600);
         window->save(photo);
         window->save(folder->filePath("new.jpg"));
     }
-    QCOMPARE(contents(photo), before);
+    QCOMPARE(contentsOf(photo), before);
     QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList{"photo.png"});
 }
 
@@ -383,9 +375,9 @@ void TestSaving::pathsThatTakeNoFile()
 {
     QFETCH(QString, name);
     openPhoto();
-    const QByteArray before = contents(photo);
+    const QByteArray before = contentsOf(photo);
     window->save(QDir(folder->path()).absoluteFilePath(name));
-    QCOMPARE(contents(photo), before);
+    QCOMPARE(contentsOf(photo), before);
     QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList{"photo.png"});
     QCOMPARE(probe->imageScene().items().size(), 1);
     // The whole way: what could not be written can't be reopened either, and the status bar says so.
@@ -393,7 +385,7 @@ void TestSaving::pathsThatTakeNoFile()
     probe->isOriginalFile() = false;
     action(*window, "actionSave")->trigger();
     QCOMPARE(status(*window), "Failed to read image");
-    QCOMPARE(contents(photo), before);
+    QCOMPARE(contentsOf(photo), before);
 }
 
 void TestSaving::withoutAPhoto()

@@ -55,17 +55,17 @@ QRect stale(QMainWindow &window)
 class Restless
 {
 public:
-    Restless(WindowUnderTest &t, std::uint32_t seed) : m_t(t), m_dice(seed) {}
+    Restless(WindowUnderTest &t, std::uint32_t seed) : m_t(t), m_random(seed) {}
 
     QString act()
     {
-        switch (m_dice.below(9)) {
+        switch (m_random.below(9)) {
         case 0:
             return zoom();
         case 1:
             return scroll();
         case 2:
-            m_t.window.resize(500 + m_dice.below(300), 400 + m_dice.below(200));
+            m_t.window.resize(500 + m_random.below(300), 400 + m_random.below(200));
             return "resize";
         case 3:
             m_t.action("actionPreview").toggle();
@@ -79,14 +79,14 @@ public:
             m_t.probe.undoStack().redo();
             return "redo";
         default:
-            return drag(m_dice.below(2) == 0 ? "actionBackground_Brush" : "actionForeground_Brush");
+            return drag(m_random.below(2) == 0 ? "actionBackground_Brush" : "actionForeground_Brush");
         }
     }
 
 private:
     QString zoom()
     {
-        const double factor = m_dice.below(2) == 0 ? 0.7 : 1.4;
+        const double factor = m_random.below(2) == 0 ? 0.7 : 1.4;
         const double scale = m_t.view.transform().m11() * factor;
         if (scale > 0.1 && scale < 4.0)
             m_t.view.scale(factor, factor);
@@ -96,7 +96,7 @@ private:
     QString scroll()
     {
         for (QScrollBar *bar : {m_t.view.horizontalScrollBar(), m_t.view.verticalScrollBar()})
-            bar->setValue(bar->value() + m_dice.below(121) - 60);
+            bar->setValue(bar->value() + m_random.below(121) - 60);
         return "scroll";
     }
 
@@ -104,23 +104,23 @@ private:
     {
         if (m_t.action("actionPreview").isChecked())
             m_t.action(tool).setChecked(true);
-        QPoint position(m_dice.below(m_t.view.viewport()->width()),
-                        m_dice.below(m_t.view.viewport()->height()));
+        QPoint position(m_random.below(m_t.view.viewport()->width()),
+                        m_random.below(m_t.view.viewport()->height()));
         QList<QPoint> positions{position};
-        for (int i = m_dice.below(9); i >= 0; --i)
-            positions << (position += QPoint(m_dice.below(41) - 20, m_dice.below(41) - 20));
+        for (int i = m_random.below(9); i >= 0; --i)
+            positions << (position += QPoint(m_random.below(41) - 20, m_random.below(41) - 20));
         m_t.mouse.stroke(positions);
         return tool;
     }
 
     WindowUnderTest &m_t;
-    testpictures::Random m_dice;
+    testpictures::Random m_random;
 };
 
 } // namespace
 
 /// Little is repainted for a change; what stands on the screen is the whole of it all the same.
-class ScreenTest : public QObject
+class TestScreen : public QObject
 {
     Q_OBJECT
 
@@ -165,5 +165,5 @@ private slots:
     }
 };
 
-ORNEVO_TEST_MAIN(ScreenTest)
+ORNEVO_TEST_MAIN(TestScreen)
 #include "tst_screen.moc"

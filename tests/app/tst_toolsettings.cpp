@@ -13,9 +13,11 @@
 #include <QGraphicsPixmapItem>
 
 #include <cmath>
+#include <optional>
 
-using driver::action;
-using driver::status;
+using testsupport::action;
+using testsupport::CanvasMouse;
+using testsupport::status;
 
 class TestToolSettings : public QObject
 {
@@ -59,6 +61,7 @@ private:
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<MainWindowProbe> probe;
     QGraphicsView *view = nullptr;
+    std::optional<CanvasMouse> mouse; ///< over it
 };
 
 namespace {
@@ -91,8 +94,9 @@ void TestToolSettings::restartWindow()
     window.reset(); // writes its store
     window = std::make_unique<MainWindow>();
     probe = std::make_unique<MainWindowProbe>(*window);
-    view = driver::canvas(*window);
-    driver::show(*window);
+    view = testsupport::canvas(*window);
+    mouse.emplace(*view);
+    testsupport::show(*window);
 }
 
 void TestToolSettings::store(const QString &key, const QVariant &value)
@@ -108,11 +112,11 @@ QVariant TestToolSettings::stored(const QString &key)
 
 void TestToolSettings::openMarkAndMask()
 {
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     action(*window, "actionKeep_arker")->trigger();
-    driver::stroke(*view, {{50, 45}, {60, 45}, {70, 45}});
+    mouse->draw({{50, 45}, {60, 45}, {70, 45}});
     action(*window, "action_Remove_Marker")->trigger();
-    driver::stroke(*view, {{10, 10}, {10, 80}, {110, 80}, {110, 10}});
+    mouse->draw({{10, 10}, {10, 80}, {110, 80}, {110, 10}});
     action(*window, "actionMask")->trigger();
     QCOMPARE(status(*window), "Ready");
 }
@@ -122,9 +126,9 @@ QRectF TestToolSettings::newestDab()
 {
     const qsizetype before = probe->imageScene().items().size();
     const QPoint position = view->mapFromScene(60, 45);
-    driver::press(*view, position);
-    driver::move(*view, position, Qt::LeftButton);
-    driver::release(*view, position);
+    mouse->press(position);
+    mouse->move(position, Qt::LeftButton);
+    mouse->release(position);
     const QList<QGraphicsItem *> items = probe->imageScene().items(Qt::AscendingOrder);
     if (items.size() != before + 1)
         return {};
@@ -208,7 +212,7 @@ void TestToolSettings::sizeSteps()
                                         {Qt::Key_Left, -1},
                                         {Qt::Key_Left, -1},
                                         {Qt::Key_Left, -1}}) {
-        driver::key(*window, pressed);
+        testsupport::key(*window, pressed);
         expected += step;
         QCOMPARE(status(*window), message.arg(expected));
         QCOMPARE(stored(key).toInt(), expected);
@@ -227,22 +231,22 @@ void TestToolSettings::keepMarkerComesFirst()
     action(*window, "actionBackground_Brush")->setEnabled(true);
     action(*window, "actionForeground_Brush")->setEnabled(true);
     action(*window, "actionForeground_Brush")->setChecked(true);
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Right);
     QCOMPARE(status(*window), "Foreground brush size is 11");
     action(*window, "actionBackground_Brush")->setChecked(true);
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Right);
     QCOMPARE(status(*window), "Background brush size is 11");
     action(*window, "action_Remove_Marker")->setChecked(true);
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Right);
     QCOMPARE(status(*window), "Background marker size is 11");
     action(*window, "actionKeep_arker")->setChecked(true);
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Right);
     QCOMPARE(status(*window), "Foreground marker size is 11");
     action(*window, "actionKeep_arker")->setEnabled(false);
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Right);
     QCOMPARE(status(*window), "Background brush size is 12");
     action(*window, "actionBackground_Brush")->setEnabled(false);
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Right);
     QCOMPARE(status(*window), "Background brush size is 12"); // checked but asleep
     QCOMPARE(int{probe->keepMarkerSize()}, 11);
     QCOMPARE(int{probe->keepBrushSize()}, 11);
@@ -270,7 +274,7 @@ void TestToolSettings::toolsWithoutAStep()
         action(*window, tool)->trigger();
     const QString before = status(*window);
     for (const Qt::Key pressed : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Left})
-        driver::key(*window, pressed);
+        testsupport::key(*window, pressed);
     QCOMPARE(status(*window), before);
     QCOMPARE(probe->settings().allKeys(), QStringList{"SAMESIZECHECKED"});
 }
@@ -278,12 +282,12 @@ void TestToolSettings::toolsWithoutAStep()
 void TestToolSettings::missingSharedSize()
 {
     action(*window, "action_Remove_Marker")->trigger();
-    driver::key(*window, Qt::Key_Right); // a missing key counts as "shared" here
+    testsupport::key(*window, Qt::Key_Right); // a missing key counts as "shared" here
     QCOMPARE(status(*window), "Tool size is 11");
     QCOMPARE(stored("KEEPMSIZE").toInt(), 11);
     QVERIFY(!probe->settings().contains("SAMESIZECHECKED"));
     store("SAMESIZECHECKED", false);
-    driver::key(*window, Qt::Key_Left);
+    testsupport::key(*window, Qt::Key_Left);
     QCOMPARE(status(*window), "Background marker size is 9");
     QCOMPARE(stored("REMOVEMSIZE").toInt(), 9);
 }
@@ -320,12 +324,12 @@ void TestToolSettings::wrapAround()
         action(*window, "actionPreview")->trigger();
     action(*window, tool)->trigger();
     for (const int expected : {0, 255, 254}) {
-        driver::key(*window, Qt::Key_Left);
+        testsupport::key(*window, Qt::Key_Left);
         QCOMPARE(status(*window), message.arg(expected));
         QCOMPARE(stored(key).toInt(), expected);
     }
     for (const int expected : {255, 0, 1}) {
-        driver::key(*window, Qt::Key_Right);
+        testsupport::key(*window, Qt::Key_Right);
         QCOMPARE(status(*window), message.arg(expected));
         QCOMPARE(stored(key).toInt(), expected);
     }
@@ -335,16 +339,16 @@ void TestToolSettings::intensitySteps()
 {
     action(*window, "actionPreview")->trigger();
     action(*window, "actionBackground_Brush")->trigger();
-    driver::key(*window, Qt::Key_Up);
+    testsupport::key(*window, Qt::Key_Up);
     QCOMPARE(status(*window), "Background brush intensity is 101");
     QCOMPARE(stored("REMOVEBINTEN").toInt(), 101);
-    driver::key(*window, Qt::Key_Down);
-    driver::key(*window, Qt::Key_Down);
+    testsupport::key(*window, Qt::Key_Down);
+    testsupport::key(*window, Qt::Key_Down);
     QCOMPARE(status(*window), "Background brush intensity is 99");
     QCOMPARE(stored("REMOVEBINTEN").toInt(), 99);
     QVERIFY(!probe->settings().contains("KEEPBINTEN"));
     action(*window, "actionForeground_Brush")->trigger();
-    driver::key(*window, Qt::Key_Down);
+    testsupport::key(*window, Qt::Key_Down);
     QCOMPARE(status(*window), "Foreground brush intensity is 149");
     QCOMPARE(stored("KEEPBINTEN").toInt(), 149);
     QCOMPARE(int{probe->brushIntensityKeep()}, 149);
@@ -357,12 +361,12 @@ void TestToolSettings::intensityNeedsABrush()
     for (const char *tool :
          {"actionKeep_arker", "action_Remove_Marker", "actionEraser", "actionBlueMarker"}) {
         action(*window, tool)->trigger();
-        driver::key(*window, Qt::Key_Up);
-        driver::key(*window, Qt::Key_Down);
+        testsupport::key(*window, Qt::Key_Up);
+        testsupport::key(*window, Qt::Key_Down);
         QCOMPARE(status(*window), "");
     }
     action(*window, "actionForeground_Brush")->setChecked(true); // checked, but asleep outside the preview
-    driver::key(*window, Qt::Key_Up);
+    testsupport::key(*window, Qt::Key_Up);
     QCOMPARE(status(*window), "");
     QVERIFY(probe->settings().allKeys().isEmpty());
 }
@@ -373,11 +377,11 @@ void TestToolSettings::intensityWrapsAround()
     store("REMOVEBINTEN", 0);
     action(*window, "actionPreview")->trigger();
     action(*window, "actionForeground_Brush")->trigger();
-    driver::key(*window, Qt::Key_Up);
+    testsupport::key(*window, Qt::Key_Up);
     QCOMPARE(status(*window), "Foreground brush intensity is 0");
     QCOMPARE(stored("KEEPBINTEN").toInt(), 0);
     action(*window, "actionBackground_Brush")->trigger();
-    driver::key(*window, Qt::Key_Down);
+    testsupport::key(*window, Qt::Key_Down);
     QCOMPARE(status(*window), "Background brush intensity is 255");
     QCOMPARE(stored("REMOVEBINTEN").toInt(), 255);
 }
@@ -385,14 +389,14 @@ void TestToolSettings::intensityWrapsAround()
 void TestToolSettings::brushStepResizesTheCircle()
 {
     store("SAMESIZECHECKED", false);
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     action(*window, "actionPreview")->trigger();
-    driver::settle();
+    testsupport::settle();
     view->resetTransform();
     view->centerOn(width / 2, height / 2);
     for (const char *tool : {"actionForeground_Brush", "actionBackground_Brush"}) {
         action(*window, tool)->trigger();
-        driver::move(*view, view->mapFromScene(60, 45));
+        mouse->move(view->mapFromScene(60, 45));
         const auto circle = [this]() -> QRectF {
             for (QGraphicsItem *item : probe->previewScene().items())
                 if (auto *ellipse = qgraphicsitem_cast<QGraphicsEllipseItem *>(item))
@@ -400,13 +404,13 @@ void TestToolSettings::brushStepResizesTheCircle()
             return {};
         };
         QCOMPARE(circle(), QRectF(55, 40, 10, 10));
-        driver::key(*window, Qt::Key_Right);
-        driver::key(*window, Qt::Key_Right);
+        testsupport::key(*window, Qt::Key_Right);
+        testsupport::key(*window, Qt::Key_Right);
         QCOMPARE(circle(), QRectF(54, 39, 12, 12)); // at once, without a move
-        driver::move(*view, view->mapFromScene(60, 45));
+        mouse->move(view->mapFromScene(60, 45));
         QCOMPARE(circle(), QRectF(54, 39, 12, 12)); // and the canvas knows the new size
         for (int i = 0; i < 6; ++i)
-            driver::key(*window, Qt::Key_Left);
+            testsupport::key(*window, Qt::Key_Left);
         QCOMPARE(circle(), QRectF(57, 42, 6, 6));
     }
 }
@@ -414,7 +418,7 @@ void TestToolSettings::brushStepResizesTheCircle()
 void TestToolSettings::markerStepReachesTheCanvas()
 {
     store("SAMESIZECHECKED", false);
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     view->resetTransform();
     view->centerOn(width / 2, height / 2);
     for (const char *tool : {"actionKeep_arker", "action_Remove_Marker"}) {
@@ -422,7 +426,7 @@ void TestToolSettings::markerStepReachesTheCanvas()
         const double before = newestDab().width();
         QVERIFY(before > 0);
         for (int i = 0; i < 6; ++i)
-            driver::key(*window, Qt::Key_Right);
+            testsupport::key(*window, Qt::Key_Right);
         QCOMPARE(newestDab().width(), before + 6);
     }
 }
@@ -430,10 +434,10 @@ void TestToolSettings::markerStepReachesTheCanvas()
 void TestToolSettings::sharedSizeReachesEveryTool()
 {
     store("SAMESIZECHECKED", true);
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     action(*window, "action_Remove_Marker")->trigger();
     for (int i = 0; i < 4; ++i)
-        driver::key(*window, Qt::Key_Right);
+        testsupport::key(*window, Qt::Key_Right);
     QCOMPARE(status(*window), "Tool size is 14");
     QCOMPARE(newestDab().width(), 14.0);
     QCOMPARE(int{probe->removeMarkerSize()}, 10); // the window's own copy is not shared
@@ -444,13 +448,13 @@ void TestToolSettings::restart()
 {
     store("SAMESIZECHECKED", false);
     action(*window, "actionKeep_arker")->trigger();
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Right);
     action(*window, "action_Remove_Marker")->trigger();
-    driver::key(*window, Qt::Key_Left);
+    testsupport::key(*window, Qt::Key_Left);
     action(*window, "actionPreview")->trigger();
     action(*window, "actionForeground_Brush")->trigger();
-    driver::key(*window, Qt::Key_Up);
-    driver::key(*window, Qt::Key_Right);
+    testsupport::key(*window, Qt::Key_Up);
+    testsupport::key(*window, Qt::Key_Right);
     const QString file = probe->settings().fileName();
     restartWindow();
     QFile text(file); // what another process would see
@@ -496,12 +500,12 @@ void TestToolSettings::hostileSizes()
         QCOMPARE(int{member}, expected);
     openMarkAndMask();
     action(*window, "actionEraser")->trigger();
-    driver::press(*view, view->mapFromScene(60, 45));
-    driver::release(*view, view->mapFromScene(60, 45));
+    mouse->press(view->mapFromScene(60, 45));
+    mouse->release(view->mapFromScene(60, 45));
     action(*window, "actionPreview")->trigger();
     for (const char *brush : {"actionForeground_Brush", "actionBackground_Brush"}) {
         action(*window, brush)->trigger();
-        driver::stroke(*view, {{40, 40}, {60, 45}, {70, 50}});
+        mouse->draw({{40, 40}, {60, 45}, {70, 50}});
         QTRY_VERIFY(probe->pendingBrushRects().isEmpty());
     }
     QCOMPARE(probe->previewImage().size(), QSize(width, height));
@@ -535,7 +539,7 @@ void TestToolSettings::hostileOpacity()
     QVERIFY2(std::abs(opacity - shown) < 1e-6, qPrintable(QString::number(opacity)));
     const QList<QGraphicsItem *> before = probe->imageScene().items();
     action(*window, "actionBlueMarker")->trigger();
-    driver::stroke(*view, {{40, 40}, {60, 45}});
+    mouse->draw({{40, 40}, {60, 45}});
     int dabs = 0;
     for (const QGraphicsItem *item : probe->imageScene().items()) {
         if (before.contains(item) || item->zValue() != layers::dabZ)

@@ -10,8 +10,10 @@
 #include <QScrollBar>
 
 #include <cmath>
+#include <optional>
 
-using driver::action;
+using testsupport::action;
+using testsupport::CanvasMouse;
 
 class TestZoom : public QObject
 {
@@ -36,6 +38,7 @@ private:
     QTemporaryDir folder;
     std::unique_ptr<MainWindow> window;
     QGraphicsView *view = nullptr;
+    std::optional<CanvasMouse> mouse; ///< over it
 };
 
 namespace {
@@ -49,8 +52,9 @@ void TestZoom::init()
     QVERIFY(testpictures::blobImage(150, 100, 4).save(folder.filePath("photo.png")));
     QVERIFY(testpictures::blobImage(60, 90, 4).save(folder.filePath("high.png")));
     window = std::make_unique<MainWindow>();
-    view = driver::canvas(*window);
-    driver::show(*window);
+    view = testsupport::canvas(*window);
+    mouse.emplace(*view);
+    testsupport::show(*window);
 }
 
 void TestZoom::cleanup()
@@ -81,7 +85,7 @@ void TestZoom::factors()
 
 void TestZoom::tenSteps()
 {
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     const double fitted = scale();
     for (int i = 0; i < 10; ++i)
         action(*window, "actionZoom_In")->trigger();
@@ -101,7 +105,7 @@ void TestZoom::noLimit()
 
 void TestZoom::thereAndBack()
 {
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     const QTransform before = view->transform();
     action(*window, "actionZoom_In")->trigger();
     action(*window, "actionZoom_Out")->trigger();
@@ -110,28 +114,28 @@ void TestZoom::thereAndBack()
 
 void TestZoom::openingFitsAgain()
 {
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     QVERIFY(isFitted());
     for (int i = 0; i < 5; ++i)
         action(*window, "actionZoom_In")->trigger();
     QVERIFY(!isFitted());
-    driver::openPhoto(*window, folder.filePath("high.png"));
+    testsupport::openPhoto(*window, folder.filePath("high.png"));
     QVERIFY(isFitted());
     QVERIFY(std::abs(view->transform().m11() - view->transform().m22()) < nearly);
     for (int i = 0; i < 5; ++i)
         action(*window, "actionZoom_Out")->trigger();
     QVERIFY(!isFitted());
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     QVERIFY(isFitted());
 }
 
 void TestZoom::itemsStayPut()
 {
     MainWindowProbe probe(*window);
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     action(*window, "actionKeep_arker")->trigger();
     const auto newestCentre = [&] {
-        driver::stroke(*view, {{75, 50}});
+        mouse->draw({{75, 50}});
         return probe.imageScene().items(Qt::AscendingOrder).last()->sceneBoundingRect().center();
     };
     const QPointF first = newestCentre();
@@ -146,7 +150,7 @@ void TestZoom::itemsStayPut()
 
 void TestZoom::everyTool()
 {
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     const auto check = [this] {
         const double before = scale();
         action(*window, "actionZoom_In")->trigger();
@@ -170,7 +174,7 @@ void TestZoom::everyTool()
 /// No scroll bar comes up that makes the canvas smaller, and with it the picture.
 void TestZoom::firstStepIsExact()
 {
-    driver::openPhoto(*window, folder.filePath("photo.png"));
+    testsupport::openPhoto(*window, folder.filePath("photo.png"));
     QCOMPARE(view->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
     QCOMPARE(view->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
     QCOMPARE(view->horizontalScrollBar()->maximum(), view->horizontalScrollBar()->minimum());
@@ -178,10 +182,10 @@ void TestZoom::firstStepIsExact()
     const double fitted = scale();
     const QSize canvas = view->viewport()->size();
     action(*window, "actionZoom_In")->trigger();
-    driver::settle();
+    testsupport::settle();
     QVERIFY(std::abs(scale() / fitted - 1.2) < nearly);
     action(*window, "actionZoom_Out")->trigger();
-    driver::settle();
+    testsupport::settle();
     QVERIFY(std::abs(scale() / fitted - 1.0) < nearly);
     QCOMPARE(view->viewport()->size(), canvas);
 }

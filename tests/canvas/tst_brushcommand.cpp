@@ -293,7 +293,7 @@ void TestBrushCommand::fullDisk()
     QFETCH(int, bytes);
     const QImage before = image.copy();
     {
-        const FullDisk full(static_cast<rlim_t>(bytes));
+        const testsupport::FullDisk full(static_cast<rlim_t>(bytes));
         push(QRect(5, 4, 20, 15), 2);
     }
     QCOMPARE(temporaryFiles().size(), 0); // a part of the picture is of no use

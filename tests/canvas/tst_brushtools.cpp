@@ -5,7 +5,6 @@
 #include "tests/reference/TestPictures.h"
 #include "tests/support/CanvasMouse.h"
 #include "tests/support/TestMain.h"
-#include "tests/support/WindowDriver.h"
 
 #include <QDialog>
 #include <QGraphicsEllipseItem>
@@ -13,6 +12,7 @@
 #include <QtMath>
 
 #include <cmath>
+#include <optional>
 
 class TestBrushTools : public QObject
 {
@@ -59,11 +59,12 @@ private:
     std::unique_ptr<QSettings> store;
     std::unique_ptr<QGraphicsScene> scene;
     std::unique_ptr<ZelGraphicsView> view;
+    std::optional<testsupport::CanvasMouse> mouse; ///< over it
 };
 
 namespace {
 
-int cut(double value)
+int truncated(double value)
 {
     return static_cast<int>(std::trunc(value));
 }
@@ -73,7 +74,8 @@ QRect expectedSquare(const QGraphicsView &view, QPoint position, int size)
     const int half = size / 2;
     const QPointF first = view.mapToScene(position.x() - half, position.y() - half);
     const QPointF second = view.mapToScene(position.x() + half, position.y() + half);
-    return QRect(cut(first.x()), cut(first.y()), cut(second.x() - first.x()), cut(second.y() - first.y()));
+    return QRect(truncated(first.x()), truncated(first.y()), truncated(second.x() - first.x()),
+                 truncated(second.y() - first.y()));
 }
 
 QRect squareOf(const QList<QVariant> &signal)
@@ -91,6 +93,7 @@ void TestBrushTools::init()
     store->clear();
     scene = std::make_unique<QGraphicsScene>(0, 0, 200, 150);
     view = std::make_unique<ZelGraphicsView>();
+    mouse.emplace(*view);
     view->settings = store.get();
     view->updatetoolssettings();
     view->setMouseTracking(true);
@@ -102,6 +105,7 @@ void TestBrushTools::init()
 
 void TestBrushTools::cleanup()
 {
+    mouse.reset();
     view.reset();
     scene.reset();
     store->clear();
@@ -157,18 +161,18 @@ void TestBrushTools::squareOfTheBrush()
             const QRect expected = expectedSquare(*view, position, size);
             const bool inside = scene->sceneRect().contains(expected);
             spy.clear();
-            driver::press(*view, position);
+            mouse->press(position);
             QCOMPARE(spy.size(), inside ? 1 : 0);
             if (inside) {
                 QCOMPARE(squareOf(spy.first()), expected);
                 QCOMPARE(spy.first().at(1).toBool(), true);
             }
             spy.clear();
-            driver::move(*view, position, Qt::LeftButton);
+            mouse->move(position, Qt::LeftButton);
             QCOMPARE(spy.size(), 1);
             QCOMPARE(squareOf(spy.first()), expected);
             QCOMPARE(spy.first().at(1).toBool(), false);
-            driver::release(*view, position);
+            mouse->release(position);
             QCOMPARE(spy.size(), 1); // the release sends nothing
         }
     }
@@ -180,13 +184,13 @@ void TestBrushTools::squareInNumbers()
     view->SetTool(ToolKeepBrush);
     setBrushSizes(11); // as good as 10: the half is a whole number
     zoomTo(1.0);
-    driver::press(*view, view->mapFromScene(100, 75));
+    mouse->press(view->mapFromScene(100, 75));
     QCOMPARE(squareOf(spy.last()), QRect(95, 70, 10, 10));
     zoomTo(2.0); // ten pixels on the screen are five of the picture
-    driver::press(*view, view->mapFromScene(100, 75));
+    mouse->press(view->mapFromScene(100, 75));
     QCOMPARE(squareOf(spy.last()), QRect(97, 72, 5, 5));
     zoomTo(0.5);
-    driver::press(*view, view->mapFromScene(100, 75));
+    mouse->press(view->mapFromScene(100, 75));
     QCOMPARE(squareOf(spy.last()).size(), QSize(20, 20));
     QCOMPARE(spy.size(), 3);
 }
@@ -198,9 +202,9 @@ void TestBrushTools::squareLeftOfTheOrigin()
     setBrushSizes(10);
     zoomTo(2.0);
     const QPoint corner = view->mapFromScene(0, 0);
-    driver::press(*view, corner);
-    driver::move(*view, corner, Qt::LeftButton);
-    // -2.5 is cut, not floored.
+    mouse->press(corner);
+    mouse->move(corner, Qt::LeftButton);
+    // -2.5 is truncated, not floored.
     QCOMPARE(spy.size(), 1);
     QCOMPARE(squareOf(spy.last()), QRect(-2, -2, 5, 5));
 }
@@ -216,22 +220,22 @@ void TestBrushTools::pressOutsideIsSilentAndMoveIsNot()
                                    QPointF(-60, 40), QPointF(230, 170)}) {
             spy.clear();
             const QPoint position = view->mapFromScene(edge);
-            driver::press(*view, position);
+            mouse->press(position);
             QCOMPARE(spy.size(), 0);
-            driver::move(*view, position, Qt::LeftButton);
+            mouse->move(position, Qt::LeftButton);
             QCOMPARE(spy.size(), 1);
             QCOMPARE(squareOf(spy.first()), expectedSquare(*view, position, 20));
             QVERIFY(outline() == nullptr);
-            driver::release(*view, position);
+            mouse->release(position);
         }
     }
     // The last square that still fits touches the edge.
     view->SetTool(ToolKeepBrush);
     spy.clear();
-    driver::press(*view, view->mapFromScene(10, 10));
+    mouse->press(view->mapFromScene(10, 10));
     QCOMPARE(spy.size(), 1);
     QCOMPARE(squareOf(spy.first()), QRect(0, 0, 20, 20));
-    driver::press(*view, view->mapFromScene(9, 10));
+    mouse->press(view->mapFromScene(9, 10));
     QCOMPARE(spy.size(), 1);
 }
 
@@ -241,9 +245,9 @@ void TestBrushTools::anyButtonPresses()
     view->SetTool(ToolKeepBrush);
     QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
-        driver::press(*view, view->mapFromScene(50, 50), button);
-        driver::move(*view, view->mapFromScene(52, 50), button);
-        driver::release(*view, view->mapFromScene(52, 50), button);
+        mouse->press(view->mapFromScene(50, 50), button);
+        mouse->move(view->mapFromScene(52, 50), button);
+        mouse->release(view->mapFromScene(52, 50), button);
     }
     QCOMPARE(spy.size(), 6);
 }
@@ -281,7 +285,7 @@ void TestBrushTools::movingWithoutAButton()
     for (const DrawingTools tool : brushes) {
         view->SetTool(tool);
         for (int x = 20; x < 180; x += 10)
-            driver::move(*view, view->mapFromScene(x, 70));
+            mouse->move(view->mapFromScene(x, 70));
         QVERIFY(outline() != nullptr);
         QCOMPARE(outline()->rect(), QRectF(165, 65, 10, 10));
     }
@@ -294,14 +298,14 @@ void TestBrushTools::circle()
     for (const DrawingTools tool : brushes) {
         view->SetTool(tool);
         QVERIFY(outline() == nullptr);
-        driver::move(*view, view->mapFromScene(60, 40));
+        mouse->move(view->mapFromScene(60, 40));
         QGraphicsEllipseItem *item = outline();
         QVERIFY(item != nullptr);
         QCOMPARE(item->rect(), QRectF(55, 35, 10, 10));
         QCOMPARE(item->zValue(), 20.0);
         QCOMPARE(item->pen(), QPen());
         QCOMPARE(item->brush(), QBrush());
-        driver::move(*view, view->mapFromScene(61, 42), Qt::LeftButton);
+        mouse->move(view->mapFromScene(61, 42), Qt::LeftButton);
         QCOMPARE(outline(), item); // the same circle, moved
         QCOMPARE(item->rect(), QRectF(56, 37, 10, 10));
     }
@@ -311,13 +315,13 @@ void TestBrushTools::circleGoesAndComesBack()
 {
     zoomTo(1.0);
     const auto showIt = [this] {
-        driver::move(*view, view->mapFromScene(60, 40));
+        mouse->move(view->mapFromScene(60, 40));
         return outline() != nullptr;
     };
     for (const DrawingTools tool : brushes) {
         view->SetTool(tool);
         QVERIFY(showIt());
-        driver::move(*view, view->mapFromScene(3, 40)); // sticks out of the scene
+        mouse->move(view->mapFromScene(3, 40)); // sticks out of the scene
         QVERIFY(outline() == nullptr);
         QVERIFY(showIt());
         QEvent leave(QEvent::Leave);
@@ -344,10 +348,10 @@ void TestBrushTools::pressLeavesTheCircleAlone()
 {
     zoomTo(1.0);
     view->SetTool(ToolKeepBrush);
-    driver::press(*view, view->mapFromScene(60, 40));
+    mouse->press(view->mapFromScene(60, 40));
     QVERIFY(outline() == nullptr);
-    driver::move(*view, view->mapFromScene(60, 40), Qt::LeftButton);
-    driver::press(*view, view->mapFromScene(100, 90));
+    mouse->move(view->mapFromScene(60, 40), Qt::LeftButton);
+    mouse->press(view->mapFromScene(100, 90));
     QCOMPARE(outline()->rect(), QRectF(55, 35, 10, 10));
 }
 
@@ -375,7 +379,7 @@ void TestBrushTools::circleShowsOnEveryPicture()
     view->setTransform(QTransform::fromScale(zoom, zoom));
     view->centerOn(500, 400);
     view->SetTool(ToolKeepBrush);
-    driver::move(*view, view->mapFromScene(500, 400));
+    mouse->move(view->mapFromScene(500, 400));
     QVERIFY(outline() != nullptr);
     QCOMPARE(outline()->type(), int{QGraphicsEllipseItem::Type});
     QCOMPARE(outline()->pen(), QPen());
@@ -445,19 +449,19 @@ void TestBrushTools::dialogEndsTheStroke()
     QSignalSpy hand(view.get(), &ZelGraphicsView::HandTool);
     for (const DrawingTools tool : {ToolKeepBrush, ToolHand}) {
         view->SetTool(tool);
-        driver::press(*view, view->mapFromScene(60, 40));
+        mouse->press(view->mapFromScene(60, 40));
         QDialog dialog;
         dialog.setModal(true);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         dialog.close();
         brush.clear();
-        driver::move(*view, view->mapFromScene(70, 40));
-        driver::move(*view, view->mapFromScene(80, 40));
+        mouse->move(view->mapFromScene(70, 40), Qt::NoButton);
+        mouse->move(view->mapFromScene(80, 40), Qt::NoButton);
         QCOMPARE(brush.size() + hand.size(), 0);
         if (tool == ToolHand)
             QCOMPARE(view->viewport()->cursor().shape(), Qt::OpenHandCursor);
-        driver::release(*view, view->mapFromScene(80, 40));
+        mouse->release(view->mapFromScene(80, 40));
     }
 }
 
@@ -488,7 +492,7 @@ void TestBrushTools::removeBrushRepaintsTheScene()
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
         repainted.clear();
-        driver::move(*view, view->mapFromScene(position));
+        mouse->move(view->mapFromScene(position));
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
         return std::any_of(repainted.cbegin(), repainted.cend(),
@@ -521,13 +525,13 @@ void TestBrushTools::sizesWithoutArea()
     for (const DrawingTools tool : brushes) {
         view->SetTool(tool);
         spy.clear();
-        driver::press(*view, view->mapFromScene(50, 60));
+        mouse->press(view->mapFromScene(50, 60));
         QCOMPARE(spy.size(), 0);
-        driver::move(*view, view->mapFromScene(50, 60), Qt::LeftButton);
+        mouse->move(view->mapFromScene(50, 60), Qt::LeftButton);
         QCOMPARE(spy.size(), 1);
         QCOMPARE(squareOf(spy.first()), QRect(50, 60, 0, 0));
         QVERIFY(outline() == nullptr);
-        driver::release(*view, view->mapFromScene(50, 60));
+        mouse->release(view->mapFromScene(50, 60));
     }
 }
 
@@ -536,7 +540,7 @@ void TestBrushTools::updateEllipse()
     zoomTo(1.0);
     view->updateellipse(30); // no circle, nothing to do
     view->SetTool(ToolKeepBrush);
-    driver::move(*view, view->mapFromScene(60, 40));
+    mouse->move(view->mapFromScene(60, 40));
     view->updateellipse(20);
     QCOMPARE(outline()->rect(), QRectF(50, 30, 20, 20));
     view->updateellipse(21);
@@ -546,10 +550,10 @@ void TestBrushTools::updateEllipse()
     view->updateellipse(12);
     QCOMPARE(outline()->rect(), QRectF(54, 34, 12, 12));
     // The size that is passed in is not kept.
-    driver::move(*view, view->mapFromScene(80, 80));
+    mouse->move(view->mapFromScene(80, 80));
     QCOMPARE(outline()->rect(), QRectF(75, 75, 10, 10));
     zoomTo(2.0);
-    driver::move(*view, view->mapFromScene(80, 80));
+    mouse->move(view->mapFromScene(80, 80));
     view->updateellipse(40);
     QCOMPARE(outline()->rect().size(), QSizeF(20, 20));
     QVERIFY(QLineF(outline()->rect().center(), QPointF(80, 80)).length() < 1.5);
@@ -561,17 +565,17 @@ void TestBrushTools::sizesAreBytes()
     QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
     view->SetTool(ToolKeepBrush);
     setBrushSizes(300);
-    driver::press(*view, view->mapFromScene(100, 75));
+    mouse->press(view->mapFromScene(100, 75));
     QCOMPARE(squareOf(spy.last()).size(), QSize(44, 44));
     setBrushSizes(256 + 8);
-    driver::press(*view, view->mapFromScene(100, 75));
+    mouse->press(view->mapFromScene(100, 75));
     QCOMPARE(squareOf(spy.last()).size(), QSize(8, 8));
     setBrushSizes(-2); // 254
-    driver::move(*view, view->mapFromScene(100, 75), Qt::LeftButton);
+    mouse->move(view->mapFromScene(100, 75), Qt::LeftButton);
     QCOMPARE(squareOf(spy.last()).size(), QSize(254, 254));
     spy.clear();
     setBrushSizes(256);
-    driver::press(*view, view->mapFromScene(100, 75));
+    mouse->press(view->mapFromScene(100, 75));
     QCOMPARE(spy.size(), 0);
 }
 
@@ -585,12 +589,12 @@ void TestBrushTools::sharedSize()
     view->updatetoolssettings();
     for (const DrawingTools tool : brushes) {
         view->SetTool(tool);
-        driver::press(*view, view->mapFromScene(100, 75));
+        mouse->press(view->mapFromScene(100, 75));
         QCOMPARE(squareOf(spy.last()).size(), QSize(16, 16));
     }
     store->remove("SAMESIZECHECKED"); // the canvas takes a missing key for "no"
     view->updatetoolssettings();
-    driver::press(*view, view->mapFromScene(100, 75));
+    mouse->press(view->mapFromScene(100, 75));
     QCOMPARE(squareOf(spy.last()).size(), QSize(30, 30));
 }
 
@@ -612,27 +616,27 @@ void TestBrushTools::handSignals()
         return QPoint(static_cast<int>(std::round(mapped.x())), static_cast<int>(std::round(mapped.y())));
     };
     QPoint last = view->mapFromScene(0, 0);
-    driver::move(*view, last);
+    mouse->move(last);
     QCOMPARE(spy.size(), 0);
-    driver::press(*view, last);
+    mouse->press(last);
     QCOMPARE(spy.size(), 0);
     for (const QPoint step :
          {QPoint(1, 0), QPoint(-3, 1), QPoint(7, -9), QPoint(0, 0), QPoint(-40, -31), QPoint(13, 5)}) {
         spy.clear();
         const QPoint next = last + step;
-        driver::move(*view, next, Qt::LeftButton);
+        mouse->move(next, Qt::LeftButton);
         QCOMPARE(spy.size(), 1);
         QCOMPARE(spy.first().at(0).toPoint(), rounded(last));
         QCOMPARE(spy.first().at(1).toPoint(), rounded(next));
         last = next;
     }
     spy.clear();
-    driver::release(*view, last);
-    driver::move(*view, last + QPoint(5, 5));
+    mouse->release(last);
+    mouse->move(last + QPoint(5, 5));
     QCOMPARE(spy.size(), 0);
     // The next drag starts where it is pressed, not where the last one ended.
-    driver::press(*view, last + QPoint(20, 20));
-    driver::move(*view, last + QPoint(21, 20), Qt::LeftButton);
+    mouse->press(last + QPoint(20, 20));
+    mouse->move(last + QPoint(21, 20), Qt::LeftButton);
     QCOMPARE(spy.first().at(0).toPoint(), rounded(last + QPoint(20, 20)));
 }
 
@@ -645,12 +649,12 @@ void TestBrushTools::handDragsAddUp()
     connect(view.get(), &ZelGraphicsView::HandTool, this,
             [item](QPoint from, QPoint to) { item->setPos(item->pos() + to - from); });
     QPoint position = view->mapFromScene(50, 50);
-    driver::press(*view, position);
+    mouse->press(position);
     for (int i = 0; i < 25; ++i)
-        driver::move(*view, position += QPoint(1, 0), Qt::LeftButton);
+        mouse->move(position += QPoint(1, 0), Qt::LeftButton);
     for (int i = 0; i < 14; ++i)
-        driver::move(*view, position -= QPoint(0, 1), Qt::LeftButton);
-    driver::release(*view, position);
+        mouse->move(position -= QPoint(0, 1), Qt::LeftButton);
+    mouse->release(position);
     QCOMPARE(item->pos(), QPointF(25, -14));
     QCOMPARE(view->mapToScene(view->viewport()->rect()).boundingRect(), shown); // the view itself stays put
 }
@@ -661,11 +665,11 @@ void TestBrushTools::handCursors()
     view->SetTool(ToolHand);
     QCOMPARE(view->viewport()->cursor().shape(), Qt::OpenHandCursor);
     const QPoint position = view->mapFromScene(50, 50);
-    driver::press(*view, position);
+    mouse->press(position);
     QCOMPARE(view->viewport()->cursor().shape(), Qt::ClosedHandCursor);
-    driver::move(*view, position + QPoint(4, 4), Qt::LeftButton);
+    mouse->move(position + QPoint(4, 4), Qt::LeftButton);
     QCOMPARE(view->viewport()->cursor().shape(), Qt::ClosedHandCursor);
-    driver::release(*view, position + QPoint(4, 4));
+    mouse->release(position + QPoint(4, 4));
     QCOMPARE(view->viewport()->cursor().shape(), Qt::OpenHandCursor);
 }
 
@@ -686,9 +690,9 @@ void TestBrushTools::withoutAScene()
     QSignalSpy dragged(view.get(), &ZelGraphicsView::HandTool);
     for (const DrawingTools tool : {ToolKeepBrush, ToolRemoveBrush, ToolHand}) {
         view->SetTool(tool);
-        driver::press(*view, {100, 100});
-        driver::move(*view, {110, 100}, Qt::LeftButton);
-        driver::release(*view, {110, 100});
+        mouse->press({100, 100});
+        mouse->move({110, 100}, Qt::LeftButton);
+        mouse->release({110, 100});
         view->updateellipse(20);
     }
     QCOMPARE(brushed.size(), 0);
@@ -697,7 +701,7 @@ void TestBrushTools::withoutAScene()
     view->setScene(scene.get());
     zoomTo(1.0);
     view->SetTool(ToolKeepBrush);
-    driver::move(*view, view->mapFromScene(50, 50));
+    mouse->move(view->mapFromScene(50, 50));
     QCOMPARE(brushed.size(), 0);
 }
 
@@ -707,10 +711,10 @@ void TestBrushTools::releaseEndsTheStroke()
     QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
     view->SetTool(ToolRemoveBrush);
     const QPoint position = view->mapFromScene(80, 80);
-    driver::press(*view, position);
-    driver::move(*view, position + QPoint(1, 1), Qt::LeftButton);
-    driver::release(*view, position + QPoint(1, 1));
-    driver::move(*view, position + QPoint(9, 9));
+    mouse->press(position);
+    mouse->move(position + QPoint(1, 1), Qt::LeftButton);
+    mouse->release(position + QPoint(1, 1));
+    mouse->move(position + QPoint(9, 9));
     QCOMPARE(spy.size(), 2);
 }
 

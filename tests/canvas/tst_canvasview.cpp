@@ -100,7 +100,7 @@ constexpr DrawingTools allTools[] = {ToolNone,        ToolPen,          ToolEras
 
 } // namespace
 
-class CanvasViewTest : public QObject
+class TestCanvasView : public QObject
 {
     Q_OBJECT
 
@@ -138,7 +138,7 @@ private slots:
     void partsGoInAnyOrder();
 };
 
-void CanvasViewTest::toolsHaveTheirNumbers()
+void TestCanvasView::toolsHaveTheirNumbers()
 {
     QCOMPARE(int(ToolNone), 0);
     QCOMPARE(int(ToolPen), 1);
@@ -151,7 +151,7 @@ void CanvasViewTest::toolsHaveTheirNumbers()
     QCOMPARE(int(ToolBlueMarker), 8);
 }
 
-void CanvasViewTest::signalsStandInOrder()
+void TestCanvasView::signalsStandInOrder()
 {
     const QMetaObject &meta = ZelGraphicsView::staticMetaObject;
     const QList<QPair<QByteArray, QByteArrayList>> expected{{"ProgressStage(char*)", {"msg"}},
@@ -167,7 +167,7 @@ void CanvasViewTest::signalsStandInOrder()
     }
 }
 
-void CanvasViewTest::cursorOfTool_data()
+void TestCanvasView::cursorOfTool_data()
 {
     QTest::addColumn<DrawingTools>("tool");
     QTest::addColumn<Qt::CursorShape>("shape");
@@ -187,7 +187,7 @@ void CanvasViewTest::cursorOfTool_data()
     QTest::newRow("blue marker") << ToolBlueMarker << Qt::BlankCursor << QString() << 0 << QPoint();
 }
 
-void CanvasViewTest::cursorOfTool()
+void TestCanvasView::cursorOfTool()
 {
     QFETCH(DrawingTools, tool);
     QFETCH(Qt::CursorShape, shape);
@@ -218,7 +218,7 @@ void CanvasViewTest::cursorOfTool()
     QCOMPARE(cursor.hotSpot(), hotSpot);
 }
 
-void CanvasViewTest::cursorGoesToTheViewport()
+void TestCanvasView::cursorGoesToTheViewport()
 {
     Canvas canvas;
     for (const DrawingTools tool : allTools) {
@@ -228,7 +228,7 @@ void CanvasViewTest::cursorGoesToTheViewport()
     }
 }
 
-void CanvasViewTest::eraserCursorFollowsItsSize()
+void TestCanvasView::eraserCursorFollowsItsSize()
 {
     Canvas c;
     const auto width = [&c] {
@@ -247,7 +247,7 @@ void CanvasViewTest::eraserCursorFollowsItsSize()
     QCOMPARE(c.view.viewport()->cursor().hotSpot(), QPoint(10, 10));
 }
 
-void CanvasViewTest::rereadingSizesLeavesTheClosedHand()
+void TestCanvasView::rereadingSizesLeavesTheClosedHand()
 {
     Canvas c;
     c.view.SetTool(ToolHand);
@@ -256,7 +256,7 @@ void CanvasViewTest::rereadingSizesLeavesTheClosedHand()
     QCOMPARE(c.view.viewport()->cursor().shape(), Qt::ClosedHandCursor);
 }
 
-void CanvasViewTest::eraserWithoutASizeHasACursor()
+void TestCanvasView::eraserWithoutASizeHasACursor()
 {
     Canvas canvas;
     canvas.settings.setValue("ERASERMSIZE", 256);
@@ -266,7 +266,7 @@ void CanvasViewTest::eraserWithoutASizeHasACursor()
     QVERIFY(cursor.shape() != Qt::BitmapCursor || !cursor.pixmap().isNull());
 }
 
-void CanvasViewTest::handClosesWhileItDrags()
+void TestCanvasView::handClosesWhileItDrags()
 {
     Canvas canvas;
     QSignalSpy hand(&canvas.view, &ZelGraphicsView::HandTool);
@@ -283,7 +283,7 @@ void CanvasViewTest::handClosesWhileItDrags()
     QCOMPARE(canvas.view.viewport()->cursor().shape(), Qt::OpenHandCursor);
 }
 
-void CanvasViewTest::settingsByDefault()
+void TestCanvasView::settingsByDefault()
 {
     Canvas canvas;
     QCOMPARE(canvas.dabSize(ToolKeepMarker), QSizeF(10, 10));
@@ -308,7 +308,7 @@ void CanvasViewTest::settingsByDefault()
     QVERIFY(found);
 }
 
-void CanvasViewTest::settingsAreRead()
+void TestCanvasView::settingsAreRead()
 {
     Canvas canvas;
     // As texts, as a file of settings holds them.
@@ -331,7 +331,7 @@ void CanvasViewTest::settingsAreRead()
     QCOMPARE(canvas.circle()->rect(), QRectF(39, 39, 22, 22));
 }
 
-void CanvasViewTest::sameSizeLeavesBlueMarkerAndOpacity()
+void TestCanvasView::sameSizeLeavesBlueMarkerAndOpacity()
 {
     Canvas canvas;
     const auto blueDab = [&canvas] {
@@ -365,7 +365,7 @@ void CanvasViewTest::sameSizeLeavesBlueMarkerAndOpacity()
     QCOMPARE(blueDab(), qMakePair(40.0, 0.5));
 }
 
-void CanvasViewTest::sizeIsAByte_data()
+void TestCanvasView::sizeIsAByte_data()
 {
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<int>("size");
@@ -376,7 +376,7 @@ void CanvasViewTest::sizeIsAByte_data()
     QTest::newRow("no number") << QVariant("large") << 0;
 }
 
-void CanvasViewTest::sizeIsAByte()
+void TestCanvasView::sizeIsAByte()
 {
     QFETCH(QVariant, stored);
     QFETCH(int, size);
@@ -388,7 +388,7 @@ void CanvasViewTest::sizeIsAByte()
     QCOMPARE(canvas.dabSize(ToolRemoveMarker), QSizeF(size, size));
 }
 
-void CanvasViewTest::resizeScales_data()
+void TestCanvasView::resizeScales_data()
 {
     QTest::addColumn<QSize>("scene");
     QTest::addColumn<double>("zoom");
@@ -426,7 +426,7 @@ void CanvasViewTest::resizeScales_data()
     QTest::newRow("to nothing") << small << 1.0 << QSize(400, 300) << QSize(0, 0) << 1.0;
 }
 
-void CanvasViewTest::resizeScales()
+void TestCanvasView::resizeScales()
 {
     QFETCH(QSize, scene);
     QFETCH(double, zoom);
@@ -446,7 +446,7 @@ void CanvasViewTest::resizeScales()
     QVERIFY(qFuzzyCompare(canvas.view.transform().m22(), zoom * factor));
 }
 
-void CanvasViewTest::resizeWithoutSceneDoesNothing()
+void TestCanvasView::resizeWithoutSceneDoesNothing()
 {
     Canvas canvas;
     canvas.view.setScene(nullptr);
@@ -464,7 +464,7 @@ void CanvasViewTest::resizeWithoutSceneDoesNothing()
     QCOMPARE(canvas.view.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
 }
 
-void CanvasViewTest::realResizeKeepsThePictureInStep()
+void TestCanvasView::realResizeKeepsThePictureInStep()
 {
     Canvas canvas;
     canvas.view.resize(420, 320);
@@ -479,7 +479,7 @@ void CanvasViewTest::realResizeKeepsThePictureInStep()
     QVERIFY(qFuzzyCompare(canvas.view.transform().m22(), factor));
 }
 
-void CanvasViewTest::pressAndReleaseWithoutScene()
+void TestCanvasView::pressAndReleaseWithoutScene()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -506,7 +506,7 @@ void CanvasViewTest::pressAndReleaseWithoutScene()
     QCOMPARE(canvas.stack.count(), 1);
 }
 
-void CanvasViewTest::everyButtonHolds()
+void TestCanvasView::everyButtonHolds()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -519,7 +519,7 @@ void CanvasViewTest::everyButtonHolds()
     }
 }
 
-void CanvasViewTest::noToolDoesNothing()
+void TestCanvasView::noToolDoesNothing()
 {
     Canvas canvas;
     QSignalSpy brush(&canvas.view, &ZelGraphicsView::AnyBrush);
@@ -532,7 +532,7 @@ void CanvasViewTest::noToolDoesNothing()
     QCOMPARE(brush.count() + hand.count(), 0);
 }
 
-void CanvasViewTest::viewWithoutSettingsOrStack()
+void TestCanvasView::viewWithoutSettingsOrStack()
 {
     Canvas canvas;
     canvas.view.settings = nullptr;
@@ -560,7 +560,7 @@ void CanvasViewTest::viewWithoutSettingsOrStack()
     }
 }
 
-void CanvasViewTest::selectingAnyToolRemovesTheCircle_data()
+void TestCanvasView::selectingAnyToolRemovesTheCircle_data()
 {
     QTest::addColumn<DrawingTools>("shown");
     QTest::addColumn<DrawingTools>("next");
@@ -569,7 +569,7 @@ void CanvasViewTest::selectingAnyToolRemovesTheCircle_data()
             QTest::addRow("%d to %d", int(shown), int(next)) << shown << next;
 }
 
-void CanvasViewTest::selectingAnyToolRemovesTheCircle()
+void TestCanvasView::selectingAnyToolRemovesTheCircle()
 {
     QFETCH(DrawingTools, shown);
     QFETCH(DrawingTools, next);
@@ -582,7 +582,7 @@ void CanvasViewTest::selectingAnyToolRemovesTheCircle()
     QCOMPARE(canvas.scene.items().size(), 1);
 }
 
-void CanvasViewTest::leavingRemovesTheCircle()
+void TestCanvasView::leavingRemovesTheCircle()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepBrush);
@@ -596,7 +596,7 @@ void CanvasViewTest::leavingRemovesTheCircle()
     QCOMPARE(canvas.circle()->rect(), QRectF(47, 45, 10, 10));
 }
 
-void CanvasViewTest::circleFollowsAndHides()
+void TestCanvasView::circleFollowsAndHides()
 {
     Canvas canvas;
     for (const DrawingTools tool : {ToolKeepBrush, ToolRemoveBrush, ToolBlueMarker}) {
@@ -618,7 +618,7 @@ void CanvasViewTest::circleFollowsAndHides()
         QCOMPARE(canvas.circle(), nullptr);
         QCOMPARE(canvas.scene.items().size(), 1);
     }
-    // Whole numbers are cut off, not rounded.
+    // Fractions are truncated, not rounded.
     canvas.view.setTransform(QTransform::fromScale(4, 4));
     canvas.view.horizontalScrollBar()->setValue(0);
     canvas.view.verticalScrollBar()->setValue(0);
@@ -628,7 +628,7 @@ void CanvasViewTest::circleFollowsAndHides()
     QCOMPARE(canvas.circle()->rect(), QRectF(24, 24, 2, 2));
 }
 
-void CanvasViewTest::circleTakesANewSize()
+void TestCanvasView::circleTakesANewSize()
 {
     Canvas canvas;
     canvas.view.updateellipse(20); // none is shown
@@ -645,7 +645,7 @@ void CanvasViewTest::circleTakesANewSize()
     QCOMPARE(canvas.circle()->rect(), QRectF(55, 55, 10, 10));
 }
 
-void CanvasViewTest::circleAndPenOutliveNothing_data()
+void TestCanvasView::circleAndPenOutliveNothing_data()
 {
     QTest::addColumn<DrawingTools>("tool");
     QTest::addColumn<QString>("loss");
@@ -654,7 +654,7 @@ void CanvasViewTest::circleAndPenOutliveNothing_data()
             QTest::addRow("%d, %s", int(tool), loss) << tool << QString(loss);
 }
 
-void CanvasViewTest::circleAndPenOutliveNothing()
+void TestCanvasView::circleAndPenOutliveNothing()
 {
     QFETCH(DrawingTools, tool);
     QFETCH(QString, loss);
@@ -705,7 +705,7 @@ void CanvasViewTest::circleAndPenOutliveNothing()
         QVERIFY(item->zValue() != 20.0); // no circle is left behind
 }
 
-void CanvasViewTest::partsGoInAnyOrder()
+void TestCanvasView::partsGoInAnyOrder()
 {
     for (int order = 0; order < 6; ++order) {
         QSettings settings;
@@ -739,5 +739,5 @@ void CanvasViewTest::partsGoInAnyOrder()
     }
 }
 
-ORNEVO_TEST_MAIN(CanvasViewTest)
+ORNEVO_TEST_MAIN(TestCanvasView)
 #include "tst_canvasview.moc"

@@ -96,7 +96,7 @@ ServersCursor cursorOnTheScreen()
 } // namespace
 
 /// The cursors on a screen with two pixels a point.
-class DenseCursorsTest : public QObject
+class TestDenseCursors : public QObject
 {
     Q_OBJECT
 
@@ -109,13 +109,13 @@ private:
     static QCursor cursorOf(DrawingTools tool, ServersCursor &seen);
 };
 
-void DenseCursorsTest::initTestCase()
+void TestDenseCursors::initTestCase()
 {
     resources::registerAll();
     QSettings().setValue("ERASERMSIZE", eraserWidth);
 }
 
-QCursor DenseCursorsTest::cursorOf(DrawingTools tool, ServersCursor &seen)
+QCursor TestDenseCursors::cursorOf(DrawingTools tool, ServersCursor &seen)
 {
     QSettings settings;
     ZelGraphicsView view;
@@ -136,7 +136,7 @@ QCursor DenseCursorsTest::cursorOf(DrawingTools tool, ServersCursor &seen)
     return view.viewport()->cursor();
 }
 
-void DenseCursorsTest::cursorsAreDense_data()
+void TestDenseCursors::cursorsAreDense_data()
 {
     QTest::addColumn<DrawingTools>("tool");
     QTest::addColumn<QString>("plain");
@@ -154,7 +154,7 @@ void DenseCursorsTest::cursorsAreDense_data()
                                    << ":/icons/redpencilv.PNG" << QSize(8, 22) << QPoint(4, 21);
 }
 
-void DenseCursorsTest::cursorsAreDense()
+void TestDenseCursors::cursorsAreDense()
 {
     QFETCH(DrawingTools, tool);
     QFETCH(QString, plain);
@@ -187,6 +187,6 @@ void DenseCursorsTest::cursorsAreDense()
 int main(int argc, char *argv[])
 {
     qputenv("QT_SCALE_FACTOR", "2"); // read once, when the application starts: hence a program of its own
-    return testsupport::runTest<DenseCursorsTest>(argc, argv);
+    return testsupport::runTest<TestDenseCursors>(argc, argv);
 }
 #include "tst_densecursors.moc"

@@ -60,7 +60,7 @@ struct Canvas
     testsupport::CanvasMouse mouse;
 };
 
-/// A graphics item that tells of its end.
+/// A graphics item that reports its end.
 class TellingRect : public QGraphicsRectItem
 {
 public:
@@ -73,7 +73,7 @@ private:
 
 } // namespace
 
-class MarkersTest : public QObject
+class TestMarkers : public QObject
 {
     Q_OBJECT
 
@@ -113,7 +113,7 @@ private slots:
     void penTellsWhatItDoes();
 };
 
-void MarkersTest::keepDab()
+void TestMarkers::keepDab()
 {
     Canvas canvas;
     canvas.set("KEEPMSIZE", 13);
@@ -133,7 +133,7 @@ void MarkersTest::keepDab()
     QCOMPARE(canvas.stack.command(0)->text(), QString());
 }
 
-void MarkersTest::removeDab()
+void TestMarkers::removeDab()
 {
     Canvas canvas;
     canvas.set("REMOVEMSIZE", 7);
@@ -152,7 +152,7 @@ void MarkersTest::removeDab()
     QVERIFY(dynamic_cast<const CMarkerCommand *>(canvas.stack.command(0)) != nullptr);
 }
 
-void MarkersTest::clickWithoutMovementLaysNothing()
+void TestMarkers::clickWithoutMovementLaysNothing()
 {
     Canvas canvas;
     for (const DrawingTools tool : {ToolKeepMarker, ToolRemoveMarker, ToolBlueMarker}) {
@@ -164,7 +164,7 @@ void MarkersTest::clickWithoutMovementLaysNothing()
     QCOMPARE(canvas.stack.count(), 0);
 }
 
-void MarkersTest::moveWithoutButtonLaysNothing()
+void TestMarkers::moveWithoutButtonLaysNothing()
 {
     Canvas canvas;
     for (const DrawingTools tool : {ToolKeepMarker, ToolRemoveMarker, ToolBlueMarker, ToolPen}) {
@@ -178,7 +178,7 @@ void MarkersTest::moveWithoutButtonLaysNothing()
     QCOMPARE(canvas.stack.count(), 0);
 }
 
-void MarkersTest::whereADabIsAccepted_data()
+void TestMarkers::whereADabIsAccepted_data()
 {
     QTest::addColumn<QPoint>("position");
     QTest::addColumn<bool>("accepted");
@@ -193,7 +193,7 @@ void MarkersTest::whereADabIsAccepted_data()
     QTest::newRow("out at the upper left") << QPoint(-20, -20) << false;
 }
 
-void MarkersTest::whereADabIsAccepted()
+void TestMarkers::whereADabIsAccepted()
 {
     QFETCH(QPoint, position);
     QFETCH(bool, accepted);
@@ -211,7 +211,7 @@ void MarkersTest::whereADabIsAccepted()
     }
 }
 
-void MarkersTest::halfPixelsAtDoubleZoom()
+void TestMarkers::halfPixelsAtDoubleZoom()
 {
     Canvas canvas;
     canvas.view.setTransform(QTransform::fromScale(2, 2));
@@ -231,7 +231,7 @@ void MarkersTest::halfPixelsAtDoubleZoom()
              QRectF(1.5, 2.5, 10, 10));
 }
 
-void MarkersTest::onlyTheExtentOfTheSceneCounts()
+void TestMarkers::onlyTheExtentOfTheSceneCounts()
 {
     Canvas canvas(QRectF(50, 50, 200, 150)); // where it starts does not matter
     canvas.view.SetTool(ToolKeepMarker);
@@ -245,7 +245,7 @@ void MarkersTest::onlyTheExtentOfTheSceneCounts()
     QCOMPARE(dabsAt(199, 149), 2);
 }
 
-void MarkersTest::dabMayReachBeyondTheEdge()
+void TestMarkers::dabMayReachBeyondTheEdge()
 {
     Canvas canvas;
     canvas.set("KEEPMSIZE", 30);
@@ -256,7 +256,7 @@ void MarkersTest::dabMayReachBeyondTheEdge()
              QRectF(195, 145, 30, 30));
 }
 
-void MarkersTest::everyMoveLaysOneDab()
+void TestMarkers::everyMoveLaysOneDab()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolRemoveMarker);
@@ -265,7 +265,7 @@ void MarkersTest::everyMoveLaysOneDab()
     QCOMPARE(canvas.stack.count(), 4);
 }
 
-void MarkersTest::dabsShowOnLargePhotos_data()
+void TestMarkers::dabsShowOnLargePhotos_data()
 {
     QTest::addColumn<DrawingTools>("tool");
     QTest::addColumn<QColor>("colour");
@@ -274,7 +274,7 @@ void MarkersTest::dabsShowOnLargePhotos_data()
 }
 
 /// A dab of few pixels of a photo that is shown much reduced would be a dot that nobody finds again.
-void MarkersTest::dabsShowOnLargePhotos()
+void TestMarkers::dabsShowOnLargePhotos()
 {
     QFETCH(DrawingTools, tool);
     QFETCH(QColor, colour);
@@ -311,7 +311,7 @@ void MarkersTest::dabsShowOnLargePhotos()
     QCOMPARE(coloured(), 0);
 }
 
-void MarkersTest::blueDab()
+void TestMarkers::blueDab()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolBlueMarker);
@@ -332,7 +332,7 @@ void MarkersTest::blueDab()
     QCOMPARE(canvas.stack.count(), 0);
 }
 
-void MarkersTest::blueDabAtTheEdge()
+void TestMarkers::blueDabAtTheEdge()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolBlueMarker);
@@ -345,7 +345,7 @@ void MarkersTest::blueDabAtTheEdge()
     QCOMPARE(dab->rect(), QRectF(-2, -2, 10, 10));
 }
 
-void MarkersTest::blueDabOpacity_data()
+void TestMarkers::blueDabOpacity_data()
 {
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<double>("opacity");
@@ -355,7 +355,7 @@ void MarkersTest::blueDabOpacity_data()
     QTest::newRow("10") << QVariant(10) << 1.0;
 }
 
-void MarkersTest::blueDabOpacity()
+void TestMarkers::blueDabOpacity()
 {
     QFETCH(QVariant, stored);
     QFETCH(double, opacity);
@@ -366,7 +366,7 @@ void MarkersTest::blueDabOpacity()
     QCOMPARE(canvas.scene.items().last()->opacity(), opacity);
 }
 
-void MarkersTest::undoTakesTheNewestDab()
+void TestMarkers::undoTakesTheNewestDab()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -382,7 +382,7 @@ void MarkersTest::undoTakesTheNewestDab()
     QCOMPARE(qgraphicsitem_cast<QGraphicsRectItem *>(canvas.scene.items().first())->rect().x(), 20.0);
 }
 
-void MarkersTest::redoBringsNothingBack()
+void TestMarkers::redoBringsNothingBack()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -392,7 +392,7 @@ void MarkersTest::redoBringsNothingBack()
     QCOMPARE(canvas.scene.items().size(), 0);
 }
 
-void MarkersTest::secondUndoIsHarmless()
+void TestMarkers::secondUndoIsHarmless()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -409,7 +409,7 @@ void MarkersTest::secondUndoIsHarmless()
     QCOMPARE(log.taken(), QStringList());
 }
 
-void MarkersTest::commandDeletesOnUndoOnly()
+void TestMarkers::commandDeletesOnUndoOnly()
 {
     int deaths = 0;
     QGraphicsScene scene;
@@ -435,7 +435,7 @@ void MarkersTest::commandDeletesOnUndoOnly()
     nothing.redo();
 }
 
-void MarkersTest::commandOfAnotherScene()
+void TestMarkers::commandOfAnotherScene()
 {
     int deaths = 0;
     QGraphicsScene other;
@@ -451,7 +451,7 @@ void MarkersTest::commandOfAnotherScene()
     QCOMPARE(other.items().size(), 0);
 }
 
-void MarkersTest::undoAfterErasing()
+void TestMarkers::undoAfterErasing()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -472,7 +472,7 @@ void MarkersTest::undoAfterErasing()
     QCOMPARE(log.taken(), QStringList());
 }
 
-void MarkersTest::undoAfterTheSceneWasCleared()
+void TestMarkers::undoAfterTheSceneWasCleared()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -485,7 +485,7 @@ void MarkersTest::undoAfterTheSceneWasCleared()
     QCOMPARE(canvas.scene.items().size(), 0);
 }
 
-void MarkersTest::erasedDabsAreDiscarded()
+void TestMarkers::erasedDabsAreDiscarded()
 {
     int deaths = 0;
     {
@@ -511,7 +511,7 @@ void MarkersTest::erasedDabsAreDiscarded()
     QCOMPARE(deaths, 4); // the view's end is the end of what it erased
 }
 
-void MarkersTest::eraserTakesRectanglesAndEllipsesOnly()
+void TestMarkers::eraserTakesRectanglesAndEllipsesOnly()
 {
     Canvas canvas;
     QPixmap pixmap(20, 20);
@@ -534,7 +534,7 @@ void MarkersTest::eraserTakesRectanglesAndEllipsesOnly()
     QCOMPARE(canvas.stack.count(), 0);
 }
 
-void MarkersTest::eraserGoesByShape()
+void TestMarkers::eraserGoesByShape()
 {
     Canvas canvas;
     canvas.scene.addEllipse(50, 50, 60, 60, QPen(Qt::NoPen), QBrush(Qt::red));
@@ -545,7 +545,7 @@ void MarkersTest::eraserGoesByShape()
     QCOMPARE(canvas.scene.items().size(), 0);
 }
 
-void MarkersTest::eraserReach()
+void TestMarkers::eraserReach()
 {
     Canvas canvas;
     canvas.set("ERASERMSIZE", 21); // reaches 10 to each side
@@ -565,7 +565,7 @@ void MarkersTest::eraserReach()
     QCOMPARE(canvas.scene.items().size(), 0);
 }
 
-void MarkersTest::eraserErasesOnPressOnly()
+void TestMarkers::eraserErasesOnPressOnly()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolKeepMarker);
@@ -579,7 +579,7 @@ void MarkersTest::eraserErasesOnPressOnly()
     QCOMPARE(canvas.scene.items().size(), 2);
 }
 
-void MarkersTest::penDrawsAPath()
+void TestMarkers::penDrawsAPath()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolPen);
@@ -608,7 +608,7 @@ void MarkersTest::penDrawsAPath()
     QCOMPARE(canvas.count(QGraphicsPathItem::Type), 2);
 }
 
-void MarkersTest::penLetsGoOfTheButton()
+void TestMarkers::penLetsGoOfTheButton()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolPen);
@@ -620,7 +620,7 @@ void MarkersTest::penLetsGoOfTheButton()
     QCOMPARE(canvas.stack.count(), 0);
 }
 
-void MarkersTest::penNeedsTheLeftButton()
+void TestMarkers::penNeedsTheLeftButton()
 {
     Canvas canvas;
     canvas.view.SetTool(ToolPen);
@@ -639,24 +639,25 @@ void MarkersTest::penNeedsTheLeftButton()
     QCOMPARE(canvas.scene.items().size(), 1);
 }
 
-void MarkersTest::penTellsWhatItDoes()
+void TestMarkers::penTellsWhatItDoes()
 {
     Canvas canvas;
-    QStringList told;
-    connect(&canvas.view, &ZelGraphicsView::ProgressStage, this, [&told](char *text) { told << text; });
+    QStringList reported;
+    connect(&canvas.view, &ZelGraphicsView::ProgressStage, this,
+            [&reported](char *text) { reported << text; });
     canvas.view.SetTool(ToolPen);
     canvas.mouse.move(QPoint(10, 10));
     canvas.mouse.press(QPoint(20, 20));
-    QCOMPARE(told, QStringList());
+    QCOMPARE(reported, QStringList());
     canvas.mouse.move(QPoint(30, 25));
-    QCOMPARE(told, QStringList({"mouse moved", "path empty", "path z is 0"}));
-    told.clear();
+    QCOMPARE(reported, QStringList({"mouse moved", "path empty", "path z is 0"}));
+    reported.clear();
     canvas.mouse.move(QPoint(40, 45));
-    QCOMPARE(told, QStringList({"mouse moved", "path z is 0"}));
-    told.clear();
+    QCOMPARE(reported, QStringList({"mouse moved", "path z is 0"}));
+    reported.clear();
     canvas.mouse.release(QPoint(40, 45));
-    QCOMPARE(told, QStringList({"Released"}));
+    QCOMPARE(reported, QStringList({"Released"}));
 }
 
-ORNEVO_TEST_MAIN(MarkersTest)
+ORNEVO_TEST_MAIN(TestMarkers)
 #include "tst_markers.moc"

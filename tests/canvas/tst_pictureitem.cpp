@@ -111,12 +111,12 @@ int largestDifference(const QImage &a, const QImage &b)
 } // namespace
 
 /// The item that shows a large picture and repaints little of it.
-class PictureItemTest : public QObject
+class TestPictureItem : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void reducedPixelsAreMeans_data()
+    void mipmapPixelsAreMeans_data()
     {
         QTest::addColumn<int>("factor");
         QTest::newRow("half") << 2;
@@ -125,7 +125,7 @@ private slots:
     }
 
     /// Noise, of which every pixel that is left out would show.
-    void reducedPixelsAreMeans()
+    void mipmapPixelsAreMeans()
     {
         QFETCH(int, factor);
         const QImage photo =
@@ -144,7 +144,7 @@ private slots:
                 means.setPixel(x, y, qRgb(red / count, green / count, blue / count));
             }
         }
-        // Each halving rounds, and the drawing once more.
+        // Each mipmap level rounds, and the drawing once more.
         const int difference = largestDifference(shownAlone(photo, 1.0 / factor, means.size()), means);
         QVERIFY2(difference <= 4, qPrintable(QString::number(difference)));
     }
@@ -268,5 +268,5 @@ private slots:
     }
 };
 
-ORNEVO_TEST_MAIN(PictureItemTest)
+ORNEVO_TEST_MAIN(TestPictureItem)
 #include "tst_pictureitem.moc"

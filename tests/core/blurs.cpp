@@ -39,10 +39,10 @@ std::vector<int> progressOf(int width, int height, int size)
 {
     const Picture picture = randomArgbPicture(width, height, 58);
     Picture blurred = picture;
-    std::vector<int> told;
+    std::vector<int> reported;
     ornevo::blurFourChannels(viewOf(picture), mutableViewOf(blurred), size, 1.0,
-                             [&told](int percent) { told.push_back(percent); });
-    return told;
+                             [&reported](int percent) { reported.push_back(percent); });
+    return reported;
 }
 
 } // namespace

@@ -136,11 +136,11 @@ TEST(EdgeMap, tellsAndStops)
 {
     const Picture picture = randomPicture(40, 30, 3);
     std::vector<std::uint8_t> edges(40 * 30);
-    std::vector<int> told;
+    std::vector<int> reported;
     ornevo::computeEdgeMap(viewOf(picture), {edges.data(), 40, 30},
-                           [&](int percent) { told.push_back(percent); });
-    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
-    EXPECT_EQ(told.back(), 100);
+                           [&](int percent) { reported.push_back(percent); });
+    EXPECT_TRUE(std::is_sorted(reported.begin(), reported.end()));
+    EXPECT_EQ(reported.back(), 100);
     EXPECT_THROW(ornevo::computeEdgeMap(viewOf(picture), {edges.data(), 40, 30},
                                         [](int) { throw std::runtime_error("enough"); }),
                  std::runtime_error);

@@ -163,13 +163,13 @@ TEST(Flooding, tellsEveryTenThousandPixelsAndStops)
     const Bytes edges(picture.data.size(), 0);
     const std::vector<int> keep{300 * 50 + 60};
     const std::vector<int> remove{300 * 150 + 240};
-    std::vector<int> told;
+    std::vector<int> reported;
     const auto flood = [&](const ornevo::ProgressCallback &progress) {
         return ornevo::floodTwoRegions(viewOf(picture), planeOf(edges, picture), keep, remove, progress);
     };
-    EXPECT_TRUE(flood([&](int percent) { told.push_back(percent); }).flooded());
+    EXPECT_TRUE(flood([&](int percent) { reported.push_back(percent); }).flooded());
     // 298 x 198 pixels less two seeds: five full ten thousands
-    EXPECT_EQ(told, std::vector<int>({16, 33, 50, 66, 83}));
+    EXPECT_EQ(reported, std::vector<int>({16, 33, 50, 66, 83}));
     EXPECT_THROW(flood([](int) { throw std::runtime_error("enough"); }), std::runtime_error);
 }
 

@@ -45,14 +45,14 @@ TEST(Waves, areTheReference)
 TEST(Waves, tellAndStop)
 {
     const Picture picture = randomPicture(10, 40, 1);
-    std::vector<int> told;
+    std::vector<int> reported;
     ornevo::segmentWaves(
         viewOf(picture), 10, [](const ornevo::PixelIndices &) {},
-        [&](int percent) { told.push_back(percent); });
+        [&](int percent) { reported.push_back(percent); });
     std::vector<int> expected;
     for (int y = 0; y < 40; ++y)
         expected.push_back(y * 100 / 40);
-    EXPECT_EQ(told, expected);
+    EXPECT_EQ(reported, expected);
     EXPECT_THROW(
         ornevo::segmentWaves(viewOf(picture), 10,
                              [](const ornevo::PixelIndices &) { throw std::runtime_error("enough"); }),

@@ -3,6 +3,7 @@
 
 #include "cutout/FileReplacement.h"
 #include "cutout/RegularFile.h"
+#include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TestMain.h"
 
@@ -14,15 +15,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using testsupport::contentsOf;
+
 namespace {
 
 constexpr uid_t nobody = 65534;
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 struct stat statusOf(const QString &path)
 {
@@ -162,7 +159,7 @@ private slots:
         setMode(m_folder->path(), 0555);
         {
             const Guest guest;
-            const FullDisk disk(1000);
+            const testsupport::FullDisk disk(1000);
             QVERIFY(!cutout::replaceFile(path("file"), QByteArray(5000, 'n')));
         }
         QCOMPARE(contentsOf(path("file")), "older");
@@ -278,11 +275,7 @@ private:
         return QDir(m_folder->path())
             .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
     }
-    void put(const QByteArray &contents) const
-    {
-        QFile file(path("file"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
-    }
+    void put(const QByteArray &contents) const { testsupport::put(path("file"), contents); }
     static void setMode(const QString &path, mode_t mode)
     {
         QCOMPARE(chmod(QFile::encodeName(path).constData(), mode & 07777), 0);

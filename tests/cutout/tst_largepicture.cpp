@@ -13,7 +13,7 @@
 #include <vector>
 
 /// A picture in huge pages behaves like any other.
-class LargePictureTest : public QObject
+class TestLargePicture : public QObject
 {
     Q_OBJECT
 
@@ -124,5 +124,5 @@ private slots:
     }
 };
 
-ORNEVO_TEST_MAIN(LargePictureTest)
+ORNEVO_TEST_MAIN(TestLargePicture)
 #include "tst_largepicture.moc"

@@ -32,7 +32,7 @@ QImage argb(const QPixmap &pixmap)
     return argb(pixmap.toImage());
 }
 
-QImage board()
+QImage checkerboard()
 {
     QImage picture(8, 8, QImage::Format_RGB32);
     for (int y = 0; y < 8; ++y)
@@ -54,7 +54,7 @@ void brush(QImage &picture, const QList<QRect> &squares, QPoint offset, int chan
     cutout::changeAlpha(picture, cutout::brushBatch(squares, offset, picture.size()).pixels, change);
 }
 
-/// What the program hands over for an export whose background item shows `source`.
+/// What the program passes on for an export whose background item shows `source`.
 cutout::ExportLayers layersOf(const reference::ExportSource &source)
 {
     cutout::ExportLayers layers;
@@ -94,7 +94,7 @@ class TestMaskPictures : public QObject
 private slots:
     void indicesAgree();
     void indexNamesAPixelOfItsRow();
-    void indicesOffThePictureArePassedOver();
+    void indicesOffThePictureAreIgnored();
     void indicesOfNoPicture();
     void inkAndPaper();
     void cutOutAgrees();
@@ -114,8 +114,8 @@ private slots:
     void backgroundAgrees_data();
     void backgroundAgrees();
     void backgroundPictureKeepsItsProportions();
-    void backgroundOverBoardsOfAnySize();
-    void backgroundWithoutABoard();
+    void backgroundOverCheckerboardsOfAnySize();
+    void backgroundWithoutACheckerboard();
     void exportAgrees_data();
     void exportAgrees();
     void exportOfManyTiles();
@@ -147,7 +147,7 @@ void TestMaskPictures::indexNamesAPixelOfItsRow()
             QCOMPARE(picture.pixel(x, y), x == 1 && y == 2 ? black : white);
 }
 
-void TestMaskPictures::indicesOffThePictureArePassedOver()
+void TestMaskPictures::indicesOffThePictureAreIgnored()
 {
     const QList<int> off{std::numeric_limits<int>::min(), -1, 12, 13, std::numeric_limits<int>::max()};
     VERIFY_SAME("off", cutout::paintIndices({4, 3}, off, black, white),
@@ -355,19 +355,20 @@ void TestMaskPictures::backgroundAgrees()
     const QImage chosen =
         picture.isEmpty() ? QImage() : testpictures::randomImage(picture.width(), picture.height(), 83);
     for (const QSize size : {QSize(1, 1), QSize(40, 30), QSize(8, 8), QSize(7, 91)})
-        VERIFY_SAME(described(size), argb(cutout::backgroundLayer(size, colour, board(), chosen)),
-                    argb(reference::backgroundLayer(colour, chosen, board(), size.width(), size.height())));
+        VERIFY_SAME(
+            described(size), argb(cutout::backgroundLayer(size, colour, checkerboard(), chosen)),
+            argb(reference::backgroundLayer(colour, chosen, checkerboard(), size.width(), size.height())));
 }
 
 void TestMaskPictures::backgroundPictureKeepsItsProportions()
 {
-    const QPixmap layer = cutout::backgroundLayer({40, 30}, 0, board(), filled(100, 20, 0xFF336699));
-    QCOMPARE(layer.size(), QSize(40, 8)); // a strip stays uncovered
+    const QPixmap layer = cutout::backgroundLayer({40, 30}, 0, checkerboard(), filled(100, 20, 0xFF336699));
+    QCOMPARE(layer.size(), QSize(40, 8)); // a part stays uncovered
     QCOMPARE(argb(layer).pixel(20, 4), 0xFF336699);
 }
 
-/// Which rows of the board are repeated depends on whether its width stays as it is.
-void TestMaskPictures::backgroundOverBoardsOfAnySize()
+/// Which rows of the checkerboard are repeated depends on whether its width stays as it is.
+void TestMaskPictures::backgroundOverCheckerboardsOfAnySize()
 {
     std::mt19937 random(7);
     const auto upTo = [&random](unsigned int most) { return static_cast<int>(1 + random() % most); };
@@ -381,11 +382,11 @@ void TestMaskPictures::backgroundOverBoardsOfAnySize()
     }
 }
 
-void TestMaskPictures::backgroundWithoutABoard()
+void TestMaskPictures::backgroundWithoutACheckerboard()
 {
     QVERIFY(cutout::backgroundLayer({40, 30}, 0x80FF0000, QImage(), QImage()).isNull());
     QVERIFY(cutout::backgroundLayer({40, 30}, white, QImage(), QImage()).isNull());
-    QVERIFY(cutout::backgroundLayer({0, 0}, white, board(), QImage()).isNull());
+    QVERIFY(cutout::backgroundLayer({0, 0}, white, checkerboard(), QImage()).isNull());
     QVERIFY(!cutout::backgroundLayer({40, 30}, white, QImage(), filled(4, 3, white)).isNull());
 }
 

@@ -4,6 +4,7 @@
 #include "cutout/PictureFile.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/support/Differences.h"
+#include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TestMain.h"
 
@@ -15,6 +16,9 @@
 
 #include <unistd.h>
 
+using testsupport::contentsOf;
+using testsupport::put;
+
 namespace {
 
 QByteArray encoded(const QImage &picture, const QByteArray &format)
@@ -24,18 +28,6 @@ QByteArray encoded(const QImage &picture, const QByteArray &format)
     writer.setQuality(100);
     writer.write(picture);
     return buffer.data();
-}
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool put(const QString &path, const QByteArray &contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
 }
 
 QByteArray bigEndian16(int value)
@@ -171,7 +163,7 @@ QByteArray animation()
     return gif + ";";
 }
 
-/// A BMP of 32 bits a pixel whose pixels, all 0, take no room on the disk.
+/// A BMP of 32 bits a pixel whose pixels, all 0, take no space on the disk.
 bool putHollowBmp(const QString &path, int width, int height)
 {
     const qint64 bytes = qint64{4} * width * height;
@@ -180,7 +172,8 @@ bool putHollowBmp(const QString &path, int width, int height)
     header += littleEndian(static_cast<quint32>(width), 4) + littleEndian(static_cast<quint32>(height), 4);
     header += littleEndian(1, 2) + littleEndian(32, 2) + QByteArray(24, '\0');
     QFile file(path);
-    return put(path, header) && file.open(QIODevice::ReadWrite) && file.resize(bytes + 54);
+    put(path, header);
+    return file.open(QIODevice::ReadWrite) && file.resize(bytes + 54);
 }
 
 } // namespace
@@ -264,11 +257,11 @@ void TestPictureFile::readsByContentsAndNotByName()
     const QImage picture = testpictures::blobImage(20, 10, 6);
     for (const QString name : {"a.jpg", "b.png", "c.txt", "d", "e.gif", "Foto ä 写真.PNG"}) {
         for (const char *format : {"png", "bmp"}) {
-            QVERIFY(put(path(name), encoded(picture, format)));
+            put(path(name), encoded(picture, format));
             VERIFY_SAME(name.toUtf8(), cutout::readPicture(path(name)).convertToFormat(QImage::Format_RGB32),
                         picture);
         }
-        QVERIFY(put(path(name), encoded(picture, "jpg")));
+        put(path(name), encoded(picture, "jpg"));
         QCOMPARE(cutout::readPicture(path(name)).size(), picture.size());
     }
 }
@@ -295,7 +288,7 @@ void TestPictureFile::standsPhotosUpright()
     QFETCH(int, orientation);
     QFETCH(QTransform, turn);
     const QImage picture = quarters(64, 32);
-    QVERIFY(put(path("photo.jpg"), withOrientation(encoded(picture, "jpg"), orientation)));
+    put(path("photo.jpg"), withOrientation(encoded(picture, "jpg"), orientation));
     const QImage photo = cutout::readPicture(path("photo.jpg"));
     const QImage expected = picture.transformed(turn);
     QCOMPARE(photo.size(), expected.size());
@@ -307,13 +300,13 @@ void TestPictureFile::standsPhotosUpright()
 void TestPictureFile::readsDeepColour()
 {
     const QImage deep = testpictures::randomImage(9, 7, 7).convertToFormat(QImage::Format_RGBX64);
-    QVERIFY(put(path("deep.png"), encoded(deep, "png")));
+    put(path("deep.png"), encoded(deep, "png"));
     const QImage back = cutout::readPicture(path("deep.png"));
     QCOMPARE(back.depth(), 64);
     VERIFY_SAME("16 bits", back.convertToFormat(QImage::Format_RGB32), testpictures::randomImage(9, 7, 7));
     QImage grey(4, 4, QImage::Format_Grayscale16);
     grey.fill(QColor(70, 70, 70));
-    QVERIFY(put(path("grey.png"), encoded(grey, "png")));
+    put(path("grey.png"), encoded(grey, "png"));
     QCOMPARE(cutout::readPicture(path("grey.png")).convertToFormat(QImage::Format_RGB32).pixel(1, 1),
              qRgb(70, 70, 70));
 }
@@ -327,8 +320,9 @@ void TestPictureFile::readsPalettes()
     const QImage grey = testpictures::greyStepsImage(6, 5, 8);
     const QImage bits = palette.convertToFormat(QImage::Format_Mono);
     for (const char *format : {"png", "bmp", "tiff"}) {
-        QVERIFY(put(path("p"), encoded(palette, format)) && put(path("b"), encoded(bits, format)));
-        QVERIFY(put(path("g"), encoded(grey.convertToFormat(QImage::Format_Grayscale8), format)));
+        put(path("p"), encoded(palette, format));
+        put(path("b"), encoded(bits, format));
+        put(path("g"), encoded(grey.convertToFormat(QImage::Format_Grayscale8), format));
         VERIFY_SAME(format, cutout::readPicture(path("p")).convertToFormat(QImage::Format_RGB32),
                     palette.convertToFormat(QImage::Format_RGB32));
         VERIFY_SAME(format, cutout::readPicture(path("g")).convertToFormat(QImage::Format_RGB32), grey);
@@ -339,18 +333,18 @@ void TestPictureFile::readsPalettes()
 
 void TestPictureFile::readsInksOfPrinters()
 {
-    QVERIFY(put(path("inks.jpg"), inkJpeg({200, 100, 50, 255})));
+    put(path("inks.jpg"), inkJpeg({200, 100, 50, 255}));
     const QImage bright = cutout::readPicture(path("inks.jpg"));
     QCOMPARE(bright.size(), QSize(8, 8));
     QVERIFY2(nearlySame(bright.pixel(4, 4), qRgb(200, 100, 50), 2),
              qPrintable(QString::number(bright.pixel(4, 4), 16)));
-    QVERIFY(put(path("inks.jpg"), inkJpeg({200, 100, 50, 127}))); // half covered with black
+    put(path("inks.jpg"), inkJpeg({200, 100, 50, 127})); // half covered with black
     QVERIFY(nearlySame(cutout::readPicture(path("inks.jpg")).pixel(4, 4), qRgb(100, 50, 25), 2));
 }
 
 void TestPictureFile::readsTheFirstFrame()
 {
-    QVERIFY(put(path("moving.gif"), animation()));
+    put(path("moving.gif"), animation());
     QImageReader reader(path("moving.gif"));
     QVERIFY(!reader.read().isNull());
     QCOMPARE(reader.read().convertToFormat(QImage::Format_RGB32).pixel(0, 0),
@@ -380,9 +374,9 @@ void TestPictureFile::refusesAHeaderThatPromisesTooMuch()
 {
     QByteArray bmp = encoded(testpictures::randomImage(4, 4, 1), "bmp");
     bmp.replace(18, 8, littleEndian(0x7FFFFFFF, 4) + littleEndian(0x7FFFFFFF, 4));
-    QVERIFY(put(path("a.bmp"), bmp));
-    QVERIFY(put(path("b.ppm"), "P6 2147483647 2147483647 255\nabc"));
-    QVERIFY(put(path("c.pgm"), "P5 60000 60000 255\nabc"));
+    put(path("a.bmp"), bmp);
+    put(path("b.ppm"), "P6 2147483647 2147483647 255\nabc");
+    put(path("c.pgm"), "P5 60000 60000 255\nabc");
     QElapsedTimer timer;
     timer.start();
     for (const char *name : {"a.bmp", "b.ppm", "c.pgm"})
@@ -408,7 +402,7 @@ void TestPictureFile::refusesWhatIsNoPicture()
 {
     QFETCH(QByteArray, contents);
     for (const char *name : {"x.png", "x.jpg", "x.bmp", "x.gif", "x.tiff", "x"}) {
-        QVERIFY(put(path(name), contents));
+        put(path(name), contents);
         QVERIFY2(cutout::readPicture(path(name)).isNull(), name);
     }
     QVERIFY(cutout::readPicture(path("missing.png")).isNull());
@@ -428,8 +422,8 @@ void TestPictureFile::survivesTruncation()
     QFETCH(QByteArray, format);
     const QByteArray whole = encoded(testpictures::blobImage(40, 30, 9), format);
     for (qsizetype bytes = 0; bytes < whole.size(); bytes += 1 + whole.size() / 60) {
-        QVERIFY(put(path("cut"), whole.left(bytes)));
-        const QImage picture = cutout::readPicture(path("cut"));
+        put(path("truncated"), whole.left(bytes));
+        const QImage picture = cutout::readPicture(path("truncated"));
         // What is left of a picture may be shown, but nothing else.
         QVERIFY(picture.isNull() || picture.size() == QSize(40, 30));
         QVERIFY(bytes >= 20 || picture.isNull());
@@ -440,15 +434,15 @@ void TestPictureFile::opensWhatIsLeftOfAPhoto()
 {
     const QImage whole = testpictures::blobImage(200, 160, 9);
     QByteArray file = encoded(whole, "jpg");
-    QVERIFY(put(path("cut.jpg"), file.left(file.size() / 2)));
+    put(path("truncated.jpg"), file.left(file.size() / 2));
     const QImage decoded = QImage::fromData(file, "jpg");
-    const QImage half = cutout::readPicture(path("cut.jpg"));
+    const QImage half = cutout::readPicture(path("truncated.jpg"));
     QCOMPARE(half.size(), whole.size());
     QCOMPARE(half.copy(0, 0, 200, 40), decoded.copy(0, 0, 200, 40)); // what came before the end is there
     QVERIFY(half.copy(0, 144, 200, 16) != decoded.copy(0, 144, 200, 16));
     file = encoded(whole, "bmp");
-    QVERIFY(put(path("cut.bmp"), file.left(file.size() / 2)));
-    const QImage rows = cutout::readPicture(path("cut.bmp")).convertToFormat(QImage::Format_RGB32);
+    put(path("truncated.bmp"), file.left(file.size() / 2));
+    const QImage rows = cutout::readPicture(path("truncated.bmp")).convertToFormat(QImage::Format_RGB32);
     QCOMPARE(rows.size(), whole.size());
     QCOMPARE(rows.copy(0, 90, 200, 70), whole.convertToFormat(QImage::Format_RGB32).copy(0, 90, 200, 70));
     QCOMPARE(rows.pixel(100, 10), 0xFF000000U); // and not whatever was in memory
@@ -457,7 +451,7 @@ void TestPictureFile::opensWhatIsLeftOfAPhoto()
 void TestPictureFile::writesInPlaceOfAnOlderFile()
 {
     const QImage picture = testpictures::randomImage(30, 20, 10);
-    QVERIFY(put(path("a.png"), QByteArray(100000, 'x')));
+    put(path("a.png"), QByteArray(100000, 'x'));
     QVERIFY(cutout::writePicture(picture, path("a.png"), "png"));
     VERIFY_SAME("png", cutout::readPicture(path("a.png")).convertToFormat(QImage::Format_RGB32), picture);
     QVERIFY(contentsOf(path("a.png")).size() < 100000);
@@ -491,7 +485,7 @@ void TestPictureFile::cannotWrite()
     QFETCH(QString, name);
     QFETCH(QByteArray, format);
     QFETCH(bool, picture);
-    QVERIFY(put(path("old.png"), "old"));
+    put(path("old.png"), "old");
     const QImage image = picture ? testpictures::randomImage(8, 8, 12) : QImage();
     QVERIFY(!cutout::writePicture(image, name.isEmpty() ? name : path(name), format));
     QCOMPARE(files(), QStringList("old.png"));
@@ -505,7 +499,7 @@ void TestPictureFile::cannotWriteIntoAReadOnlyFolder()
     QVERIFY(!cutout::writePicture(testpictures::randomImage(8, 8, 13), "/proc/a.png", "png"));
     if (geteuid() == 0)
         QSKIP("the administrator may write into any folder of the tests");
-    QVERIFY(put(path("old.png"), "old"));
+    put(path("old.png"), "old");
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
     const bool written = cutout::writePicture(testpictures::randomImage(8, 8, 13), path("a.png"), "png");
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
@@ -529,7 +523,7 @@ void TestPictureFile::failingWriteLeavesTheOldFile()
     const QByteArray before = contentsOf(name);
     bool written = true;
     {
-        const FullDisk disk(2000);
+        const testsupport::FullDisk disk(2000);
         written = cutout::writePicture(testpictures::randomImage(200, 200, 15), name, format);
     }
     QVERIFY(!written);
@@ -540,7 +534,7 @@ void TestPictureFile::failingWriteLeavesTheOldFile()
 void TestPictureFile::failingWriteLeavesNoNewFile()
 {
     {
-        const FullDisk disk(2000);
+        const testsupport::FullDisk disk(2000);
         QVERIFY(!cutout::writePicture(testpictures::randomImage(200, 200, 16), path("a.png"), "png"));
         // A picture that its format can't hold.
         QVERIFY(

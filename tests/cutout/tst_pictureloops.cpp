@@ -21,7 +21,7 @@ class TestPictureLoops : public QObject
 private slots:
     void indicesInAnyOrder();
     void cutOutOfAnyFormat();
-    void colourOverBoard();
+    void colourOverCheckerboard();
 };
 
 void TestPictureLoops::indicesInAnyOrder()
@@ -71,11 +71,11 @@ void TestPictureLoops::cutOutOfAnyFormat()
     QCOMPARE(cutout::cutOut(dense, QImage()), dense.convertToFormat(QImage::Format_ARGB32));
 }
 
-void TestPictureLoops::colourOverBoard()
+void TestPictureLoops::colourOverCheckerboard()
 {
     const QImage opaque = plateauImage(23, 17, 4, 3, 41);
     const QImage transparent = randomArgbImage(16, 16, 42);
-    for (const QImage &board :
+    for (const QImage &checkerboard :
          {opaque, transparent, transparent.copy(0, 0, 16, 2), opaque.convertToFormat(QImage::Format_Indexed8),
           opaque.convertToFormat(QImage::Format_Mono)})
         for (const QSize &size :
@@ -83,13 +83,14 @@ void TestPictureLoops::colourOverBoard()
               QSize(15, 17), QSize(17, 1031), QSize(1030, 1029), QSize(9, 380)})
             for (const QRgb colour :
                  {0x00000000U, 0x00FF0000U, 0x80FF8000U, 0x01020304U, 0xFE7F7F7FU, 0xFF336699U}) {
-                const QImage layer = cutout::backgroundLayer(size, colour, board, {}).toImage();
+                const QImage layer = cutout::backgroundLayer(size, colour, checkerboard, {}).toImage();
                 const QImage expected =
-                    reference::backgroundLayer(colour, {}, board, size.width(), size.height()).toImage();
+                    reference::backgroundLayer(colour, {}, checkerboard, size.width(), size.height())
+                        .toImage();
                 if (layer.convertToFormat(QImage::Format_ARGB32) !=
                     expected.convertToFormat(QImage::Format_ARGB32))
-                    QFAIL(qPrintable(QStringLiteral("board format %1, %2 x %3, colour %4")
-                                         .arg(board.format())
+                    QFAIL(qPrintable(QStringLiteral("checkerboard format %1, %2 x %3, colour %4")
+                                         .arg(checkerboard.format())
                                          .arg(size.width())
                                          .arg(size.height())
                                          .arg(colour, 8, 16)));

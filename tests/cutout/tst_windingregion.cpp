@@ -27,7 +27,7 @@ QByteArray wordsOf(const QPolygon &polygon)
 } // namespace
 
 /// The region of a polygon is QRegion's own, pixel by pixel.
-class WindingRegionTest : public QObject
+class TestWindingRegion : public QObject
 {
     Q_OBJECT
 
@@ -102,5 +102,5 @@ private slots:
     }
 };
 
-ORNEVO_TEST_MAIN(WindingRegionTest)
+ORNEVO_TEST_MAIN(TestWindingRegion)
 #include "tst_windingregion.moc"

@@ -23,7 +23,7 @@ template <typename T> CFrImage<T> viewOf(reference::PlaneOf<T> &plane)
     return {plane.data.data(), plane.width, plane.height, 1, 1};
 }
 
-/// A plane to write into, between two stretches of memory that nobody may touch.
+/// A plane to write into, between two blocks of memory that nobody may touch.
 template <typename T> class GuardedPlane
 {
 public:

@@ -225,7 +225,7 @@ void TestGaussianBlur::anyOfAConstantLosesAtMostRadius()
 
 void TestGaussianBlur::anyCutsAfterEveryTap()
 {
-    // Cut once at the end, the picture would come out brighter somewhere.
+    // Truncated once at the end, the picture would come out brighter somewhere.
     const Plane picture = planeFrom({33, 33}, testpictures::randomPlane(33, 33, 8));
     const Plane tapwise = filtered(any(1.4, 9), picture);
     const Plane once = filtered(ninetyNine(1.4), picture);

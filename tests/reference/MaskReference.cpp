@@ -152,20 +152,20 @@ BrushBatch applyBrush(QImage &preview, const QList<QRect> &rects, QPoint preview
     return batch;
 }
 
-QPixmap backgroundLayer(QRgb backgroundColor, const QImage &backgroundImage, const QImage &chessboard, int W,
-                        int H)
+QPixmap backgroundLayer(QRgb backgroundColor, const QImage &backgroundImage, const QImage &checkerboard,
+                        int W, int H)
 {
     QImage colorLayer(W, H, QImage::Format_ARGB32);
     colorLayer.fill(backgroundColor);
-    QImage board = chessboard.scaled(W, H, Qt::IgnoreAspectRatio, Qt::FastTransformation)
-                       .convertToFormat(QImage::Format_ARGB32);
-    if (!board.isNull()) {
-        QPainter painter(&board);
+    QImage scaled = checkerboard.scaled(W, H, Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                        .convertToFormat(QImage::Format_ARGB32);
+    if (!scaled.isNull()) {
+        QPainter painter(&scaled);
         painter.drawImage(0, 0, colorLayer);
         painter.end();
     }
     if (backgroundImage.isNull())
-        return QPixmap::fromImage(board);
+        return QPixmap::fromImage(scaled);
     return QPixmap::fromImage(backgroundImage).scaled(W, H, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 

@@ -66,8 +66,8 @@ BrushBatch applyBrush(QImage &preview, const QList<QRect> &rects, QPoint preview
                       int intensity, bool skipLastRect = true, const QRect &lastRect = QRect());
 
 /// The background layer of the preview.
-QPixmap backgroundLayer(QRgb backgroundColor, const QImage &backgroundImage, const QImage &chessboard, int W,
-                        int H);
+QPixmap backgroundLayer(QRgb backgroundColor, const QImage &backgroundImage, const QImage &checkerboard,
+                        int W, int H);
 
 /// What the export reads of the preview.
 struct ExportSource

@@ -63,8 +63,8 @@ int mixture(int x, int y)
     return 37 * x + 91 * y + 13 * x * y + 5;
 }
 
-/// A strip of one row of free pixels: the rows above and below are frame.
-QImage strip(const Values &greys)
+/// A picture of one row of free pixels: the rows above and below are frame.
+QImage rowPicture(const Values &greys)
 {
     std::vector<std::uint8_t> plane;
     for (int y = 0; y < 3; ++y)
@@ -73,7 +73,7 @@ QImage strip(const Values &greys)
     return testpictures::greyImage(static_cast<int>(greys.size()), 3, plane);
 }
 
-std::vector<std::uint8_t> stripEdges(const Values &edges)
+std::vector<std::uint8_t> rowEdges(const Values &edges)
 {
     std::vector<std::uint8_t> plane(3 * static_cast<std::size_t>(edges.size()), 0);
     for (int x = 0; x < edges.size(); ++x)
@@ -81,7 +81,7 @@ std::vector<std::uint8_t> stripEdges(const Values &edges)
     return plane;
 }
 
-/// Columns of the strip's free row, as indices of the whole picture.
+/// Columns of its free row, as indices of the whole picture.
 Values columns(int width, const Values &xs)
 {
     Values indices;
@@ -173,8 +173,8 @@ private slots:
     void luminanceGrey();
     void watershedUniform();
     void watershedFirstInFirstOut();
-    void watershedStrip_data();
-    void watershedStrip();
+    void watershedRow_data();
+    void watershedRow();
     void watershedStepDownUsesRightNeighbour();
     void watershedColorCosts();
     void watershedEnclosed();
@@ -200,8 +200,8 @@ private slots:
     void waveIgnoresFourthByteAndPadding();
     void wavePredicates();
 
-    void featherStrip_data();
-    void featherStrip();
+    void featherRow_data();
+    void featherRow();
     void featherDownLooksUp();
     void featherAboveFirstRow();
     void featherFirstOfSecondRow();
@@ -900,7 +900,7 @@ void TestReference::watershedUniform()
 void TestReference::watershedFirstInFirstOut()
 {
     // The pixel on the Keep side of the middle is queued first.
-    const QImage image = strip(Values(8, 100));
+    const QImage image = rowPicture(Values(8, 100));
     Values result;
     QCOMPARE(reference::watershed(image, columns(8, {1}), columns(8, {6}), result, noEdges(image)), 0);
     QCOMPARE(result, columns(8, {1, 2, 3}));
@@ -909,7 +909,7 @@ void TestReference::watershedFirstInFirstOut()
     QCOMPARE(result, columns(8, {5, 6}));
 }
 
-void TestReference::watershedStrip_data()
+void TestReference::watershedRow_data()
 {
     QTest::addColumn<Values>("greys");
     QTest::addColumn<Values>("edges");
@@ -938,18 +938,18 @@ void TestReference::watershedStrip_data()
     QTest::newRow("seeds side by side stay") << flat8 << Values(8, 0) << 3 << 4 << Values{1, 2, 3};
 }
 
-void TestReference::watershedStrip()
+void TestReference::watershedRow()
 {
     QFETCH(Values, greys);
     QFETCH(Values, edges);
     QFETCH(int, keep);
     QFETCH(int, remove);
     QFETCH(Values, expected);
-    const QImage image = strip(greys);
+    const QImage image = rowPicture(greys);
     const int width = image.width();
     Values result;
     QCOMPARE(reference::watershed(image, columns(width, {keep}), columns(width, {remove}), result,
-                                  stripEdges(edges)),
+                                  rowEdges(edges)),
              0);
     QCOMPARE(result, columns(width, expected));
 }
@@ -1104,7 +1104,7 @@ void TestReference::manyThreeRegions()
 void TestReference::manyRisingCosts()
 {
     // Each pixel waits alone and on a higher level than the one before.
-    const QImage image = strip({0, 0, 5, 20, 50, 100, 180, 0});
+    const QImage image = rowPicture({0, 0, 5, 20, 50, 100, 180, 0});
     Lists regions{{}};
     QCOMPARE(reference::watershedMany(image, {{9}}, regions, noEdges(image)), 1);
     QCOMPARE(regions, (Lists{{}, columns(8, {1, 2, 3, 4, 5, 6})}));
@@ -1121,9 +1121,9 @@ void TestReference::manyLaterListWins()
 void TestReference::manyEdgesCostTheMost()
 {
     // The two-region form lets the first region pass here, since 1 is cheap.
-    const QImage image = strip({50, 50, 50, 50, 50, 150, 150});
+    const QImage image = rowPicture({50, 50, 50, 50, 50, 150, 150});
     Lists regions{{}};
-    QCOMPARE(reference::watershedMany(image, {{8}, {12}}, regions, stripEdges({0, 0, 1, 0, 0, 0, 0})), 2);
+    QCOMPARE(reference::watershedMany(image, {{8}, {12}}, regions, rowEdges({0, 0, 1, 0, 0, 0, 0})), 2);
     QCOMPARE(regions, (Lists{{}, {8}, {10, 11, 12}}));
 }
 
@@ -1213,7 +1213,7 @@ void TestReference::wavePredicates()
 
 // Feathering
 
-void TestReference::featherStrip_data()
+void TestReference::featherRow_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<Values>("expected");
@@ -1242,7 +1242,7 @@ void TestReference::featherStrip_data()
     // clang-format on
 }
 
-void TestReference::featherStrip()
+void TestReference::featherRow()
 {
     QFETCH(int, count);
     QFETCH(Values, expected);
@@ -1559,22 +1559,22 @@ void TestReference::brushOffset()
 
 void TestReference::backgroundColors()
 {
-    QImage board(2, 2, QImage::Format_RGB32);
-    board.setPixel(0, 0, 0xffffffff);
-    board.setPixel(1, 0, 0xff808080);
-    board.setPixel(0, 1, 0xff808080);
-    board.setPixel(1, 1, 0xffffffff);
+    QImage checkerboard(2, 2, QImage::Format_RGB32);
+    checkerboard.setPixel(0, 0, 0xffffffff);
+    checkerboard.setPixel(1, 0, 0xff808080);
+    checkerboard.setPixel(0, 1, 0xff808080);
+    checkerboard.setPixel(1, 1, 0xffffffff);
 
-    const QImage white = reference::backgroundLayer(0xffffffff, QImage(), board, 6, 4).toImage();
-    const QImage open = reference::backgroundLayer(0x00000000, QImage(), board, 6, 4).toImage();
-    const QImage tinted = reference::backgroundLayer(0x80ff0000, QImage(), board, 6, 4).toImage();
+    const QImage white = reference::backgroundLayer(0xffffffff, QImage(), checkerboard, 6, 4).toImage();
+    const QImage open = reference::backgroundLayer(0x00000000, QImage(), checkerboard, 6, 4).toImage();
+    const QImage tinted = reference::backgroundLayer(0x80ff0000, QImage(), checkerboard, 6, 4).toImage();
     QCOMPARE(white.size(), QSize(6, 4));
     for (int y = 0; y < 4; ++y) {
         for (int x = 0; x < 6; ++x) {
             const QRgb square = (x < 3) == (y < 2) ? 0xffffffffu : 0xff808080u;
             QCOMPARE(white.pixel(x, y), 0xffffffffu);
             QCOMPARE(open.pixel(x, y), square);
-            // 128 / 255 of red over what remains of the board.
+            // 128 / 255 of red over what remains of the checkerboard.
             const QRgb pixel = tinted.pixel(x, y);
             QCOMPARE(qAlpha(pixel), 255);
             QVERIFY(std::abs(qRed(pixel) - (128 * 255 + 127 * qRed(square)) / 255) <= 1);
@@ -1587,9 +1587,9 @@ void TestReference::backgroundColors()
 
 void TestReference::backgroundPicture()
 {
-    const QImage board = argb(2, 2, 0xffffffff);
+    const QImage checkerboard = argb(2, 2, 0xffffffff);
     const QImage picture = testpictures::constantImage(200, 100, 0x204060);
-    const QPixmap layer = reference::backgroundLayer(0xffff0000, picture, board, 50, 50);
+    const QPixmap layer = reference::backgroundLayer(0xffff0000, picture, checkerboard, 50, 50);
     QCOMPARE(layer.size(), QSize(50, 25));
     QCOMPARE(layer.toImage().pixel(25, 12), 0xff204060u);
 }

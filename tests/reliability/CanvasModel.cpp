@@ -148,7 +148,7 @@ QString CanvasModel::send(QMouseEvent &event)
         (dabsIn(scene->items(*expected.erased)) != 0 || scene->items().size() != all - touched))
         return "the eraser left something, or took something else";
     if (expected.offset && m_probe.previewOffset() != *expected.offset)
-        return QStringLiteral("the hand has moved the object to %1, %2 instead of %3, %4")
+        return QStringLiteral("the Hand tool has moved the object to %1, %2 instead of %3, %4")
             .arg(m_probe.previewOffset().x())
             .arg(m_probe.previewOffset().y())
             .arg(expected.offset->x())

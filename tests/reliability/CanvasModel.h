@@ -35,8 +35,8 @@ private:
     struct Expected
     {
         std::optional<QPointF> dab;   ///< where a marker lays one
-        std::optional<QRect> square;  ///< which the brush hands over
-        std::optional<QPoint> offset; ///< where the hand moves the object
+        std::optional<QRect> square;  ///< which the brush passes on
+        std::optional<QPoint> offset; ///< where the Hand tool moves the object
         std::optional<QRectF> erased; ///< what the eraser goes over
     };
 

@@ -24,7 +24,7 @@ public:
     QString processBatch();
     /// The photo went, and with it the dabs.
     void forgetDabs();
-    /// The window has cut anew, or has another picture: what it has now is the beginning.
+    /// The window has made a new cut-out, or has another picture: what it has now is the beginning.
     void adopt() { m_cutOut = m_probe.previewImage(); }
     /// Goes through the history as far as the window has gone. Empty when they agree.
     QString follow();

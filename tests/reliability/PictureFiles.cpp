@@ -4,6 +4,7 @@
 #include "tests/reliability/PictureFiles.h"
 
 #include "tests/reference/TestPictures.h"
+#include "tests/support/Files.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -66,13 +67,6 @@ QByteArray encoded(const QImage &picture, const char *format)
     return bytes;
 }
 
-void put(const QString &path, const QByteArray &contents)
-{
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(contents);
-}
-
 QByteArray png(quint32 width, quint32 height, int bitDepth, int colourType, const QByteArray &rows,
                const QByteArray &palette)
 {
@@ -108,7 +102,7 @@ QStringList writeAssortment(const QString &folder)
     QStringList paths;
     const auto add = [&](const QString &name, const QByteArray &contents) {
         paths.append(dir.filePath(name));
-        put(paths.last(), contents);
+        testsupport::put(paths.last(), contents);
     };
     const QImage photo = smallPicture(160, 120, 1);
     const QByteArray jpeg = encoded(photo, "jpg");

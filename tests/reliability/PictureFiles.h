@@ -18,9 +18,6 @@ namespace picturefiles {
 /// A GIF of 3 x 2 pixels: Qt reads the format but does not write it.
 [[nodiscard]] QByteArray tinyGif();
 
-/// Replaces a file by `contents`.
-void put(const QString &path, const QByteArray &contents);
-
 /// A chunk of a PNG, with its checksum.
 [[nodiscard]] QByteArray chunk(const char *type, const QByteArray &body);
 

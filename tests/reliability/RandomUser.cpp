@@ -6,6 +6,7 @@
 #include "app/Translations.h"
 #include "canvas/SettingsKeys.h"
 #include "tests/reliability/PictureFiles.h"
+#include "tests/support/Files.h"
 
 #include <QAction>
 #include <QApplication>
@@ -415,8 +416,8 @@ QString RandomUser::meddleWithFiles()
     if (m_random.below(6) == 0) {
         files.append(folder.filePath("large.bmp"));
         const int width = 400 + m_random.below(1600);
-        picturefiles::put(files.last(),
-                          picturefiles::encoded(picturefiles::smallPicture(width, 2400 - width, 11), "bmp"));
+        testsupport::put(files.last(),
+                         picturefiles::encoded(picturefiles::smallPicture(width, 2400 - width, 11), "bmp"));
     }
     QStringList targets = {
         folder.filePath("out-1.jpg"),       folder.filePath("out-2.png"), folder.filePath("out-3.jpeg"),

@@ -5,7 +5,7 @@
 
 #include "tests/reliability/CanvasModel.h"
 #include "tests/reliability/CutOutModel.h"
-#include "tests/reliability/DialogAnswers.h"
+#include "tests/reliability/RandomAnswers.h"
 #include "tests/reliability/ResultInvariants.h"
 #include "tests/support/MainWindowProbe.h"
 
@@ -30,7 +30,7 @@ public:
     QString step();
     /// What was wrong with what came of the last step; empty when nothing was.
     [[nodiscard]] QString complaint() const { return m_complaint; }
-    /// Opens a picture without leaving it to chance, as far as that can be told from outside.
+    /// Opens a picture without leaving it to chance, as far as that can be seen from outside.
     void openForSure(const QString &path);
     [[nodiscard]] int dialogsAnswered() const { return m_answers.answered(); }
 
@@ -64,7 +64,7 @@ private:
     testpictures::Random m_random;
     QString m_folder;
     Time m_time;
-    DialogAnswers m_answers;
+    RandomAnswers m_answers;
     CanvasModel m_canvasModel;
     CutOutModel m_cutOutModel;
     ResultInvariants m_results;

@@ -101,7 +101,7 @@ int solidDifferences(const QImage &left, const QImage &right)
 
 } // namespace
 
-ResultInvariants::ResultInvariants(MainWindow &window, const DialogAnswers &answers)
+ResultInvariants::ResultInvariants(MainWindow &window, const RandomAnswers &answers)
     : m_window(window), m_probe(window), m_answers(answers)
 {
     // The window's own slots were connected first, and have run when these do.
@@ -207,7 +207,7 @@ QString ResultInvariants::floodedMask()
     QList<int> expected;
     reference::watershed(picture, seeds.keep, seeds.remove, expected,
                          {m_probe.edgeMap(), m_probe.edgeMap() + pixels});
-    // Not by ==, which hands null pointers to memcmp() where both are empty.
+    // Not by ==, which passes null pointers to memcmp() where both are empty.
     const QList<int> &found = m_probe.outmask();
     return std::equal(expected.cbegin(), expected.cend(), found.cbegin(), found.cend())
                ? QString()
@@ -314,7 +314,7 @@ QString ResultInvariants::exportedFile()
 {
     if (m_answers.exports() == m_exportsBefore)
         return {};
-    const DialogAnswers::Export &wanted = m_answers.lastExport();
+    const RandomAnswers::Export &wanted = m_answers.lastExport();
     const QByteArray suffix = QFileInfo(wanted.path).suffix().toLower().toLatin1();
     if (wanted.size.isEmpty() || !canBeWritten(wanted.path) || m_probe.backgroundItem() == nullptr ||
         m_probe.previewItem() == nullptr || !QByteArrayList{"jpg", "jpeg", "png"}.contains(suffix))
@@ -394,7 +394,7 @@ QString ResultInvariants::staleScreen()
     QCoreApplication::processEvents();
     const QImage before = shown();
     if (QGraphicsPixmapItem *item = m_probe.previewItem(); item != nullptr)
-        item->setPixmap(item->pixmap().copy()); // with it go the reduced copies that were kept in step
+        item->setPixmap(item->pixmap().copy()); // with it go the mipmap levels that were kept in step
     viewport->update();
     QCoreApplication::processEvents();
     const QImage after = shown();

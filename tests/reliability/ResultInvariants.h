@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "tests/reliability/DialogAnswers.h"
+#include "tests/reliability/RandomAnswers.h"
 #include "tests/support/MainWindowProbe.h"
 
 #include <QList>
@@ -18,7 +18,7 @@
 class ResultInvariants : public QObject
 {
 public:
-    ResultInvariants(MainWindow &window, const DialogAnswers &answers);
+    ResultInvariants(MainWindow &window, const RandomAnswers &answers);
 
     /// Called when another picture was opened through the dialog, and when the cut-out was made anew.
     std::function<void()> opened;
@@ -49,7 +49,7 @@ private:
 
     MainWindow &m_window;
     mutable MainWindowProbe m_probe;
-    const DialogAnswers &m_answers;
+    const RandomAnswers &m_answers;
     QString m_complaint;
     QPixmap m_topmostBefore;
     qint64 m_photoBefore = 0;

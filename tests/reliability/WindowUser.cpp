@@ -3,120 +3,70 @@
 
 #include "tests/reliability/WindowUser.h"
 
-#include "canvas/MarkerDabs.h"
-#include "canvas/SceneLayers.h"
+#include "tests/support/DialogParts.h"
+#include "tests/support/FileChooser.h"
+#include "tests/support/ModalWatch.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPen>
-#include <QPushButton>
 #include <QSpinBox>
-#include <QStatusBar>
-#include <QTimer>
 
 #include <functional>
-#include <memory>
 
 namespace {
 
-constexpr int lookEvery = 2; // ms
-
-/// Runs `cause` and deals with every modal dialog that it opens.
-void withDialogs(const std::function<void(QDialog &)> &answer, const std::function<void()> &cause)
+/// Answers every message box with Yes, or with OK where that is all, and every other dialog as `answer` has
+/// it.
+testsupport::ModalWatch sayingYes(std::function<void(QDialog &)> answer)
 {
-    const auto alive = std::make_shared<bool>(true);
-    const auto look = std::make_shared<std::function<void()>>();
-    *look = [=] {
-        if (!*alive)
-            return;
-        QTimer::singleShot(lookEvery, *look);
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+    return testsupport::ModalWatch([answer](QDialog *dialog) {
+        if (auto *box = qobject_cast<QMessageBox *>(dialog))
             box->button(box->buttons().size() > 1 ? QMessageBox::Yes : QMessageBox::Ok)->click();
-        else if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+        else if (dialog != nullptr)
             answer(*dialog);
-    };
-    QTimer::singleShot(lookEvery, *look);
-    cause();
-    *alive = false;
-    *look = nullptr;
+    });
 }
 
-void chooseFile(QDialog &dialog, const QString &path)
+/// The dialog goes in any case, also when it does not like the name.
+testsupport::ModalWatch choosing(const QString &path)
 {
-    // A second look at the same dialog means that it would not have the name.
-    if (dialog.property("answered").toBool()) {
-        dialog.reject();
-        return;
-    }
-    dialog.setProperty("answered", true);
-    dialog.findChild<QLineEdit *>("fileNameEdit")->setText(path);
-    QMetaObject::invokeMethod(&dialog, "accept");
+    return sayingYes([path, asked = false](QDialog &dialog) mutable {
+        if (std::exchange(asked, true))
+            dialog.reject();
+        else
+            testsupport::enterFileName(dynamic_cast<QFileDialog &>(dialog), path);
+    });
 }
 
 } // namespace
 
-WindowUser::WindowUser() : m_probe(m_window) {}
-
-QString WindowUser::status() const
-{
-    return m_window.statusBar()->currentMessage();
-}
-
-void WindowUser::trigger(const char *action)
-{
-    m_window.findChild<QAction *>(action)->trigger();
-}
-
 void WindowUser::open(const QString &path)
 {
-    withDialogs([&](QDialog &dialog) { chooseFile(dialog, path); }, [this] { trigger("actionOpen"); });
+    const auto watch = choosing(path);
+    trigger("actionOpen");
 }
 
 void WindowUser::saveAs(const QString &path)
 {
-    withDialogs([&](QDialog &dialog) { chooseFile(dialog, path); }, [this] { trigger("actionSave_As"); });
+    const auto watch = choosing(path);
+    trigger("actionSave_As");
 }
 
 void WindowUser::save()
 {
-    withDialogs([](QDialog &dialog) { dialog.reject(); }, [this] { trigger("actionSave"); });
+    const auto watch = sayingYes([](QDialog &dialog) { dialog.reject(); });
+    trigger("actionSave");
 }
 
 void WindowUser::exportTo(const QString &path, int width, int height)
 {
-    const auto answer = [&](QDialog &dialog) {
-        dialog.findChild<QSpinBox *>("spinBox")->setValue(width);
+    const auto watch = sayingYes([&](QDialog &dialog) {
+        testsupport::part<QSpinBox>(dialog, "spinBox").setValue(width);
         if (height > 0)
-            dialog.findChild<QSpinBox *>("spinBox_2")->setValue(height);
+            testsupport::part<QSpinBox>(dialog, "spinBox_2").setValue(height);
         // Past the file dialog, which would refuse a name that leads nowhere; the place can vanish later.
-        dialog.findChild<QLabel *>("label_2")->setText(path);
+        testsupport::part<QLabel>(dialog, "label_2").setText(path);
         dialog.accept();
-    };
-    withDialogs(answer, [this] { trigger("actionExport"); });
-}
-
-void WindowUser::preview(bool on)
-{
-    m_window.findChild<QAction *>("actionPreview")->setChecked(on);
-}
-
-void WindowUser::layDabs()
-{
-    const QSize size = m_probe.workingImage().size();
-    const QRectF middle(size.width() / 2, size.height() / 2, 2, 2);
-    m_probe.imageScene().addRect(middle, QPen(QColor(markers::keepColour)))->setZValue(layers::dabZ);
-    m_probe.imageScene()
-        .addEllipse(QRectF(1, 1, 2, 2), QPen(QColor(markers::removeColour)))
-        ->setZValue(layers::dabZ);
-}
-
-void WindowUser::brush(const QRect &square)
-{
-    m_window.findChild<QAction *>("actionForeground_Brush")->setChecked(true);
-    QMetaObject::invokeMethod(&m_window, "on_BrushMouseEvent", Q_ARG(QRect, square), Q_ARG(bool, true));
-    QMetaObject::invokeMethod(&m_window, "on_ProcessBrushMouseEvent");
+    });
+    trigger("actionExport");
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// That the program had at once. What getrusage() tells goes back to the program that started this one.
+/// That the program had at once. What getrusage() reports goes back to the program that started this one.
 long mostKibibytes()
 {
     QFile status("/proc/self/status");

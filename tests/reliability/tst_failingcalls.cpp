@@ -6,7 +6,9 @@
 #include "tests/reliability/FailingCalls.h"
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/WindowUser.h"
+#include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
+#include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 
 #include <QDir>
@@ -26,13 +28,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
+using testsupport::contentsOf;
 
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+namespace {
 
 /// A small disk of its own at a folder, where the system lets us have one.
 class SmallDisk
@@ -53,7 +51,7 @@ public:
     [[nodiscard]] bool isThere() const { return m_mounted; }
 
 private:
-    UncountedLeaks m_uncounted;
+    [[maybe_unused]] testsupport::UncountedLeaks m_uncounted;
     QByteArray m_folder;
     bool m_mounted;
 };
@@ -62,24 +60,18 @@ private:
 
 /// The system refuses something while a file is written, or ends the program there. The file that was there
 /// before is there, or the new one; both whole.
-class FailingCallsTest : public QObject
+class TestFailingCalls : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-            if (type == QtFatalMsg)
-                fprintf(stderr, "%s\n", qPrintable(text));
-        });
-    }
+    void initTestCase() { testsupport::printFatalMessagesOnly(); }
 
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_photo = m_folder->filePath("photo.png");
-        picturefiles::put(m_photo, picturefiles::encoded(testpictures::randomImage(160, 120, 1), "png"));
+        testsupport::put(m_photo, picturefiles::encoded(testpictures::randomImage(160, 120, 1), "png"));
         m_user = std::make_unique<WindowUser>();
         m_user->open(m_photo);
         m_user->layDabs();
@@ -118,7 +110,7 @@ private slots:
         const QString target = m_folder->filePath(save ? "out.jpg" : "out.png");
         const std::function<void()> write = [&] {
             if (save)
-                m_user->window().save(target);
+                m_user->window.save(target);
             else
                 m_user->exportTo(target, 100);
         };
@@ -129,7 +121,7 @@ private slots:
         bool failed = true;
         for (int after = 0; failed; ++after) {
             QVERIFY(after < 5000);
-            picturefiles::put(target, older);
+            testsupport::put(target, older);
             failCall(call.constData(), error, after);
             write();
             failed = failedCalls() > 0;
@@ -160,10 +152,10 @@ private slots:
         QFETCH(QByteArray, call);
         const QString target = m_folder->filePath("file");
         const QByteArray older(3000, 'o');
-        picturefiles::put(target, older);
+        testsupport::put(target, older);
         // Renaming is what the folder forbids here, so that root can be stopped as well.
         const QString bound = m_folder->filePath("bound");
-        picturefiles::put(bound, {});
+        testsupport::put(bound, {});
         const QByteArray from = QFile::encodeName(target);
         const QByteArray to = QFile::encodeName(bound);
         if (mount(from.constData(), to.constData(), nullptr, MS_BIND, nullptr) != 0)
@@ -198,13 +190,13 @@ private slots:
     void snapshots()
     {
         QFETCH(QByteArray, call);
-        QList<QImage> states{m_user->probe().previewImage().copy()};
-        QUndoStack &stack = m_user->probe().undoStack();
+        QList<QImage> states{m_user->probe.previewImage().copy()};
+        QUndoStack &stack = m_user->probe.undoStack();
         stack.clear();
         for (int i = 0; i < 6; ++i) {
             failCall(i % 2 == 0 ? call.constData() : nullptr, EIO, i / 2);
             m_user->brush(QRect(20 * i, 10, 40, 60));
-            states.append(m_user->probe().previewImage().copy());
+            states.append(m_user->probe.previewImage().copy());
         }
         QCOMPARE(stack.count(), 6);
         QVERIFY(states.first() != states.last());
@@ -212,7 +204,7 @@ private slots:
             failCall(i % 3 == 0 ? call.constData() : nullptr, EIO, i % 5);
             stack.setIndex((i * 5) % 7);
             failCall(nullptr, 0, 0);
-            QVERIFY2(m_user->probe().previewImage() == states.at(stack.index()),
+            QVERIFY2(m_user->probe.previewImage() == states.at(stack.index()),
                      qPrintable(QString::number(i)));
         }
     }
@@ -220,7 +212,7 @@ private slots:
     /// A settings file that can't be written costs the settings and nothing else.
     void settings()
     {
-        QSettings &store = m_user->probe().settings();
+        QSettings &store = m_user->probe.settings();
         store.setValue("KEEPMSIZE", 17);
         store.sync();
         const QByteArray before = contentsOf(store.fileName());
@@ -266,22 +258,22 @@ private slots:
         if (!disk.isThere())
             QSKIP("only root can mount a small disk; tst_faults limits the size of files for others");
         const QString target = folder + "/out.jpg";
-        picturefiles::put(target, "older");
-        picturefiles::put(folder + "/ballast", QByteArray(88000, 'b'));
-        m_user->window().save(target);
+        testsupport::put(target, "older");
+        testsupport::put(folder + "/ballast", QByteArray(88000, 'b'));
+        m_user->window.save(target);
         QCOMPARE(contentsOf(target), QByteArray("older"));
         m_user->exportTo(folder + "/out.png", 160);
         QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList({"ballast", "out.jpg"}));
         const QByteArray temporary = qgetenv("TMPDIR");
         qputenv("TMPDIR", QFile::encodeName(folder));
-        const QImage untouched = m_user->probe().previewImage().copy();
+        const QImage untouched = m_user->probe.previewImage().copy();
         m_user->brush(QRect(0, 0, 160, 120));
-        QVERIFY(m_user->probe().previewImage() != untouched);
-        m_user->probe().undoStack().undo();
+        QVERIFY(m_user->probe.previewImage() != untouched);
+        m_user->probe.undoStack().undo();
         qputenv("TMPDIR", temporary);
-        QCOMPARE(m_user->probe().previewImage(), untouched);
+        QCOMPARE(m_user->probe.previewImage(), untouched);
         QFile::remove(folder + "/ballast");
-        m_user->window().save(target);
+        m_user->window.save(target);
         QVERIFY(!QImage(target).isNull());
     }
 
@@ -313,7 +305,7 @@ private slots:
         QRandomGenerator random(7);
         int news = 0;
         for (int round = 0; round < rounds; ++round) {
-            picturefiles::put(target, older);
+            testsupport::put(target, older);
             QVERIFY(startedWriting(program));
             usleep(random.bounded(longest));
             program.kill();
@@ -336,15 +328,12 @@ private:
         return false;
     }
 
-    [[nodiscard]] QStringList names() const
-    {
-        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
+    [[nodiscard]] QStringList names() const { return testsupport::namesIn(m_folder->path()); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<WindowUser> m_user;
     QString m_photo;
 };
 
-ORNEVO_TEST_MAIN(FailingCallsTest)
+ORNEVO_TEST_MAIN(TestFailingCalls)
 #include "tst_failingcalls.moc"

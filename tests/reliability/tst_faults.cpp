@@ -5,7 +5,9 @@
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/ShortMemory.h"
 #include "tests/reliability/WindowUser.h"
+#include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
+#include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 
 #include <QDir>
@@ -17,13 +19,9 @@
 
 #include <unistd.h>
 
-namespace {
+using testsupport::contentsOf;
 
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+namespace {
 
 bool hasSanitizer()
 {
@@ -36,10 +34,10 @@ bool hasSanitizer()
 
 } // namespace
 
-/// What the world around the program can do to it: disks that are full, folders that go, files that change.
+/// What can happen to the program from outside: disks that are full, folders that go, files that change.
 /// No file of the user's may be lost, nothing half written may stay under a name that was asked for, and the
 /// program goes on.
-class FaultsTest : public QObject
+class TestFaults : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +46,7 @@ private slots:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_photo = file("photo.jpg");
-        picturefiles::put(m_photo, picturefiles::encoded(picturefiles::smallPicture(120, 90, 1), "jpg"));
+        testsupport::put(m_photo, picturefiles::encoded(picturefiles::smallPicture(120, 90, 1), "jpg"));
         m_before = contentsOf(m_photo);
         m_user = std::make_unique<WindowUser>();
         m_user->open(m_photo);
@@ -59,34 +57,29 @@ private slots:
     {
         // Whatever happened, the next picture can be opened and worked on.
         const QString other = file("other.png");
-        picturefiles::put(other, picturefiles::encoded(picturefiles::smallPicture(30, 20, 2), "png"));
+        testsupport::put(other, picturefiles::encoded(picturefiles::smallPicture(30, 20, 2), "png"));
         m_user->open(other);
         QCOMPARE(m_user->status(), "Ready");
-        QCOMPARE(m_user->probe().workingImage().size(), QSize(30, 20));
+        QCOMPARE(m_user->probe.workingImage().size(), QSize(30, 20));
         m_user->layDabs();
         m_user->preview(true);
-        QCOMPARE(m_user->probe().previewImage().size(), QSize(30, 20));
+        QCOMPARE(m_user->probe.previewImage().size(), QSize(30, 20));
         m_user.reset();
         m_folder.reset();
-        QCOMPARE(QDir(QDir::tempPath()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                 m_tempBefore);
+        QCOMPARE(testsupport::namesIn(QDir::tempPath()), m_tempBefore);
     }
 
     void initTestCase()
     {
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-            if (type == QtFatalMsg)
-                fprintf(stderr, "%s\n", qPrintable(text));
-        });
-        m_tempBefore =
-            QDir(QDir::tempPath()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        testsupport::printFatalMessagesOnly();
+        m_tempBefore = testsupport::namesIn(QDir::tempPath());
     }
 
     void fullDiskOnSave_data()
     {
         QTest::addColumn<int>("percent");
         for (const int percent : {0, 1, 10, 25, 50, 75, 90, 99})
-            QTest::addRow("room for %d %%", percent) << percent;
+            QTest::addRow("space for %d %%", percent) << percent;
     }
 
     /// Wherever in the file the disk is full, the photo that it was to replace stays whole.
@@ -94,15 +87,15 @@ private slots:
     {
         QFETCH(int, percent);
         const QString large = file("photo.jpg");
-        picturefiles::put(large, picturefiles::encoded(testpictures::randomImage(300, 200, 5), "jpg"));
+        testsupport::put(large, picturefiles::encoded(testpictures::randomImage(300, 200, 5), "jpg"));
         m_user->open(large);
         m_before = contentsOf(large);
-        m_user->window().save(file("whole.jpg"));
+        m_user->window.save(file("whole.jpg"));
         const qint64 needed = QFileInfo(file("whole.jpg")).size();
         QVERIFY(needed > 50000);
         QFile::remove(file("whole.jpg"));
         {
-            const FullDisk disk(static_cast<rlim_t>(needed * percent / 100));
+            const testsupport::FullDisk disk(static_cast<rlim_t>(needed * percent / 100));
             m_user->save();
         }
         QCOMPARE(contentsOf(large), m_before);
@@ -113,7 +106,7 @@ private slots:
     void fullDiskOnSaveAs()
     {
         {
-            const FullDisk disk(500);
+            const testsupport::FullDisk disk(500);
             m_user->saveAs(file("new.jpg"));
         }
         QCOMPARE(m_user->status(), "Failed to read image");
@@ -124,8 +117,8 @@ private slots:
     void fullDiskOnExport_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("png") << "cut.png";
-        QTest::newRow("jpg") << "cut.jpg";
+        QTest::newRow("png") << "cut-out.png";
+        QTest::newRow("jpg") << "cut-out.jpg";
     }
 
     void fullDiskOnExport()
@@ -133,15 +126,15 @@ private slots:
         QFETCH(QString, name);
         previewed();
         {
-            const FullDisk disk(700);
+            const testsupport::FullDisk disk(700);
             m_user->exportTo(file(name), 100);
         }
         QCOMPARE(names(), QStringList("photo.jpg"));
-        m_user->exportTo(file(name), 100); // and with room on the disk
+        m_user->exportTo(file(name), 100); // and with space on the disk
         QVERIFY(!QImage(file(name)).isNull());
         const QByteArray whole = contentsOf(file(name));
         {
-            const FullDisk disk(700);
+            const testsupport::FullDisk disk(700);
             m_user->exportTo(file(name), 100);
         }
         QCOMPARE(contentsOf(file(name)), whole); // an older export stays whole
@@ -151,17 +144,17 @@ private slots:
     void fullDiskOnBrushing()
     {
         previewed();
-        const QImage untouched = m_user->probe().previewImage().copy();
+        const QImage untouched = m_user->probe.previewImage().copy();
         {
-            const FullDisk disk(60);
+            const testsupport::FullDisk disk(60);
             m_user->brush(QRect(5, 5, 60, 60));
         }
-        const QImage brushed = m_user->probe().previewImage().copy();
+        const QImage brushed = m_user->probe.previewImage().copy();
         QVERIFY(brushed != untouched);
-        m_user->probe().undoStack().undo();
-        QCOMPARE(m_user->probe().previewImage(), untouched);
-        m_user->probe().undoStack().redo();
-        QCOMPARE(m_user->probe().previewImage(), brushed);
+        m_user->probe.undoStack().undo();
+        QCOMPARE(m_user->probe.previewImage(), untouched);
+        m_user->probe.undoStack().redo();
+        QCOMPARE(m_user->probe.previewImage(), brushed);
     }
 
     /// Not even a temporary folder.
@@ -170,16 +163,16 @@ private slots:
         previewed();
         const QByteArray temporary = qgetenv("TMPDIR");
         qputenv("TMPDIR", m_photo.toLocal8Bit() + "/no-folder");
-        const QImage untouched = m_user->probe().previewImage().copy();
+        const QImage untouched = m_user->probe.previewImage().copy();
         for (int i = 0; i < 3; ++i)
             m_user->brush(QRect(5 + 10 * i, 5, 30, 30));
-        const QImage brushed = m_user->probe().previewImage().copy();
+        const QImage brushed = m_user->probe.previewImage().copy();
         QVERIFY(brushed != untouched);
-        m_user->probe().undoStack().setIndex(0);
-        QCOMPARE(m_user->probe().previewImage(), untouched);
-        m_user->probe().undoStack().setIndex(3);
-        QCOMPARE(m_user->probe().previewImage(), brushed);
-        m_user->probe().undoStack().clear();
+        m_user->probe.undoStack().setIndex(0);
+        QCOMPARE(m_user->probe.previewImage(), untouched);
+        m_user->probe.undoStack().setIndex(3);
+        QCOMPARE(m_user->probe.previewImage(), brushed);
+        m_user->probe.undoStack().clear();
         qputenv("TMPDIR", temporary);
     }
 
@@ -201,7 +194,7 @@ private slots:
         previewed();
         m_user->exportTo(path, 100);
         m_user->preview(false);
-        m_user->window().save(path);
+        m_user->window.save(path);
         QCOMPARE(contentsOf(m_photo), m_before);
         QCOMPARE(names(), QStringList("photo.jpg"));
     }
@@ -255,14 +248,14 @@ private slots:
         QFETCH(QByteArray, contents);
         QFETCH(bool, opens);
         previewed();
-        picturefiles::put(m_photo, contents);
-        m_user->window().open(); // chosen before, read now, with the preview still on
+        testsupport::put(m_photo, contents);
+        m_user->window.open(); // chosen before, read now, with the preview still on
         QCOMPARE(m_user->status(), opens ? "Ready" : "Failed to read image");
         m_user->brush(QRect(5, 5, 20, 20));
         for (int i = 0; i < 4; ++i)
-            m_user->probe().undoStack().undo();
+            m_user->probe.undoStack().undo();
         for (int i = 0; i < 4; ++i)
-            m_user->probe().undoStack().redo();
+            m_user->probe.undoStack().redo();
         m_user->preview(false);
         m_user->preview(true);
         m_user->exportTo(file("out.png"), 50);
@@ -282,23 +275,23 @@ private slots:
         if (hasSanitizer())
             QSKIP("the address sanitizer needs an address space without limit");
         const QString path = file("large.bmp");
-        picturefiles::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
-        // Qt converts large pictures in threads and waits for ever for one that has no room for its stack; a
-        // program that has worked for a while has them.
+        testsupport::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        // Qt converts large pictures in threads and waits for ever for one that has no memory for its stack;
+        // a program that has worked for a while has them.
         const QImage warm = testpictures::randomArgbImage(1024, 1024, 1);
         QVERIFY(!warm.convertToFormat(QImage::Format_RGBA64).isNull());
         QVERIFY(!warm.convertToFormat(QImage::Format_ARGB32_Premultiplied).isNull());
         {
             const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
-            m_user->probe().currentFile() = path;
-            m_user->window().open(); // the file dialog itself needs more than there is
+            m_user->probe.currentFile() = path;
+            m_user->window.open(); // the file dialog itself needs more than there is
             QVERIFY2(mebibytes > 20 || m_user->status() == "Failed to read image",
                      qPrintable(m_user->status()));
             m_user->layDabs();
             m_user->trigger("actionMask");
             m_user->preview(true);
             m_user->brush(QRect(100, 100, 900, 900));
-            m_user->probe().undoStack().undo();
+            m_user->probe.undoStack().undo();
             m_user->exportTo(file("out.png"), 64, 64);
             m_user->preview(false);
         }
@@ -308,7 +301,7 @@ private slots:
         QCOMPARE(contentsOf(m_photo), m_before);
     }
 
-    /// With nothing found, nothing of the photo may be on the preview, whichever picture there was no room
+    /// With nothing found, nothing of the photo may be on the preview, whichever picture there was no memory
     /// for.
     void previewLargerThanMemory_data()
     {
@@ -323,14 +316,14 @@ private slots:
         if (hasSanitizer())
             QSKIP("the address sanitizer needs an address space without limit");
         const QString path = file("large.bmp");
-        picturefiles::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        testsupport::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
         m_user->open(path);
         QCOMPARE(m_user->status(), "Ready");
         {
             const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
             m_user->preview(true);
         }
-        const QImage shown = m_user->probe().previewImage();
+        const QImage shown = m_user->probe.previewImage();
         QVERIFY(shown.isNull() || qAlpha(shown.pixel(1000, 1000)) < 8); // smoothed, white is a little less
     }
 
@@ -343,23 +336,23 @@ private slots:
         if (hasSanitizer())
             QSKIP("the address sanitizer needs an address space without limit");
         const QString path = file("large.bmp");
-        picturefiles::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        testsupport::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
         m_user->open(path);
         m_user->layDabs();
         m_user->preview(true);
-        const QImage whole = m_user->probe().previewImage();
+        const QImage whole = m_user->probe.previewImage();
         QVERIFY(!whole.isNull());
         m_user->preview(false);
         {
             const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
             m_user->preview(true);
         }
-        m_user->window().applypreviewmask();
+        m_user->window.applypreviewmask();
         if (m_user->status() == "Ready") {
-            QVERIFY(m_user->probe().previewImage() == whole);
+            QVERIFY(m_user->probe.previewImage() == whole);
         } else {
             QCOMPARE(m_user->status(), "Not enough memory for a preview");
-            QVERIFY(m_user->probe().previewItem() == nullptr);
+            QVERIFY(m_user->probe.previewItem() == nullptr);
         }
     }
 
@@ -370,18 +363,18 @@ private slots:
         if (hasSanitizer())
             QSKIP("the address sanitizer needs an address space without limit");
         const QImage wide = picture(65536, 16);
-        picturefiles::put(file("wide.bmp"), picturefiles::encoded(wide, "bmp"));
+        testsupport::put(file("wide.bmp"), picturefiles::encoded(wide, "bmp"));
         QStringList said;
         for (int mebibytes = 40; mebibytes >= 2; mebibytes -= 2) {
             {
                 const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
-                m_user->probe().currentFile() = file("wide.bmp");
-                m_user->window().open(); // the file dialog itself needs more than there is
+                m_user->probe.currentFile() = file("wide.bmp");
+                m_user->window.open(); // the file dialog itself needs more than there is
             }
             if (said.isEmpty() || said.last() != m_user->status())
                 said << m_user->status();
-            QCOMPARE(m_user->probe().workingImage().size(), wide.size());
-            const unsigned char *const edges = m_user->probe().edgeMap();
+            QCOMPARE(m_user->probe.workingImage().size(), wide.size());
+            const unsigned char *const edges = m_user->probe.edgeMap();
             if (said.last() == "Not enough memory to find the edges")
                 QVERIFY(std::all_of(edges, edges + 65536 * 16, [](unsigned char edge) { return edge == 0; }));
         }
@@ -393,11 +386,11 @@ private slots:
     {
         if (hasSanitizer())
             QSKIP("the address sanitizer needs an address space without limit");
-        picturefiles::put(file("wide.bmp"), picturefiles::encoded(picture(10'000'000, 4), "bmp"));
+        testsupport::put(file("wide.bmp"), picturefiles::encoded(picture(10'000'000, 4), "bmp"));
         {
             const ShortMemory memory(rlim_t{400} << 20); // 160 MiB of pixels, 40 of edges
-            m_user->probe().currentFile() = file("wide.bmp");
-            m_user->window().open();
+            m_user->probe.currentFile() = file("wide.bmp");
+            m_user->window.open();
         }
         QCOMPARE(m_user->status(), "Ready");
         m_user->open(m_photo);
@@ -418,16 +411,13 @@ private:
         return m_folder == nullptr ? name : m_folder->filePath(name);
     }
 
-    [[nodiscard]] QStringList names() const
-    {
-        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
+    [[nodiscard]] QStringList names() const { return testsupport::namesIn(m_folder->path()); }
 
     void previewed()
     {
         m_user->layDabs();
         m_user->preview(true);
-        QVERIFY(!m_user->probe().previewImage().isNull());
+        QVERIFY(!m_user->probe.previewImage().isNull());
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -437,5 +427,5 @@ private:
     QStringList m_tempBefore;
 };
 
-ORNEVO_TEST_MAIN(FaultsTest)
+ORNEVO_TEST_MAIN(TestFaults)
 #include "tst_faults.moc"

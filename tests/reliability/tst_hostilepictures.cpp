@@ -4,6 +4,8 @@
 #include "tests/reference/TestPictures.h"
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/WindowUser.h"
+#include "tests/support/Files.h"
+#include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 
 #include <QElapsedTimer>
@@ -33,7 +35,7 @@ enum class Outcome { Opens, Fails, Either };
 Q_DECLARE_METATYPE(Outcome)
 
 /// Pictures made to break a program that opens them.
-class HostilePicturesTest : public QObject
+class TestHostilePictures : public QObject
 {
     Q_OBJECT
 
@@ -123,13 +125,13 @@ private slots:
         else if (name == "pipe")
             QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
         else
-            picturefiles::put(path, contents);
+            testsupport::put(path, contents);
         const bool opened = openedWithinBounds(path);
         if (outcome != Outcome::Either)
             QCOMPARE(opened, outcome == Outcome::Opens);
     }
 
-    void survivesEveryCut_data()
+    void survivesEveryTruncation_data()
     {
         QTest::addColumn<QByteArray>("format");
         for (const char *format : {"jpg", "png", "bmp", "tiff", "gif"})
@@ -137,7 +139,7 @@ private slots:
     }
 
     /// A download that broke off, at every hundredth of the file.
-    void survivesEveryCut()
+    void survivesEveryTruncation()
     {
         QFETCH(QByteArray, format);
         const QByteArray whole = format == "gif"
@@ -145,10 +147,10 @@ private slots:
                                      : picturefiles::encoded(picturefiles::smallPicture(60, 40, 2), format);
         if (whole.isEmpty())
             QSKIP("this machine does not write the format");
-        const QString path = m_folder->filePath("cut." + format);
+        const QString path = m_folder->filePath("truncated." + format);
         int opened = 0;
         for (int percent = 0; percent <= 100; ++percent) {
-            picturefiles::put(path, whole.left(whole.size() * percent / 100));
+            testsupport::put(path, whole.left(whole.size() * percent / 100));
             opened += openedWithinBounds(path) ? 1 : 0;
             if (QTest::currentTestFailed())
                 return;
@@ -175,22 +177,22 @@ private slots:
     {
         QFETCH(QSize, size);
         const QString path = m_folder->filePath("shape.png");
-        picturefiles::put(
+        testsupport::put(
             path, picturefiles::encoded(testpictures::blobImage(size.width(), size.height(), 1), "png"));
         QElapsedTimer clock;
         clock.start();
         WindowUser user;
-        user.window().show();
+        user.window.show();
         user.open(path);
         QCOMPARE(user.status(), "Ready");
-        QCOMPARE(user.probe().workingImage().size(), size);
+        QCOMPARE(user.probe.workingImage().size(), size);
         user.layDabs();
         user.trigger("actionMask");
-        QVERIFY(user.probe().maskItem() != nullptr);
+        QVERIFY(user.probe.maskItem() != nullptr);
         user.preview(true);
-        QCOMPARE(user.probe().previewImage().size(), size);
+        QCOMPARE(user.probe.previewImage().size(), size);
         user.brush(QRect(0, 0, 3, 3));
-        user.probe().undoStack().undo();
+        user.probe.undoStack().undo();
         QCoreApplication::processEvents();
         const QString out = m_folder->filePath("out.png");
         user.exportTo(out, 50, 50);
@@ -211,32 +213,32 @@ private slots:
     {
         QFETCH(int, half);
         const QString path = m_folder->filePath("photo.png");
-        picturefiles::put(path, picturefiles::encoded(picturefiles::smallPicture(60, 40, 1), "png"));
+        testsupport::put(path, picturefiles::encoded(picturefiles::smallPicture(60, 40, 1), "png"));
         WindowUser user;
         user.open(path);
         user.layDabs();
         user.preview(true);
-        user.probe().brushIntensityKeep() = 255;
-        const QImage untouched = user.probe().previewImage().copy();
+        user.probe.brushIntensityKeep() = 255;
+        const QImage untouched = user.probe.previewImage().copy();
         QElapsedTimer clock;
         clock.start();
         user.brush(QRect(-half, -half, 2 * half - 1, 2 * half - 1));
         QVERIFY2(clock.elapsed() < 5000, "it takes too long");
-        const QImage brushed = user.probe().previewImage();
+        const QImage brushed = user.probe.previewImage();
         for (const QPoint corner : {QPoint(0, 0), QPoint(59, 0), QPoint(0, 39), QPoint(59, 39)})
             QCOMPARE(qAlpha(brushed.pixel(corner)), 255);
         QVERIFY(brushed != untouched);
-        user.probe().undoStack().undo();
-        QCOMPARE(user.probe().previewImage(), untouched);
+        user.probe.undoStack().undo();
+        QCOMPARE(user.probe.previewImage(), untouched);
     }
 
-    /// As far in and as far out as it goes, and with the hand on what is shown there.
+    /// As far in and as far out as it goes, and with the Hand tool on what is shown there.
     void zoomWithoutEnd()
     {
         const QString path = m_folder->filePath("photo.png");
-        picturefiles::put(path, picturefiles::encoded(picturefiles::smallPicture(60, 40, 1), "png"));
+        testsupport::put(path, picturefiles::encoded(picturefiles::smallPicture(60, 40, 1), "png"));
         WindowUser user;
-        user.window().show();
+        user.window.show();
         user.open(path);
         user.layDabs();
         user.preview(true);
@@ -248,7 +250,7 @@ private slots:
             }
             const int far = std::numeric_limits<int>::max();
             for (int i = 0; i < 5; ++i)
-                QMetaObject::invokeMethod(&user.window(), "on_HandToolPressed",
+                QMetaObject::invokeMethod(&user.window, "on_HandToolPressed",
                                           Q_ARG(QPoint, QPoint(-far, -far)), Q_ARG(QPoint, QPoint(far, far)));
             const QImage before = user.probe().previewImage().copy();
             const int commands = user.probe().undoStack().index();
@@ -267,18 +269,12 @@ private slots:
     void vastBits()
     {
         const QString path = m_folder->filePath("vast.png");
-        picturefiles::put(path, picturefiles::png(20000, 20000, 1, 0, QByteArray(20000 * 2501, 0)));
+        testsupport::put(path, picturefiles::png(20000, 20000, 1, 0, QByteArray(20000 * 2501, 0)));
         QVERIFY(QFileInfo(path).size() < 200000);
         openedWithinBounds(path);
     }
 
-    void initTestCase()
-    {
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-            if (type == QtFatalMsg)
-                fprintf(stderr, "%s\n", qPrintable(text));
-        });
-    }
+    void initTestCase() { testsupport::printFatalMessagesOnly(); }
 
 private:
     /// Opens a file in a window of its own that shows another picture before.
@@ -286,11 +282,11 @@ private:
     {
         if (m_user == nullptr)
             m_user = std::make_unique<WindowUser>();
-        m_user->probe().currentFile() = path;
+        m_user->probe.currentFile() = path;
         QElapsedTimer clock;
         clock.start();
-        m_user->window().open();
-        const bool opened = !m_user->probe().imageScene().items().isEmpty();
+        m_user->window.open();
+        const bool opened = !m_user->probe.imageScene().items().isEmpty();
         const QString expected = opened ? "Ready" : "Failed to read image";
         if (m_user->status() != expected || clock.elapsed() > longestOpening)
             QTest::qFail(
@@ -315,5 +311,5 @@ private:
     std::unique_ptr<WindowUser> m_user;
 };
 
-ORNEVO_TEST_MAIN(HostilePicturesTest)
+ORNEVO_TEST_MAIN(TestHostilePictures)
 #include "tst_hostilepictures.moc"

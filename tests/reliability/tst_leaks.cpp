@@ -3,6 +3,8 @@
 
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/WindowUser.h"
+#include "tests/support/Files.h"
+#include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 
 #include <QDir>
@@ -30,27 +32,21 @@ qint64 residentBytes()
 
 /// A long day's work leaves the memory where it was. Under the address sanitizer, which keeps freed memory
 /// for a while, its own leak check at the end of the program is what counts.
-class LeaksTest : public QObject
+class TestLeaks : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-            if (type == QtFatalMsg)
-                fprintf(stderr, "%s\n", qPrintable(text));
-        });
-    }
+    void initTestCase() { testsupport::printFatalMessagesOnly(); }
 
     void aHundredPictures()
     {
         const QTemporaryDir folder;
         const QStringList names = {folder.filePath("a.png"), folder.filePath("b.jpg")};
-        picturefiles::put(names[0], picturefiles::encoded(picturefiles::smallPicture(240, 180, 1), "png"));
-        picturefiles::put(names[1], picturefiles::encoded(picturefiles::smallPicture(180, 240, 2), "jpg"));
+        testsupport::put(names[0], picturefiles::encoded(picturefiles::smallPicture(240, 180, 1), "png"));
+        testsupport::put(names[1], picturefiles::encoded(picturefiles::smallPicture(180, 240, 2), "jpg"));
         WindowUser user;
-        user.window().show();
+        user.window.show();
         qint64 before = 0;
         for (int round = 0; round < warmUp + rounds; ++round) {
             if (round == warmUp)
@@ -63,12 +59,12 @@ private slots:
             user.preview(true);
             for (int stroke = 0; stroke < 3; ++stroke)
                 user.brush(QRect(50 * stroke, 50, 40, 40));
-            user.probe().undoStack().undo();
+            user.probe.undoStack().undo();
             user.exportTo(folder.filePath("out.png"), 200);
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QCOMPARE(user.probe().undoStack().count(), 3);
-            QVERIFY(user.probe().previewScene().items().size() <= 3); // both layers and the brush circle
+            QCOMPARE(user.probe.undoStack().count(), 3);
+            QVERIFY(user.probe.previewScene().items().size() <= 3); // both layers and the brush circle
         }
         const qint64 growth = (residentBytes() - before) >> 20;
         fprintf(stderr, "%d rounds grew the program by %lld MiB\n", rounds, static_cast<long long>(growth));
@@ -82,11 +78,11 @@ private slots:
     {
         const QTemporaryDir folder;
         const QStringList names = {folder.filePath("a.png"), folder.filePath("b.jpg")};
-        picturefiles::put(names[0], picturefiles::encoded(picturefiles::smallPicture(1200, 900, 1), "png"));
-        picturefiles::put(names[1], picturefiles::encoded(picturefiles::smallPicture(900, 1200, 2), "jpg"));
+        testsupport::put(names[0], picturefiles::encoded(picturefiles::smallPicture(1200, 900, 1), "png"));
+        testsupport::put(names[1], picturefiles::encoded(picturefiles::smallPicture(900, 1200, 2), "jpg"));
         constexpr int largeRounds = 12;
         WindowUser user;
-        user.window().show();
+        user.window.show();
         qint64 before = 0;
         for (int round = 0; round < 4 + largeRounds; ++round) {
             if (round == 4)
@@ -97,7 +93,7 @@ private slots:
             user.trigger("actionMask");
             user.preview(true);
             user.brush(QRect(500, 400, 40, 40));
-            user.probe().undoStack().undo();
+            user.probe.undoStack().undo();
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
@@ -115,11 +111,11 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString name = folder.filePath("a.png");
-        picturefiles::put(name, picturefiles::encoded(picturefiles::smallPicture(400, 300, 1), "png"));
+        testsupport::put(name, picturefiles::encoded(picturefiles::smallPicture(400, 300, 1), "png"));
         const auto widgets = QApplication::allWidgets().size();
         for (int i = 0; i < 20; ++i) {
             WindowUser user;
-            user.window().show();
+            user.window.show();
             user.open(name);
             user.layDabs();
             user.preview(true);
@@ -131,5 +127,5 @@ private slots:
     }
 };
 
-ORNEVO_TEST_MAIN(LeaksTest)
+ORNEVO_TEST_MAIN(TestLeaks)
 #include "tst_leaks.moc"

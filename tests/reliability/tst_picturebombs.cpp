@@ -7,6 +7,7 @@
 #include "cutout/RasterFormat.h"
 #include "tests/reference/TestPictures.h"
 #include "tests/reliability/PictureFiles.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMain.h"
 
 #include <QBuffer>
@@ -190,7 +191,7 @@ using Maker = std::function<QByteArray()>;
 Q_DECLARE_METATYPE(Maker)
 
 /// Files of up to 64 MB that want to be decoded for ever or into all memory.
-class PictureBombsTest : public QObject
+class TestPictureBombs : public QObject
 {
     Q_OBJECT
 
@@ -302,23 +303,23 @@ private slots:
         const QString path = folder.filePath("bomb");
         const QByteArray file = make();
         QVERIFY(file.size() > 20 && file.size() <= largestFile);
-        picturefiles::put(path, file);
+        testsupport::put(path, file);
         QProcess reader;
         reader.start(READ_ONCE, {path});
         QVERIFY(reader.waitForFinished(600'000));
         QCOMPARE(reader.exitStatus(), QProcess::NormalExit);
-        const QList<QByteArray> told = reader.readAllStandardOutput().trimmed().split(' ');
-        QCOMPARE(told.size(), 4);
-        const qint64 milliseconds = told[2].toLongLong();
-        const qint64 mebibytes = told[3].toLongLong();
+        const QList<QByteArray> reported = reader.readAllStandardOutput().trimmed().split(' ');
+        QCOMPARE(reported.size(), 4);
+        const qint64 milliseconds = reported[2].toLongLong();
+        const qint64 mebibytes = reported[3].toLongLong();
         fprintf(stderr, "%s: %lld bytes, %lld ms, %lld MiB\n", QTest::currentDataTag(),
                 static_cast<long long>(file.size()), static_cast<long long>(milliseconds),
                 static_cast<long long>(mebibytes));
-        QVERIFY2(milliseconds < mostMilliseconds, told[2].constData());
+        QVERIFY2(milliseconds < mostMilliseconds, reported[2].constData());
         const qint64 pixels = (qint64{4} * size.width() * size.height()) >> 20;
         QVERIFY2(mebibytes > 0 && mebibytes < mostMemoryBesidesPixels + qMax<qint64>(pixels, 0),
-                 told[3].constData());
-        const QSize opened(told[0].toInt(), told[1].toInt());
+                 reported[3].constData());
+        const QSize opened(reported[0].toInt(), reported[1].toInt());
         QCOMPARE(opened.isEmpty() ? QSize() : opened, size.isEmpty() ? QSize() : size);
     }
 
@@ -336,7 +337,7 @@ private slots:
         QByteArray noted = jpegFile;
         noted.insert(2, segment(0xFE, "a comment") + segment(0xED, "a program's"));
         QCOMPARE(cutout::leanJpeg(noted + "what follows"), jpegFile);
-        for (qsizetype bytes = 0; bytes < noted.size(); ++bytes) // and no cut breaks it
+        for (qsizetype bytes = 0; bytes < noted.size(); ++bytes) // and no truncation breaks it
             QVERIFY(cutout::leanJpeg(noted.left(bytes)).size() <= bytes);
         for (qsizetype bytes = 0; bytes < withText.size(); bytes += 7)
             QVERIFY(cutout::leanPng(withText.left(bytes)).size() <= qMax<qsizetype>(bytes, 8));
@@ -424,11 +425,11 @@ private slots:
               QByteArray("\x1F\x8B\x08"), QByteArray("%PDF-1.4\n"), QByteArray("\x8AMNG\r\n\x1A\n"),
               QByteArray("%!PS"), QByteArray("icns"), QByteArray("text")}) {
             QCOMPARE(cutout::rasterFormats(beginning), QList<QByteArray>({"wbmp", "tga"}));
-            picturefiles::put(path, beginning);
+            testsupport::put(path, beginning);
             QVERIFY(cutout::readPicture(path).isNull());
         }
     }
 };
 
-ORNEVO_TEST_MAIN(PictureBombsTest)
+ORNEVO_TEST_MAIN(TestPictureBombs)
 #include "tst_picturebombs.moc"

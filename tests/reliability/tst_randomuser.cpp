@@ -4,6 +4,7 @@
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/RandomUser.h"
 #include "tests/reliability/WindowInvariants.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestMain.h"
 
 #include <QAction>
@@ -48,7 +49,7 @@ QStringList temporaryFiles()
 
 /// A walk through the program without aim or end. ORNEVO_WALK_SEED and ORNEVO_WALK_STEPS choose it;
 /// scripts/walk does it for you.
-class RandomUserTest : public QObject
+class TestRandomUser : public QObject
 {
     Q_OBJECT
 
@@ -112,7 +113,7 @@ private slots:
                 QVERIFY2(temporaryFiles().size() <= 210, "more temporary files than the history can hold");
             }
             const QString tiny = home.filePath("tiny.png");
-            picturefiles::put(tiny, picturefiles::encoded(picturefiles::smallPicture(5, 4, 1), "png"));
+            testsupport::put(tiny, picturefiles::encoded(picturefiles::smallPicture(5, 4, 1), "png"));
             user.openForSure(tiny);
             fprintf(stderr, "seed %d: %d steps, %d dialogs, %lld ms, longest %lld ms at %s, trail %llx\n",
                     seed, steps, user.dialogsAnswered(), static_cast<long long>(clock.elapsed()),
@@ -136,5 +137,5 @@ private:
     int m_mails = 0;
 };
 
-ORNEVO_TEST_MAIN(RandomUserTest)
+ORNEVO_TEST_MAIN(TestRandomUser)
 #include "tst_randomuser.moc"

@@ -5,25 +5,19 @@
 #include "tests/reliability/PictureFiles.h"
 #include "tests/reliability/ShortMemory.h"
 #include "tests/reliability/WindowUser.h"
+#include "tests/support/Files.h"
+#include "tests/support/MessageLog.h"
 #include "tests/support/TestMain.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-namespace {
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
+using testsupport::contentsOf;
 
 /// A photo of twelve megapixels in an address space that ends somewhere. Whatever there is no memory for is
 /// said, and no file is written that lacks a part of the picture.
-class ShortMemoryTest : public QObject
+class TestShortMemory : public QObject
 {
     Q_OBJECT
 
@@ -33,14 +27,11 @@ private slots:
 #ifdef ORNEVO_ADDRESS_SANITIZER
         QSKIP("the address sanitizer needs an address space without limit");
 #endif
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-            if (type == QtFatalMsg)
-                fprintf(stderr, "%s\n", qPrintable(text));
-        });
+        testsupport::printFatalMessagesOnly();
         m_photo = m_folder.filePath("photo.bmp");
-        picturefiles::put(m_photo, picturefiles::encoded(testpictures::rampImage(4000, 3000, 3), "bmp"));
-        // Qt converts large pictures in threads and waits for ever for one that has no room for its stack; a
-        // program that has worked for a while has them.
+        testsupport::put(m_photo, picturefiles::encoded(testpictures::rampImage(4000, 3000, 3), "bmp"));
+        // Qt converts large pictures in threads and waits for ever for one that has no memory for its stack;
+        // a program that has worked for a while has them.
         const QImage warm = testpictures::randomArgbImage(1024, 1024, 1);
         QVERIFY(!warm.convertToFormat(QImage::Format_RGBA64).isNull());
         QVERIFY(!warm.convertToFormat(QImage::Format_ARGB32_Premultiplied).isNull());
@@ -49,7 +40,7 @@ private slots:
         QCOMPARE(user.status(), "Ready");
         m_whole = contentsOf(m_folder.filePath("whole.png"));
         QVERIFY(m_whole.size() > 1000000);
-        m_cutOut = user.probe().previewImage();
+        m_cutOut = user.probe.previewImage();
     }
 
     void everyLimit_data()
@@ -67,7 +58,7 @@ private slots:
         QFETCH(int, mebibytes);
         const QString out = m_folder.filePath("out.png");
         const QByteArray older("an older export");
-        picturefiles::put(out, older);
+        testsupport::put(out, older);
         WindowUser user;
         QString status;
         {
@@ -90,8 +81,8 @@ private:
     /// From the file to the export; stops where something is said to be missing, and gives the last word.
     QString work(WindowUser &user, const QString &out)
     {
-        user.probe().currentFile() = m_photo;
-        user.window().open(); // the file dialog itself needs more than there is
+        user.probe.currentFile() = m_photo;
+        user.window.open(); // the file dialog itself needs more than there is
         if (user.status() != "Ready")
             return user.status();
         user.layDabs();
@@ -112,5 +103,5 @@ private:
     QImage m_cutOut;
 };
 
-ORNEVO_TEST_MAIN(ShortMemoryTest)
+ORNEVO_TEST_MAIN(TestShortMemory)
 #include "tst_shortmemory.moc"

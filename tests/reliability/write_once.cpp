@@ -30,7 +30,7 @@ private slots:
         puts("ready");
         fflush(stdout);
         if (arguments.at(1).endsWith(".jpg"))
-            user.window().save(arguments.at(1));
+            user.window.save(arguments.at(1));
         else
             user.exportTo(arguments.at(1), 400);
     }

@@ -28,7 +28,7 @@ Scene icon();
 /// Two hills under a sunset, to lay behind something.
 QImage sunset(QSize size);
 
-/// A JPEG as a phone held upright writes it: the picture lies on its side, and EXIF tells to turn it.
+/// A JPEG as a phone held upright writes it: the picture lies on its side, and EXIF says to turn it.
 QByteArray lyingJpeg(const QImage &upright, int quality);
 
 /// The common part of two areas beside what either covers, 0 .. 1. `found` has the pixels' indices.

@@ -26,7 +26,7 @@
 #include <algorithm>
 
 using scenes::Scene;
-using testsupport::ModalAnswers;
+using testsupport::DialogAnswers;
 using testsupport::part;
 using testsupport::pressKey;
 using testsupport::WindowUnderTest;
@@ -62,7 +62,7 @@ QPoint placeOf(WindowUnderTest &t, double x, double y)
     return t.view.mapFromScene(QPointF(x * photo.width(), y * photo.height()));
 }
 
-/// A stroke from one place of the photo to another, as a hand makes it: a movement every few pixels.
+/// A stroke from one place of the photo to another, as a person draws it: a movement every few pixels.
 void stroke(WindowUnderTest &t, QPointF from, QPointF to, int moves = 40)
 {
     QList<QPoint> positions;
@@ -101,7 +101,7 @@ void chooseBackgroundPicture(WindowUnderTest &t, const QString &file)
 {
     t.answers.expect<BackgroundDialog>([](BackgroundDialog &dialog) {
         QTest::mouseClick(&part<QPushButton>(dialog, "pushButton_2"), Qt::LeftButton);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file);
     click(t, "actionSelect_Background");
@@ -111,13 +111,13 @@ void exportTo(WindowUnderTest &t, const QString &file)
 {
     t.answers.expect<ExportDialog>([](ExportDialog &dialog) {
         QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file);
     click(t, "actionExport");
 }
 
-/// The composition put together by hand, a plain pixel at a time, from what the window shows.
+/// The composition put together plainly, a pixel at a time, from what the window shows.
 QImage expectedExport(WindowUnderTest &t, QSize size)
 {
     const QGraphicsPixmapItem &background = *t.probe.backgroundItem();
@@ -197,7 +197,7 @@ void verifyFittedPreview(WindowUnderTest &t, const Scene &scene, double least)
 
 } // namespace
 
-class ScenariosTest : public QObject
+class TestScenarios : public QObject
 {
     Q_OBJECT
 
@@ -222,14 +222,14 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void ScenariosTest::init()
+void TestScenarios::init()
 {
     QSettings().clear();
     m_folder = std::make_unique<QTemporaryDir>();
 }
 
 /// A bottle for a web shop: marked, looked at, set before white, exported as JPEG at half the size.
-void ScenariosTest::productOnWhite()
+void TestScenarios::productOnWhite()
 {
     const Scene scene = scenes::bottle({1600, 1200});
     WindowUnderTest t;
@@ -249,7 +249,7 @@ void ScenariosTest::productOnWhite()
         width.selectAll();
         QTest::keyClicks(&width, "800");
         QTest::mouseClick(&part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
-        ModalAnswers::press(dialog, QDialogButtonBox::Ok);
+        testsupport::press(dialog, QDialogButtonBox::Ok);
     });
     t.answers.chooseFile(file("shop")); // completed by the chooser
     click(t, "actionExport");
@@ -264,8 +264,8 @@ void ScenariosTest::productOnWhite()
     QVERIFY(qGray(shop.pixel(400, 500)) < 100);
 }
 
-/// A balloon laid over a sunset, moved by hand and the background enlarged, exported as PNG.
-void ScenariosTest::collage()
+/// A balloon laid over a sunset, moved with the Hand tool and the background enlarged, exported as PNG.
+void TestScenarios::collage()
 {
     const Scene scene = scenes::balloon({1500, 1000});
     WindowUnderTest t;
@@ -306,7 +306,7 @@ void ScenariosTest::collage()
 }
 
 /// A lamp in a dark room, corrected with both brushes fifty times, all of it taken back and done again.
-void ScenariosTest::fiftyUndos()
+void TestScenarios::fiftyUndos()
 {
     const Scene scene = scenes::lamp(underSanitizers ? QSize(600, 400) : QSize(6000, 4000));
     WindowUnderTest t;
@@ -328,26 +328,26 @@ void ScenariosTest::fiftyUndos()
     QCOMPARE(states.size(), 51);
     testsupport::activate(t.window);
     for (int i = 49; i >= 0; --i) {
-        driver::key(t.window, QKeySequence::Undo);
+        testsupport::key(t.window, QKeySequence::Undo);
         QVERIFY2(t.probe.previewImage() == states[i], qPrintable(QString("undo to %1").arg(i)));
     }
     QCOMPARE(t.probe.undoStack().index(), done - 50); // an entry for each stroke
-    driver::settle();
+    testsupport::settle();
     QCOMPARE(t.probe.previewItem()->pixmap().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied),
              states[0].convertToFormat(QImage::Format_ARGB32_Premultiplied));
     for (int i = 1; i <= 50; ++i) {
-        driver::key(t.window, QKeySequence::Redo);
+        testsupport::key(t.window, QKeySequence::Redo);
         QVERIFY2(t.probe.previewImage() == states[i], qPrintable(QString("redo to %1").arg(i)));
     }
 }
 
 /// Everything within 800 x 600, with buttons that don't fit and a photo that is larger than the window.
-void ScenariosTest::smallWindow()
+void TestScenarios::smallWindow()
 {
     const Scene scene = scenes::person({900, 1200});
     WindowUnderTest t;
     t.window.resize(480, 360);
-    driver::settle();
+    testsupport::settle();
     QVERIFY(t.window.width() <= 800 && t.window.height() <= 600);
     QVERIFY(writeFile(file("phone.jpg"), scenes::lyingJpeg(scene.photo, 95)));
     t.openPicture(file("phone.jpg"));
@@ -361,10 +361,10 @@ void ScenariosTest::smallWindow()
     QVERIFY(offCentre(t, *t.probe.backgroundItem()) <= 2);
     // Larger and back: the photo is still there, all of it.
     t.window.resize(790, 590);
-    driver::settle();
+    testsupport::settle();
     QVERIFY(offCentre(t, *t.probe.backgroundItem()) <= 2);
     t.window.resize(480, 360);
-    driver::settle();
+    testsupport::settle();
     QVERIFY(offCentre(t, *t.probe.backgroundItem()) <= 2);
     QVERIFY(t.view.viewport()->rect().intersects(shownAt(t, *t.probe.previewItem())));
     // Zoomed in, a brush reaches what it is pointed at.
@@ -377,7 +377,7 @@ void ScenariosTest::smallWindow()
     t.mouse.stroke({hit, hit + QPoint(1, 0)});
     QTRY_VERIFY(t.probe.pendingBrushRects().isEmpty());
     QVERIFY(qAlpha(before.pixel(pixel.toPoint())) > qAlpha(t.probe.previewImage().pixel(pixel.toPoint())));
-    driver::key(t.window, QKeySequence::Undo);
+    testsupport::key(t.window, QKeySequence::Undo);
     VERIFY_SAME("undo", t.probe.previewImage(), before);
     const QSize screen(800, 600);
     for (const QSize size : {ExportDialog(1, 1, &t.probe.settings(), nullptr).sizeHint(),
@@ -387,7 +387,7 @@ void ScenariosTest::smallWindow()
 
 /// A small button: opened, masked, previewed, its background chosen and exported without a mouse, but for the
 /// marks themselves.
-void ScenariosTest::keyboardOnly()
+void TestScenarios::keyboardOnly()
 {
     const Scene scene = scenes::icon();
     WindowUnderTest t;
@@ -463,7 +463,7 @@ void ScenariosTest::keyboardOnly()
 
 /// A large photo, then a small one, then one that a phone took upright; each preview is centred, has nothing
 /// to scroll and cuts its own photo.
-void ScenariosTest::threePhotosInARow()
+void TestScenarios::threePhotosInARow()
 {
     const QSize large = underSanitizers ? QSize(948, 632) : QSize(9486, 6324);
     const QSize upright = underSanitizers ? QSize(600, 800) : QSize(3000, 4000);
@@ -473,7 +473,7 @@ void ScenariosTest::threePhotosInARow()
         QVERIFY(nothingToScroll(t));
         mark();
         click(t, "actionPreview");
-        driver::settle();
+        testsupport::settle();
     };
     {
         const Scene scene = scenes::balloon(large);
@@ -500,5 +500,5 @@ void ScenariosTest::threePhotosInARow()
     verifyFittedPreview(t, person, alike);
 }
 
-ORNEVO_TEST_MAIN(ScenariosTest)
+ORNEVO_TEST_MAIN(TestScenarios)
 #include "tst_scenarios.moc"

@@ -41,7 +41,7 @@ inline std::vector<std::vector<std::uint8_t>> edgeMaps(QSize size, std::uint32_t
 }
 
 /// A picture of which only the middle row can be flooded: the others are frame.
-inline QImage strip(const std::vector<std::uint8_t> &greys)
+inline QImage rowPicture(const std::vector<std::uint8_t> &greys)
 {
     std::vector<std::uint8_t> plane;
     for (int row = 0; row < 3; ++row)
@@ -49,15 +49,15 @@ inline QImage strip(const std::vector<std::uint8_t> &greys)
     return testpictures::greyImage(static_cast<int>(greys.size()), 3, plane);
 }
 
-/// The edge map of a strip.
-inline std::vector<std::uint8_t> stripEdges(const std::vector<std::uint8_t> &costs)
+/// The edge map of such a picture.
+inline std::vector<std::uint8_t> rowEdges(const std::vector<std::uint8_t> &costs)
 {
     std::vector<std::uint8_t> plane(3 * costs.size());
     std::copy(costs.begin(), costs.end(), plane.begin() + static_cast<std::ptrdiff_t>(costs.size()));
     return plane;
 }
 
-/// Pixels of a strip's middle row by their columns.
+/// Pixels of its middle row by their columns.
 inline QList<int> columnsOf(int width, const QList<int> &columns)
 {
     QList<int> indices;

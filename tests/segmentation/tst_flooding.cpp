@@ -59,7 +59,7 @@ bool agree(const QImage &image, const Plane &edges, int seedsPerRegion, std::uin
            manyRegionsAgree(image, edges, seedLists(image, 3, seedsPerRegion, seed + 1));
 }
 
-/// A photograph of this machine, cut to a size that the plain version floods in a moment.
+/// A photograph of this machine, clipped to a size that the plain version floods in a moment.
 QImage photo()
 {
     for (const QString &file : testsupport::availablePhotographs()) {

@@ -17,8 +17,8 @@
 
 using testsupport::columnsOf;
 using testsupport::described;
-using testsupport::strip;
-using testsupport::stripEdges;
+using testsupport::rowEdges;
+using testsupport::rowPicture;
 
 namespace {
 
@@ -99,14 +99,14 @@ private slots:
     void pixelOfAnEdgeCostsTheEdgeWhateverTheColours();
     void neighbouringSeedsAreNeverRelabelled();
     void everythingInsideAStrongEdgeComesBeforeTheEdge();
-    void lowestLevelIsServedNext();
-    void lowestLevelIsServedNextAfterAllWereEmpty();
-    void firstComeFirstServedWithinALevel();
-    void stepDownIsPricedWithTheRightHandNeighbour();
+    void lowestLevelIsDrainedNext();
+    void lowestLevelIsDrainedNextAfterAllWereEmpty();
+    void firstInFirstOutWithinALevel();
+    void stepDownCostsAsTheRightHandNeighbour();
     void greyStepIsTruncated();
     void seedsOnTheFrameCountForNothing();
     void seedInBothListsIsRemoved();
-    void seedsOffThePictureArePassedOver();
+    void seedsOffThePictureAreIgnored();
     void repeatedSeeds();
     void indexNamesAPixelOfAPaddedPicture();
     void nothingToDo_data();
@@ -186,9 +186,9 @@ void TestFrWatershed::agreesOnLargePictures()
 
 void TestFrWatershed::uniformPictureIsSplitInTheMiddle()
 {
-    const QImage even = strip(Bytes(9, 80));
+    const QImage even = rowPicture(Bytes(9, 80));
     QCOMPARE(flooded(even, columnsOf(9, {1}), columnsOf(9, {7})), columnsOf(9, {1, 2, 3})); // 4 is the border
-    const QImage odd = strip(Bytes(10, 80));
+    const QImage odd = rowPicture(Bytes(10, 80));
     QCOMPARE(flooded(odd, columnsOf(10, {1}), columnsOf(10, {8})), columnsOf(10, {1, 2, 3, 4}));
 }
 
@@ -197,15 +197,15 @@ void TestFrWatershed::pixelOfAnEdgeCostsTheEdgeWhateverTheColours()
     const Bytes costs{0, 9, 3, 200, 1, 77, 5, 5, 18, 9, 0};
     const Indices keep = columnsOf(11, {1});
     const Indices remove = columnsOf(11, {9});
-    const Indices plain = flooded(strip(Bytes(11, 0)), keep, remove, stripEdges(costs));
+    const Indices plain = flooded(rowPicture(Bytes(11, 0)), keep, remove, rowEdges(costs));
     QCOMPARE(plain, columnsOf(11, {1, 2})); // 3 is the dearest, where the regions meet
     for (std::uint32_t seed = 0; seed < 10; ++seed)
-        QCOMPARE(flooded(testpictures::randomImage(11, 3, seed), keep, remove, stripEdges(costs)), plain);
+        QCOMPARE(flooded(testpictures::randomImage(11, 3, seed), keep, remove, rowEdges(costs)), plain);
 }
 
 void TestFrWatershed::neighbouringSeedsAreNeverRelabelled()
 {
-    const QImage picture = strip(Bytes(8, 10));
+    const QImage picture = rowPicture(Bytes(8, 10));
     QCOMPARE(flooded(picture, columnsOf(8, {3}), columnsOf(8, {4})), columnsOf(8, {1, 2, 3}));
     QCOMPARE(flooded(picture, columnsOf(8, {4}), columnsOf(8, {3})), columnsOf(8, {4, 5, 6}));
 }
@@ -227,31 +227,31 @@ void TestFrWatershed::everythingInsideAStrongEdgeComesBeforeTheEdge()
     QCOMPARE(flooded(picture, {8 * side + 8}, innerFrame({side, side}), edges), inside);
 }
 
-void TestFrWatershed::lowestLevelIsServedNext()
+void TestFrWatershed::lowestLevelIsDrainedNext()
 {
     // Behind the first pixel on the left, all is cheap: it has to come before what waits on the right.
     const Bytes costs{0, 0, 9, 1, 1, 1, 1, 1, 10, 0, 0};
-    QCOMPARE(flooded(strip(Bytes(11, 50)), columnsOf(11, {1}), columnsOf(11, {9}), stripEdges(costs)),
+    QCOMPARE(flooded(rowPicture(Bytes(11, 50)), columnsOf(11, {1}), columnsOf(11, {9}), rowEdges(costs)),
              columnsOf(11, {1, 2, 3, 4, 5, 6, 7}));
 }
 
-void TestFrWatershed::lowestLevelIsServedNextAfterAllWereEmpty()
+void TestFrWatershed::lowestLevelIsDrainedNextAfterAllWereEmpty()
 {
     // Only one pixel ever waits, at a level that goes up and down.
     const Bytes costs{0, 0, 0, 9, 200, 3, 255, 1, 90, 5, 0};
-    QCOMPARE(flooded(strip(Bytes(11, 50)), columnsOf(11, {2}), columnsOf(11, {1}), stripEdges(costs)),
+    QCOMPARE(flooded(rowPicture(Bytes(11, 50)), columnsOf(11, {2}), columnsOf(11, {1}), rowEdges(costs)),
              columnsOf(11, {2, 3, 4, 5, 6, 7, 8, 9}));
 }
 
-void TestFrWatershed::firstComeFirstServedWithinALevel()
+void TestFrWatershed::firstInFirstOutWithinALevel()
 {
-    // The last one served first would run to the end on one side before the other side moves.
-    const QImage picture = strip(Bytes(21, 50));
+    // Last in, first out would run to the end on one side before the other side moves.
+    const QImage picture = rowPicture(Bytes(21, 50));
     QCOMPARE(flooded(picture, columnsOf(21, {1}), columnsOf(21, {19})).size(), 9);
     QCOMPARE(flooded(picture, columnsOf(21, {19}), columnsOf(21, {1})).size(), 9);
 }
 
-void TestFrWatershed::stepDownIsPricedWithTheRightHandNeighbour()
+void TestFrWatershed::stepDownCostsAsTheRightHandNeighbour()
 {
     // One column to flood, from a Keep seed on top and a Remove seed at the bottom, which costs 9 to leave.
     // All else of the column is even; the frame on its right alone decides who comes first to the middle.
@@ -271,7 +271,7 @@ void TestFrWatershed::greyStepIsTruncated()
     // level with an edge of one less. The order of the sum decides which they are.
     for (int step = 1; step <= 255; ++step) {
         const auto grey = static_cast<std::uint8_t>(step);
-        const QImage picture = strip({0, 0, grey, grey, grey, grey, 0});
+        const QImage picture = rowPicture({0, 0, grey, grey, grey, grey, 0});
         const int cost = reference::luminanceDifference(qRgb(step, step, step), qRgb(0, 0, 0));
         QVERIFY(cost == step || cost == step - 1);
         for (const int edge : {cost - 1, cost, cost + 1}) {
@@ -279,11 +279,11 @@ void TestFrWatershed::greyStepIsTruncated()
                 continue;
             const Bytes costs{0, 0, 0, 0, static_cast<std::uint8_t>(edge), 0, 0};
             const QByteArray words =
-                complaint(picture, columnsOf(7, {1}), columnsOf(7, {5}), stripEdges(costs));
+                complaint(picture, columnsOf(7, {1}), columnsOf(7, {5}), rowEdges(costs));
             QVERIFY2(words.isEmpty(), words.constData());
             // Dearer than the edge on the right, the pixel on the left is reached too late to grow.
             const Indices expected = edge < cost ? columnsOf(7, {1}) : columnsOf(7, {1, 2, 3});
-            QCOMPARE(flooded(picture, columnsOf(7, {1}), columnsOf(7, {5}), stripEdges(costs)), expected);
+            QCOMPARE(flooded(picture, columnsOf(7, {1}), columnsOf(7, {5}), rowEdges(costs)), expected);
         }
     }
 }
@@ -298,16 +298,16 @@ void TestFrWatershed::seedsOnTheFrameCountForNothing()
 
 void TestFrWatershed::seedInBothListsIsRemoved()
 {
-    const QImage picture = strip(Bytes(8, 10));
+    const QImage picture = rowPicture(Bytes(8, 10));
     QVERIFY(flooded(picture, columnsOf(8, {3}), columnsOf(8, {3})).isEmpty());
     QCOMPARE(flooded(picture, columnsOf(8, {2, 3}), columnsOf(8, {3})), columnsOf(8, {1, 2}));
 }
 
-void TestFrWatershed::seedsOffThePictureArePassedOver()
+void TestFrWatershed::seedsOffThePictureAreIgnored()
 {
     constexpr int least = std::numeric_limits<int>::min();
     constexpr int most = std::numeric_limits<int>::max();
-    const QImage picture = strip(Bytes(8, 10));
+    const QImage picture = rowPicture(Bytes(8, 10));
     const Indices off{least, least + 1, -24, -8, -1, 24, 25, 1000000, most};
     QCOMPARE(flooded(picture, off + columnsOf(8, {3}), off + columnsOf(8, {4})), columnsOf(8, {1, 2, 3}));
     Indices result{5};
@@ -367,8 +367,8 @@ void TestFrWatershed::nothingToDo()
 
 void TestFrWatershed::resultIsAppendedTo()
 {
-    QImage picture = strip(Bytes(8, 10));
-    Bytes edges = stripEdges(Bytes(8, 0));
+    QImage picture = rowPicture(Bytes(8, 10));
+    Bytes edges = rowEdges(Bytes(8, 0));
     Indices keep = columnsOf(8, {3});
     Indices remove = columnsOf(8, {4});
     Indices result{99};

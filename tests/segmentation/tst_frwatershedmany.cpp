@@ -14,8 +14,8 @@
 
 using testsupport::columnsOf;
 using testsupport::described;
-using testsupport::strip;
-using testsupport::stripEdges;
+using testsupport::rowEdges;
+using testsupport::rowPicture;
 
 namespace {
 
@@ -69,7 +69,7 @@ Seeds randomSeeds(QSize size, int regions, int each, std::uint32_t seed)
     return seeds;
 }
 
-std::vector<int> stripSeeds(int width, const Indices &columns)
+std::vector<int> rowSeeds(int width, const Indices &columns)
 {
     const Indices indices = columnsOf(width, columns);
     return {indices.begin(), indices.end()};
@@ -105,7 +105,7 @@ private slots:
     void threeRegionsLeaveALineBetweenThem();
     void laterListWinsASharedPixel();
     void emptyListMakesAnEmptyRegion();
-    void seedsOffThePictureArePassedOver();
+    void seedsOffThePictureAreIgnored();
     void resultHoldsListsAlready();
     void resultWithoutItsFirstList();
     void nothingToDo_data();
@@ -221,7 +221,7 @@ void TestFrWatershedMany::edgeCostsTheMostWhateverItsStrength()
 void TestFrWatershedMany::edgeAllOverGrowsEvenly()
 {
     const Bytes edges = testpictures::constantPlane(9, 3, 1);
-    QCOMPARE(flooded(testpictures::randomImage(9, 3, 5), {stripSeeds(9, {1}), stripSeeds(9, {7})}, edges),
+    QCOMPARE(flooded(testpictures::randomImage(9, 3, 5), {rowSeeds(9, {1}), rowSeeds(9, {7})}, edges),
              Regions({{}, columnsOf(9, {1, 2, 3}), columnsOf(9, {5, 6, 7})}));
     const QSize size(40, 30);
     const Seeds seeds = randomSeeds(size, 4, 1, 6);
@@ -233,8 +233,8 @@ void TestFrWatershedMany::edgeComesAfterEveryColour()
 {
     // The weak edge behind the left seed costs more than any colour on the right.
     const Bytes costs{0, 0, 1, 0, 0, 0, 0, 0, 0};
-    const QImage picture = strip({9, 9, 9, 9, 200, 30, 180, 5, 5});
-    QCOMPARE(flooded(picture, {stripSeeds(9, {1}), stripSeeds(9, {7})}, stripEdges(costs)),
+    const QImage picture = rowPicture({9, 9, 9, 9, 200, 30, 180, 5, 5});
+    QCOMPARE(flooded(picture, {rowSeeds(9, {1}), rowSeeds(9, {7})}, rowEdges(costs)),
              Regions({{}, columnsOf(9, {1}), columnsOf(9, {3, 4, 5, 6, 7})}));
 }
 
@@ -261,32 +261,31 @@ void TestFrWatershedMany::threeRegionsLeaveALineBetweenThem()
 
 void TestFrWatershedMany::laterListWinsASharedPixel()
 {
-    const QImage picture = strip(Bytes(8, 10));
-    QCOMPARE(flooded(picture, {stripSeeds(8, {2, 3}), stripSeeds(8, {3}), stripSeeds(8, {4, 4})}),
+    const QImage picture = rowPicture(Bytes(8, 10));
+    QCOMPARE(flooded(picture, {rowSeeds(8, {2, 3}), rowSeeds(8, {3}), rowSeeds(8, {4, 4})}),
              Regions({{}, columnsOf(8, {1, 2}), columnsOf(8, {3}), columnsOf(8, {4, 5, 6})}));
 }
 
 void TestFrWatershedMany::emptyListMakesAnEmptyRegion()
 {
-    const QImage picture = strip(Bytes(6, 10));
-    QCOMPARE(flooded(picture, {{}, stripSeeds(6, {2}), {}}),
-             Regions({{}, {}, columnsOf(6, {1, 2, 3, 4}), {}}));
+    const QImage picture = rowPicture(Bytes(6, 10));
+    QCOMPARE(flooded(picture, {{}, rowSeeds(6, {2}), {}}), Regions({{}, {}, columnsOf(6, {1, 2, 3, 4}), {}}));
 }
 
-void TestFrWatershedMany::seedsOffThePictureArePassedOver()
+void TestFrWatershedMany::seedsOffThePictureAreIgnored()
 {
     constexpr int least = std::numeric_limits<int>::min();
     constexpr int most = std::numeric_limits<int>::max();
-    const QImage picture = strip(Bytes(6, 10));
+    const QImage picture = rowPicture(Bytes(6, 10));
     QCOMPARE(flooded(picture, {{least, -1, -6, 18, 19, most, 8}, {0, 5, 17}}),
              Regions({{}, columnsOf(6, {1, 2, 3, 4}), {}}));
 }
 
 void TestFrWatershedMany::resultHoldsListsAlready()
 {
-    const QImage picture = strip(Bytes(8, 10));
-    const Seeds seeds{stripSeeds(8, {3}), stripSeeds(8, {4})};
-    const Bytes edges = stripEdges(Bytes(8, 0));
+    const QImage picture = rowPicture(Bytes(8, 10));
+    const Seeds seeds{rowSeeds(8, {3}), rowSeeds(8, {4})};
+    const Bytes edges = rowEdges(Bytes(8, 0));
     const Regions onEntry{{70, 71}, {80}, {}};
     const QByteArray words = complaint(picture, seeds, edges, onEntry);
     QVERIFY2(words.isEmpty(), words.constData());
@@ -305,7 +304,7 @@ void TestFrWatershedMany::resultWithoutItsFirstList()
 #else
     // There is no place for the last region then.
     const QByteArray words =
-        complaint(strip(Bytes(8, 10)), {stripSeeds(8, {3}), stripSeeds(8, {4})}, stripEdges(Bytes(8, 0)), {});
+        complaint(rowPicture(Bytes(8, 10)), {rowSeeds(8, {3}), rowSeeds(8, {4})}, rowEdges(Bytes(8, 0)), {});
     QVERIFY2(words.isEmpty(), words.constData());
 #endif
 }

@@ -21,13 +21,18 @@ public:
     void press(QPoint position, Qt::MouseButton button = Qt::LeftButton)
     {
         m_held |= button;
-        send(QEvent::MouseButtonPress, position, button);
+        send(QEvent::MouseButtonPress, position, button, m_held);
     }
-    void move(QPoint position) { send(QEvent::MouseMove, position, Qt::NoButton); }
+    void move(QPoint position) { move(position, m_held); }
+    /// With these buttons held, whatever was pressed before: a release may have gone to another window.
+    void move(QPoint position, Qt::MouseButtons held)
+    {
+        send(QEvent::MouseMove, position, Qt::NoButton, held);
+    }
     void release(QPoint position, Qt::MouseButton button = Qt::LeftButton)
     {
         m_held &= ~Qt::MouseButtons(button);
-        send(QEvent::MouseButtonRelease, position, button);
+        send(QEvent::MouseButtonRelease, position, button, m_held);
     }
     void click(QPoint position)
     {
@@ -42,12 +47,20 @@ public:
             move(position);
         release(positions.last());
     }
+    /// The same over points of the scene.
+    void draw(const QList<QPointF> &points)
+    {
+        QList<QPoint> positions;
+        for (const QPointF &point : points)
+            positions << m_view.mapFromScene(point);
+        stroke(positions);
+    }
 
 private:
-    void send(QEvent::Type type, QPoint position, Qt::MouseButton button)
+    void send(QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons held)
     {
         QMouseEvent event(type, QPointF(position), QPointF(m_view.viewport()->mapToGlobal(position)), button,
-                          m_held, Qt::NoModifier);
+                          held, Qt::NoModifier);
         QSpontaneKeyEvent::setSpontaneous(&event);
         qApp->notify(m_view.viewport(), &event);
     }

@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTest>
 #include <QWidget>
 
 namespace testsupport {
@@ -15,6 +18,12 @@ template <typename Widget> Widget &part(const QWidget &dialog, const char *name)
     if (found == nullptr)
         qFatal("the dialog has no %s", name);
     return *found;
+}
+
+/// Clicks one of a dialog's standard buttons.
+inline void press(const QWidget &dialog, QDialogButtonBox::StandardButton which)
+{
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(which), Qt::LeftButton);
 }
 
 } // namespace testsupport

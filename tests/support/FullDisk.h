@@ -10,6 +10,8 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
+namespace testsupport {
+
 /// While it lives, leaks are not counted: Qt's PNG writer loses its list of rows when it can't write.
 struct UncountedLeaks
 {
@@ -50,7 +52,9 @@ public:
     FullDisk &operator=(const FullDisk &) = delete;
 
 private:
-    UncountedLeaks m_uncounted;
+    [[maybe_unused]] UncountedLeaks m_uncounted; // only a leak checker has a use for it
     rlimit m_before{};
     void (*m_signal)(int) = nullptr;
 };
+
+} // namespace testsupport

@@ -6,7 +6,18 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <cstdio>
+
 namespace testsupport {
+
+/// For programs that provoke faults by the hundred, each of which Qt reports.
+inline void printFatalMessagesOnly()
+{
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+        if (type == QtFatalMsg)
+            fprintf(stderr, "%s\n", qPrintable(text));
+    });
+}
 
 /// Collects what goes to the warning channel while it lives, instead of printing it.
 class MessageLog

@@ -25,4 +25,12 @@ inline void usePlainDesktop()
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }
 
+/// To be called before the application object is made. No window comes up on the screen unless
+/// QT_QPA_PLATFORM names one.
+inline void stayOffscreen()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 } // namespace testsupport

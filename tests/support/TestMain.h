@@ -4,33 +4,21 @@
 #pragma once
 
 #include "tests/support/PlainDesktop.h"
+#include "tests/support/Sandbox.h"
 
 #include <QApplication>
-#include <QSettings>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace testsupport {
 
-/// Runs a test object in a world of its own: its settings and temporary files go to a folder that is removed
-/// at the end, and never to the user's own. Offscreen unless QT_QPA_PLATFORM names another platform.
+/// Runs a test object in a sandbox, off the screen unless QT_QPA_PLATFORM names a platform.
 template <typename TestObject> int runTest(int argc, char *argv[])
 {
-    QTemporaryDir world;
-    if (!world.isValid())
-        return 1;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QDir(world.path()).mkpath("config");
-    QDir(world.path()).mkpath("tmp");
-    qputenv("TMPDIR", world.filePath("tmp").toLocal8Bit());
-    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
-        QSettings::setPath(format, QSettings::UserScope, world.filePath("config"));
+    const Sandbox sandbox;
+    stayOffscreen();
     usePlainDesktop();
     QApplication application(argc, argv);
-    QApplication::setApplicationName("Ornevo Pro 2.7 for Mac OS X");
-    QApplication::setOrganizationName("Tirelo software");
     TestObject test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -3,89 +3,17 @@
 
 #pragma once
 
-#include "tests/support/Activation.h"
-#include "tests/support/ModalDialog.h"
+#include "tests/support/CanvasMouse.h"
+#include "tests/support/DialogAnswers.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QFileDialog>
-#include <QGraphicsView>
-#include <QLineEdit>
 #include <QMainWindow>
-#include <QMouseEvent>
-#include <QPointer>
 #include <QStatusBar>
-#include <QTest>
-#include <QTimer>
 
-#include <functional>
+/// \file
+/// What a user does with a main window and reads off it.
 
-/// Hands that use a window as a user would: mouse and keys on its widgets, answers to its modal dialogs.
-namespace driver {
-
-/// Answers the next modal dialogs, one after the other, while a slot waits for them in an event loop of its
-/// own.
-class DialogAnswers
-{
-public:
-    using Answer = std::function<void(QWidget *)>;
-
-    explicit DialogAnswers(QList<Answer> answers) : m_answers(std::move(answers))
-    {
-        m_age.start();
-        lookSoon();
-    }
-    explicit DialogAnswers(Answer answer) : DialogAnswers(QList<Answer>{std::move(answer)}) {}
-
-    /// How many dialogs were answered.
-    [[nodiscard]] int given() const { return m_given; }
-
-private:
-    // Not a repeating timer: its time would not come again while an answer waits for the next dialog.
-    void lookSoon()
-    {
-        QTimer::singleShot(2, &m_life, [this] { look(); });
-    }
-
-    void look()
-    {
-        lookSoon();
-        QWidget *dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr)
-            return;
-        const bool unexpected = m_given == m_answers.size() && !m_seen.contains(dialog);
-        if (unexpected || m_age.elapsed() > 10000) {
-            dialog->close(); // do not wait for ever
-            return;
-        }
-        if (m_seen.contains(dialog) || !testsupport::takesKeys(*dialog))
-            return;
-        m_seen.append(dialog);
-        const Answer answer = m_answers.at(m_given++);
-        answer(dialog); // may open another dialog, which is then looked for from in here
-    }
-
-    QList<Answer> m_answers;
-    QObject m_life;
-    QElapsedTimer m_age;
-    QList<QPointer<QWidget>> m_seen;
-    int m_given = 0;
-};
-
-/// Types a file's name into the toolkit's file dialog and presses Return.
-inline void typeFileName(QWidget *dialog, const QString &path)
-{
-    auto *line = dialog->findChild<QLineEdit *>("fileNameEdit");
-    QVERIFY(line != nullptr);
-    line->setText(path);
-    QTest::keyClick(line, Qt::Key_Return);
-}
-
-inline void pressEscape(QWidget *dialog)
-{
-    QTest::keyClick(dialog, Qt::Key_Escape);
-}
+namespace testsupport {
 
 inline QAction *action(const QMainWindow &window, const QString &name)
 {
@@ -105,7 +33,7 @@ inline QString status(const QMainWindow &window)
     return window.findChild<QStatusBar *>("statusBar")->currentMessage();
 }
 
-/// Lets the layouts and whatever else is due come to rest: a hidden progress bar gives its room to the
+/// Lets the layouts and whatever else is due come to rest: a hidden progress bar leaves its place to the
 /// canvas.
 inline void settle()
 {
@@ -120,8 +48,9 @@ inline void show(QMainWindow &window, QSize size = {640, 560})
 {
     window.resize(size);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    testsupport::activate(window);
+    if (!QTest::qWaitForWindowExposed(&window))
+        qFatal("the window does not come up");
+    activate(window);
     canvas(window)->setFocus();
     settle();
 }
@@ -129,16 +58,17 @@ inline void show(QMainWindow &window, QSize size = {640, 560})
 /// Opens a picture through the menu's action and the file dialog.
 inline void openPhoto(QMainWindow &window, const QString &path)
 {
-    DialogAnswers answers([&path](QWidget *dialog) { typeFileName(dialog, path); });
+    DialogAnswers answers;
+    answers.chooseFile(path);
     action(window, "actionOpen")->trigger();
-    QCOMPARE(answers.given(), 1);
+    QVERIFY2(answers.allGiven(), qPrintable(answers.report()));
     settle();
 }
 
 /// Presses a key with the canvas in front.
 inline void key(QMainWindow &window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
 {
-    testsupport::activate(window);
+    activate(window);
     canvas(window)->setFocus();
     QTest::keyClick(canvas(window), key, modifiers);
 }
@@ -150,32 +80,9 @@ inline void key(QMainWindow &window, QKeySequence::StandardKey standard)
     key(window, keys.key(), keys.keyboardModifiers());
 }
 
-inline void press(QGraphicsView &view, QPoint position, Qt::MouseButton button = Qt::LeftButton)
+inline void pressEscape(QWidget &dialog)
 {
-    QTest::mousePress(view.viewport(), button, {}, position);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
 }
 
-inline void release(QGraphicsView &view, QPoint position, Qt::MouseButton button = Qt::LeftButton)
-{
-    QTest::mouseRelease(view.viewport(), button, {}, position);
-}
-
-/// A move of the pointer, sent at once: the X server would deliver moves of its own when it likes, and merge
-/// them.
-inline void move(QGraphicsView &view, QPoint position, Qt::MouseButtons held = {})
-{
-    QMouseEvent event(QEvent::MouseMove, position, view.viewport()->mapToGlobal(position), Qt::NoButton, held,
-                      {});
-    QApplication::sendEvent(view.viewport(), &event);
-}
-
-/// Press, moves and release over these points of the scene.
-inline void stroke(QGraphicsView &view, const QList<QPointF> &points)
-{
-    press(view, view.mapFromScene(points.first()));
-    for (const QPointF &point : points)
-        move(view, view.mapFromScene(point), Qt::LeftButton);
-    release(view, view.mapFromScene(points.last()));
-}
-
-} // namespace driver
+} // namespace testsupport

@@ -3,45 +3,24 @@
 
 #pragma once
 
-#include "canvas/ZelGraphicsView.h"
-#include "tests/support/Activation.h"
-#include "tests/support/CanvasMouse.h"
-#include "tests/support/MainWindowProbe.h"
-#include "tests/support/ModalAnswers.h"
-
-#include <QAction>
-#include <QProgressBar>
-#include <QStatusBar>
+#include "tests/support/DialogParts.h"
+#include "tests/support/MainWindowDriver.h"
 
 namespace testsupport {
 
 /// A main window on the screen, with a mouse over its canvas and someone to answer its dialogs.
-class WindowUnderTest
+class WindowUnderTest : public MainWindowDriver
 {
 public:
-    WindowUnderTest() : probe(window), view(*window.findChild<ZelGraphicsView *>("graphicsView")), mouse(view)
+    WindowUnderTest()
     {
-        QObject::connect(window.statusBar(), &QStatusBar::messageChanged, &answers,
+        QObject::connect(window.statusBar(), &QStatusBar::messageChanged, &m_life,
                          [this](const QString &text) { statusTexts << text; });
         window.resize(640, 480);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window))
             qFatal("the window does not come up");
         activate(window); // a bare X server has nobody else to do it, and keys need it
-    }
-
-    [[nodiscard]] QAction &action(const char *name) const
-    {
-        auto *found = window.findChild<QAction *>(name);
-        if (found == nullptr)
-            qFatal("no action %s", name);
-        return *found;
-    }
-    void trigger(const char *name) const { action(name).trigger(); }
-    [[nodiscard]] QString status() const { return window.statusBar()->currentMessage(); }
-    [[nodiscard]] QProgressBar &progressBar() const
-    {
-        return *window.findChild<QProgressBar *>("progressBar");
     }
 
     /// Opens a picture as the user does.
@@ -51,22 +30,11 @@ public:
         trigger("actionOpen");
     }
 
-    /// The point of the viewport that shows the middle of a pixel of the scene.
-    [[nodiscard]] QPoint at(int x, int y) const { return view.mapFromScene(QPointF(x + 0.5, y + 0.5)); }
-
-    /// One click of a marker with a little movement: a dab, wherever the tool lays it.
-    void dab(const char *tool, int x, int y)
-    {
-        action(tool).setChecked(true);
-        mouse.stroke({at(x, y)});
-    }
-
-    MainWindow window;
-    MainWindowProbe probe;
-    ZelGraphicsView &view;
-    CanvasMouse mouse;
-    ModalAnswers answers;
+    DialogAnswers answers;
     QStringList statusTexts;
+
+private:
+    QObject m_life; ///< ends before the others, so that a window on its way out reports to nobody
 };
 
 } // namespace testsupport

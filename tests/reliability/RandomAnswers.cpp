@@ -1,28 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Ornevo developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/reliability/DialogAnswers.h"
+#include "tests/reliability/RandomAnswers.h"
+
+#include "tests/support/FileChooser.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTest>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr int lookEvery = 1; // ms
 constexpr int mostPixelsASide = 300;
 
 /// The one dialog that asks for a width and a height.
@@ -34,22 +30,19 @@ bool asksForSize(const QDialog &dialog)
 
 } // namespace
 
-DialogAnswers::DialogAnswers(testpictures::Random &random) : m_random(random)
+RandomAnswers::RandomAnswers(testpictures::Random &random)
+    : m_random(random), m_watch([this](QDialog *dialog) { look(dialog); })
 {
-    QTimer::singleShot(lookEvery, this, &DialogAnswers::look);
 }
 
-void DialogAnswers::setFiles(const QStringList &toOpen, const QStringList &toSave)
+void RandomAnswers::setFiles(const QStringList &toOpen, const QStringList &toSave)
 {
     m_toOpen = toOpen;
     m_toSave = toSave;
 }
 
-void DialogAnswers::look()
+void RandomAnswers::look(QDialog *dialog)
 {
-    // Armed before anything is answered: an answer can open the next dialog and only then return.
-    QTimer::singleShot(lookEvery, this, &DialogAnswers::look);
-    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
     if (dialog == nullptr)
         return;
     m_seen.removeIf([](const QPointer<QDialog> &seen) { return seen == nullptr; });
@@ -62,7 +55,7 @@ void DialogAnswers::look()
     answer(*dialog);
 }
 
-void DialogAnswers::answer(QDialog &dialog)
+void RandomAnswers::answer(QDialog &dialog)
 {
     const bool accepts = m_random.below(4) != 0;
     if (auto *box = qobject_cast<QMessageBox *>(&dialog)) {
@@ -77,8 +70,7 @@ void DialogAnswers::answer(QDialog &dialog)
             files->reject();
             return;
         }
-        files->findChild<QLineEdit *>("fileNameEdit")->setText(name);
-        QMetaObject::invokeMethod(files, "accept");
+        testsupport::enterFileName(*files, name);
         return;
     }
     if (auto *colours = qobject_cast<QColorDialog *>(&dialog))
@@ -98,7 +90,7 @@ void DialogAnswers::answer(QDialog &dialog)
         accepts ? dialog.accept() : dialog.reject();
 }
 
-void DialogAnswers::pressKeys(QDialog &dialog)
+void RandomAnswers::pressKeys(QDialog &dialog)
 {
     constexpr std::array keys = {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up,   Qt::Key_Down,
                                  Qt::Key_7,   Qt::Key_Delete,  Qt::Key_Home, Qt::Key_PageUp};
@@ -109,7 +101,7 @@ void DialogAnswers::pressKeys(QDialog &dialog)
     }
 }
 
-void DialogAnswers::noteExport(QDialog &dialog)
+void RandomAnswers::noteExport(QDialog &dialog)
 {
     if (!asksForSize(dialog))
         return;
@@ -123,7 +115,7 @@ void DialogAnswers::noteExport(QDialog &dialog)
                      dialog.findChild<QSpinBox *>("spinBox_2")->value()}};
 }
 
-void DialogAnswers::turnKnobs(QDialog &dialog)
+void RandomAnswers::turnKnobs(QDialog &dialog)
 {
     const bool sizes = asksForSize(dialog); // small pictures keep an export short
     for (QSpinBox *box : dialog.findChildren<QSpinBox *>()) {

@@ -4,24 +4,19 @@
 #pragma once
 
 #include "tests/reference/TestPictures.h"
+#include "tests/support/ModalWatch.h"
 
-#include <QObject>
 #include <QPointer>
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
-class QDialog;
-
-/// Sits beside a window and answers every modal dialog that opens: once at random, and if the dialog
-/// will not go, by closing it. The random numbers are drawn once a dialog, whatever the timing, so that a
-/// seed gives the same answers again.
-class DialogAnswers : public QObject
+/// Answers every modal dialog that opens: once at random, and if the dialog will not go, by closing it. The
+/// random numbers are drawn once a dialog, whatever the timing, so that a seed gives the same answers again.
+class RandomAnswers
 {
-    Q_OBJECT
-
 public:
-    explicit DialogAnswers(testpictures::Random &random);
+    explicit RandomAnswers(testpictures::Random &random);
 
     /// Names to choose from when a file is asked for.
     void setFiles(const QStringList &toOpen, const QStringList &toSave);
@@ -37,7 +32,7 @@ public:
     [[nodiscard]] const Export &lastExport() const { return m_lastExport; }
 
 private:
-    void look();
+    void look(QDialog *dialog);
     void answer(QDialog &dialog);
     void turnKnobs(QDialog &dialog);
     void pressKeys(QDialog &dialog);
@@ -50,4 +45,5 @@ private:
     int m_answered = 0;
     Export m_lastExport;
     int m_exports = 0;
+    testsupport::ModalWatch m_watch;
 };
