@@ -100,6 +100,12 @@ ssize_t pwrite64(int file, const void *data, size_t size, off64_t at)
     return mustFail("write") ? -1 : real(file, data, size, at);
 }
 
+ssize_t pread(int file, void *data, size_t size, off_t at)
+{
+    static auto *const real = next(&::pread, "pread");
+    return mustFail("pread") ? -1 : real(file, data, size, at);
+}
+
 int fsync(int file)
 {
     static auto *const real = next(&::fsync, "fsync");

@@ -143,7 +143,7 @@ private slots:
     void overwriting_data()
     {
         QTest::addColumn<QByteArray>("call");
-        for (const char *call : {"fsync", "close", "ftruncate", "posix_fallocate"})
+        for (const char *call : {"fsync", "close", "ftruncate", "posix_fallocate", "pread"})
             QTest::newRow(call) << QByteArray(call);
     }
 
