@@ -258,8 +258,7 @@ void TestBrushTools::secondOfTwoQuickPressesCounts()
     view->SetTool(ToolKeepBrush);
     QSignalSpy spy(view.get(), &ZelGraphicsView::AnyBrush);
     const QPoint position = view->mapFromScene(100, 70);
-    testsupport::CanvasMouse mouse(*view);
-    mouse.click(position);
+    mouse->click(position);
     QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(position),
                        QPointF(view->viewport()->mapToGlobal(position)), Qt::LeftButton, Qt::LeftButton,
                        Qt::NoModifier);
@@ -271,7 +270,7 @@ void TestBrushTools::secondOfTwoQuickPressesCounts()
                      Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(view->viewport(), &move);
     QCOMPARE(spy.size(), 3);
-    mouse.release(position);
+    mouse->release(position);
     QCoreApplication::sendEvent(view->viewport(), &move);
     QCOMPARE(spy.size(), 3);
     view->setScene(nullptr);
@@ -413,7 +412,6 @@ void TestBrushTools::pointerShowsWithoutCircle()
         return view->viewport()->grab(QRect(position - QPoint(10, 10), QSize(21, 21))).toImage();
     };
     scene->setBackgroundBrush(Qt::gray);
-    testsupport::CanvasMouse mouse(*view);
     const QPoint beside = view->mapFromScene(QPointF(-20, 75));
     const QPoint within = view->mapFromScene(QPointF(100, 75));
     const QImage empty = seen(beside);
@@ -421,19 +419,19 @@ void TestBrushTools::pointerShowsWithoutCircle()
         setBrushSizes(10);
         view->SetTool(brush);
         QCOMPARE(seen(beside), empty);
-        mouse.move(beside);
+        mouse->move(beside);
         QVERIFY(outline() == nullptr);
         QVERIFY(seen(beside) != empty);
         QCOMPARE(view->viewport()->cursor().shape(), Qt::BlankCursor);
-        mouse.move(within);
+        mouse->move(within);
         QVERIFY(outline() != nullptr);
         QCOMPARE(seen(beside), empty);
-        mouse.move(beside);
+        mouse->move(beside);
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(view.get(), &leave);
         QCOMPARE(seen(beside), empty);
         setBrushSizes(1);
-        mouse.move(within);
+        mouse->move(within);
         QVERIFY(outline() == nullptr);
         QVERIFY(seen(within) != empty);
         view->SetTool(ToolHand);
@@ -470,9 +468,8 @@ void TestBrushTools::moveWithoutAButtonEndsTheStroke()
     zoomTo(1.0);
     QSignalSpy brush(view.get(), &ZelGraphicsView::AnyBrush);
     view->SetTool(ToolKeepBrush);
-    testsupport::CanvasMouse mouse(*view);
-    mouse.press(view->mapFromScene(60, 40));
-    mouse.move(view->mapFromScene(62, 40));
+    mouse->press(view->mapFromScene(60, 40));
+    mouse->move(view->mapFromScene(62, 40));
     QCOMPARE(brush.size(), 2);
     testsupport::CanvasMouse released(*view); // knows of no button
     released.move(view->mapFromScene(70, 40));

@@ -252,17 +252,17 @@ private slots:
             for (int i = 0; i < 5; ++i)
                 QMetaObject::invokeMethod(&user.window, "on_HandToolPressed",
                                           Q_ARG(QPoint, QPoint(-far, -far)), Q_ARG(QPoint, QPoint(far, far)));
-            const QImage before = user.probe().previewImage().copy();
-            const int commands = user.probe().undoStack().index();
+            const QImage before = user.probe.previewImage().copy();
+            const int commands = user.probe.undoStack().index();
             user.brush(QRect(5, 5, 20, 20)); // the cut-out can still be worked on
-            QCOMPARE(user.probe().undoStack().index(), commands + 1);
-            user.probe().undoStack().undo();
-            QCOMPARE(user.probe().previewImage(), before);
+            QCOMPARE(user.probe.undoStack().index(), commands + 1);
+            user.probe.undoStack().undo();
+            QCOMPARE(user.probe.previewImage(), before);
         }
         user.open(path);
         QCOMPARE(user.status(), "Ready");
-        QCOMPARE(user.probe().workingImage(), QImage(path).convertToFormat(QImage::Format_RGB32));
-        QCOMPARE(user.probe().imageScene().items().size(), 1);
+        QCOMPARE(user.probe.workingImage(), QImage(path).convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(user.probe.imageScene().items().size(), 1);
     }
 
     /// Four hundred million pixels of one bit take no more than they have to, or are declined.
