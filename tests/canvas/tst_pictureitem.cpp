@@ -82,6 +82,18 @@ struct ShownPicture
     canvas::PictureItem *item = nullptr;
 };
 
+class CountedPicture : public canvas::PictureItem
+{
+public:
+    using PictureItem::PictureItem;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override
+    {
+        ++paintings;
+        PictureItem::paint(painter, option, widget);
+    }
+    int paintings = 0;
+};
+
 /// The upper left part of the view of a photo.
 QImage shownAlone(const QImage &photo, qreal scale, QSize size)
 {
@@ -116,6 +128,8 @@ class TestPictureItem : public QObject
     Q_OBJECT
 
 private slots:
+    void backgroundIsPaintedOnce_data();
+    void backgroundIsPaintedOnce();
     void mipmapPixelsAreMeans_data()
     {
         QTest::addColumn<int>("factor");
@@ -267,6 +281,43 @@ private slots:
         QTRY_COMPARE(shown.onScreen(), shown.expected());
     }
 };
+
+void TestPictureItem::backgroundIsPaintedOnce_data()
+{
+    QTest::addColumn<bool>("kept");
+    QTest::addColumn<qreal>("scale");
+    for (const qreal scale : {0.2, 0.7, 1.0, 3.0}) {
+        QTest::addRow("kept, %.1f", scale) << true << scale;
+        QTest::addRow("not kept, %.1f", scale) << false << scale;
+    }
+}
+
+/// What lies under a picture that changes is painted once, if it was told to keep that; and looks the same.
+void TestPictureItem::backgroundIsPaintedOnce()
+{
+    QFETCH(bool, kept);
+    QFETCH(qreal, scale);
+    ShownPicture shown(scale);
+    auto *behind = new CountedPicture(QPixmap::fromImage(testpictures::randomImage(900, 700, 9)));
+    behind->setZValue(-1);
+    if (kept)
+        behind->keepPainted();
+    shown.scene.addItem(behind);
+    delete shown.scene.items(Qt::AscendingOrder).at(1); // the one that covers it
+    QVERIFY(shown.waitUntilShown());
+    const int before = behind->paintings;
+    for (int i = 0; i < 5; ++i) {
+        shown.whiten(QRect(40 * i, 30, 30, 30));
+        shown.item->renew(shown.image, QRect(40 * i, 30, 30, 30));
+        shown.scene.update();
+        QVERIFY(QTest::qWaitFor([&shown] { return !shown.painted.take().isEmpty(); }));
+    }
+    if (kept)
+        QCOMPARE(behind->paintings, before);
+    else
+        QCOMPARE(behind->paintings, before + 5);
+    QCOMPARE(shown.onScreen(), shown.expected());
+}
 
 ORNEVO_TEST_MAIN(TestPictureItem)
 #include "tst_pictureitem.moc"
