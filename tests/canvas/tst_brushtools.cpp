@@ -8,6 +8,8 @@
 
 #include <QDialog>
 #include <QGraphicsEllipseItem>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QtMath>
 
@@ -35,6 +37,7 @@ private slots:
     void circleShowsOnEveryPicture_data();
     void circleShowsOnEveryPicture();
     void pointerShowsWithoutCircle();
+    void pointerMarkStaysWhenScrolling();
     void removeBrushRepaintsTheScene();
     void dialogEndsTheStroke();
     void moveWithoutAButtonEndsTheStroke();
@@ -436,6 +439,41 @@ void TestBrushTools::pointerShowsWithoutCircle()
         QVERIFY(seen(within) != empty);
         view->SetTool(ToolHand);
         QCOMPARE(seen(within), empty);
+    }
+}
+
+/// Scrolling moves what was painted, and the pointer stays where it is.
+void TestBrushTools::pointerMarkStaysWhenScrolling()
+{
+    view->SetTool(ToolKeepBrush);
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    view->scale(8, 8);
+    setBrushSizes(1); // no circle: the cross shows where the pointer is
+    const QPoint middle = view->viewport()->rect().center();
+    const auto onScreen = [this] {
+        const QPoint corner = view->viewport()->mapTo(view.get(), QPoint());
+        const QSize size = view->viewport()->size();
+        return view->screen()
+            ->grabWindow(view->winId(), corner.x(), corner.y(), size.width(), size.height())
+            .toImage()
+            .convertToFormat(QImage::Format_RGB32);
+    };
+    const auto wanted = [this] {
+        return view->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        view->setLayoutDirection(direction);
+        mouse->move(middle + QPoint(3, 0));
+        mouse->move(middle);
+        QTRY_COMPARE(onScreen(), wanted());
+        view->verticalScrollBar()->setValue(view->verticalScrollBar()->value() + 30);
+        QTRY_COMPARE(onScreen(), wanted());
+        view->horizontalScrollBar()->setValue(view->horizontalScrollBar()->value() - 7);
+        QTRY_COMPARE(onScreen(), wanted());
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(view.get(), &leave);
+        QTRY_COMPARE(onScreen(), wanted());
     }
 }
 
