@@ -17,14 +17,15 @@ namespace canvas {
 
 /// A marker dab that is never painted smaller than a few pixels of the view. The dabs of a common size are
 /// less than one where a large photo is shown as a whole, and nobody would see what is marked. To those who
-/// read the scene, and to the eraser, it is a plain item of its own size.
+/// read the scene, and to the eraser, it is a plain item of its own size. One of no size marks nothing, and
+/// does not grow.
 template <typename Shape> class DabItem : public Shape
 {
 public:
     /// `viewPixel` is the side of a pixel of the view in pixels of the scene. In a view that is reduced
     /// further later on, the dab becomes smaller.
     DabItem(const QRectF &square, QRgb colour, qreal viewPixel)
-        : Shape(square), m_reach(std::max(0.0, growth(square.width(), viewPixel)))
+        : Shape(square), m_reach(square.isEmpty() ? 0.0 : std::max(0.0, growth(square.width(), viewPixel)))
     {
         Shape::setPen(QPen(QColor(colour)));
         Shape::setBrush(QBrush(QColor(colour)));

@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QPixmap>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QToolBar>
 
@@ -46,7 +47,16 @@ void Driver::clickMenu(const QString &menuName, const QString &actionName)
     QMenuBar *bar = m_window.menuBar();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
     expect(QTest::qWaitForWindowExposed(menu), menuName + " did not open");
-    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    // A menu takes a click for one entry only once the pointer has come to it, and may act on it a little
+    // later.
+    const QPoint entry = menu->actionGeometry(action).center();
+    QTest::mouseMove(menu, entry + QPoint(1, 0));
+    QTest::mouseMove(menu, entry);
+    expect(QTest::qWaitFor([=] { return menu->activeAction() == action; }),
+           actionName + " can't be pointed at");
+    const QSignalSpy triggered(action, &QAction::triggered);
+    QTest::mouseClick(menu, Qt::LeftButton, {}, entry);
+    expect(QTest::qWaitFor([&] { return !triggered.isEmpty(); }), actionName + " was not triggered");
     testsupport::settle();
 }
 

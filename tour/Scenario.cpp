@@ -316,7 +316,7 @@ void Scenario::readHelp()
 {
     m_driver.clickMenu("menuHelp", "actionIndex");
     QWidget *help = m_window.findChild<QWidget *>("HelpDialog");
-    expect(help != nullptr && help->isVisible(), "the help did not open");
+    expect(help != nullptr && QTest::qWaitForWindowExposed(help), "the help did not open");
     m_driver.picture("help", *help);
     help->close();
     m_driver.withDialog(

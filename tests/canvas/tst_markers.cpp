@@ -91,6 +91,8 @@ private slots:
     void everyMoveLaysOneDab();
     void dabsShowOnLargePhotos_data();
     void dabsShowOnLargePhotos();
+    void dabsOfNoSizeDoNotGrow_data();
+    void dabsOfNoSizeDoNotGrow();
     void blueDab();
     void blueDabAtTheEdge();
     void blueDabOpacity_data();
@@ -263,6 +265,26 @@ void TestMarkers::everyMoveLaysOneDab()
     canvas.mouse.stroke({QPoint(10, 10), QPoint(90, 10), QPoint(90, 90), QPoint(300, 90), QPoint(20, 90)});
     QCOMPARE(canvas.count(QGraphicsEllipseItem::Type), 4);
     QCOMPARE(canvas.stack.count(), 4);
+}
+
+void TestMarkers::dabsOfNoSizeDoNotGrow_data()
+{
+    dabsShowOnLargePhotos_data();
+}
+
+/// They mark no pixel, and an ellipse of no size says nothing of where it is to be painted.
+void TestMarkers::dabsOfNoSizeDoNotGrow()
+{
+    QFETCH(DrawingTools, tool);
+    Canvas c;
+    c.set("KEEPMSIZE", 0);
+    c.set("REMOVEMSIZE", 0);
+    c.view.scale(0.5, 0.5);
+    c.view.SetTool(tool);
+    c.mouse.stroke({c.view.mapFromScene(40, 30), c.view.mapFromScene(60, 30)});
+    QVERIFY(!c.scene.items().isEmpty());
+    for (const QGraphicsItem *dab : c.scene.items())
+        QVERIFY(dab->boundingRect().width() <= 1.0);
 }
 
 void TestMarkers::dabsShowOnLargePhotos_data()

@@ -193,9 +193,13 @@ QPixmap exportComposition(const ExportSource &source, int W, int H)
                                                      Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (canvas.isNull())
         return canvas;
+    const double left = source.previewOffset.x() * sx;
+    const double top = source.previewOffset.y() * sy;
+    const double farthest = 1e9; // off every canvas, and still an int
+    if (left < -farthest || left > farthest || top < -farthest || top > farthest)
+        return canvas;
     QPainter painter(&canvas);
-    painter.drawImage(static_cast<int>(source.previewOffset.x() * sx),
-                      static_cast<int>(source.previewOffset.y() * sy), object);
+    painter.drawImage(static_cast<int>(left), static_cast<int>(top), object);
     painter.end();
     return canvas;
 }

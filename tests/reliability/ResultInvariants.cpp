@@ -395,6 +395,8 @@ QString ResultInvariants::staleScreen()
     const QImage before = shown();
     if (QGraphicsPixmapItem *item = m_probe.previewItem(); item != nullptr)
         item->setPixmap(item->pixmap().copy()); // with it go the mipmap levels that were kept in step
+    if (QGraphicsPixmapItem *item = m_probe.backgroundItem(); item != nullptr)
+        item->update(); // with it goes what was kept of its painting
     viewport->update();
     QCoreApplication::processEvents();
     const QImage after = shown();
