@@ -387,9 +387,9 @@ void TestExport::noSettingsOfTheDialogAreLost()
 void TestExport::widthOfZero()
 {
     QSettings settings;
-    for (const auto &[height, following] : {std::pair(0, 0), std::pair(7, 9999)}) {
-        ExportDialog dialog(0, height, &settings, nullptr);
-        QCOMPARE(part<QSpinBox>(dialog, "spinBox_2").value(), height);
+    for (const auto &[start, following] : {std::pair(0, 0), std::pair(7, 9999)}) {
+        ExportDialog dialog(0, start, &settings, nullptr);
+        QCOMPARE(part<QSpinBox>(dialog, "spinBox_2").value(), start);
         part<QSpinBox>(dialog, "spinBox").setValue(3);
         QCOMPARE(part<QSpinBox>(dialog, "spinBox_2").value(), following);
     }
