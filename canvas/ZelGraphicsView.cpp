@@ -95,21 +95,24 @@ void ZelGraphicsView::updateellipse(int size)
 
 void ZelGraphicsView::mousePressEvent(QMouseEvent *event)
 {
-    mousePressed = true;
-    if (scene() == nullptr)
-        return;
-    handle(rowOf(currentTool).press, event);
-    QGraphicsView::mousePressEvent(event);
+    if (pressTool(event))
+        QGraphicsView::mousePressEvent(event);
 }
 
 void ZelGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     // The second of two quick presses comes as this and as nothing else; a stroke may begin with it as well.
+    if (pressTool(event))
+        QGraphicsView::mouseDoubleClickEvent(event);
+}
+
+bool ZelGraphicsView::pressTool(QMouseEvent *event)
+{
     mousePressed = true;
     if (scene() == nullptr)
-        return;
+        return false;
     handle(rowOf(currentTool).press, event);
-    QGraphicsView::mouseDoubleClickEvent(event);
+    return true;
 }
 
 void ZelGraphicsView::mouseMoveEvent(QMouseEvent *event)

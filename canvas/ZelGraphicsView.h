@@ -105,6 +105,7 @@ private:
     };
     [[nodiscard]] static Tool rowOf(DrawingTools tool);
     void handle(MouseHandler handler, QMouseEvent *event);
+    bool pressTool(QMouseEvent *event);
     [[nodiscard]] QCursor cursorOf(DrawingTools tool) const;
 
     void readSizes();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QTest>
+
 #include <algorithm>
 #include <cstdlib>
 #include <vector>
@@ -10,6 +12,14 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
+
+/// Begins a test that uses ShortMemory. The address sanitizer reserves terabytes of address space at the
+/// start, so that no limit can be set under it; these tests run without it.
+#ifdef ORNEVO_ADDRESS_SANITIZER
+#define SKIP_UNLESS_MEMORY_CAN_BE_SHORT() QSKIP("the address sanitizer needs an address space without limit")
+#else
+#define SKIP_UNLESS_MEMORY_CAN_BE_SHORT() static_cast<void>(0)
+#endif
 
 /// While it lives, the process gets some more memory and no more.
 class ShortMemory

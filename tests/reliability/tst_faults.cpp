@@ -21,19 +21,6 @@
 
 using testsupport::contentsOf;
 
-namespace {
-
-bool hasSanitizer()
-{
-#ifdef ORNEVO_ADDRESS_SANITIZER
-    return true;
-#else
-    return false;
-#endif
-}
-
-} // namespace
-
 /// What can happen to the program from outside: disks that are full, folders that go, files that change.
 /// No file of the user's may be lost, nothing half written may stay under a name that was asked for, and the
 /// program goes on.
@@ -272,8 +259,7 @@ private slots:
     void pictureLargerThanMemory()
     {
         QFETCH(int, mebibytes);
-        if (hasSanitizer())
-            QSKIP("the address sanitizer needs an address space without limit");
+        SKIP_UNLESS_MEMORY_CAN_BE_SHORT();
         const QString path = file("large.bmp");
         testsupport::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
         // Qt converts large pictures in threads and waits for ever for one that has no memory for its stack;
@@ -313,11 +299,8 @@ private slots:
     void previewLargerThanMemory()
     {
         QFETCH(int, mebibytes);
-        if (hasSanitizer())
-            QSKIP("the address sanitizer needs an address space without limit");
-        const QString path = file("large.bmp");
-        testsupport::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
-        m_user->open(path);
+        SKIP_UNLESS_MEMORY_CAN_BE_SHORT();
+        openLargePicture();
         QCOMPARE(m_user->status(), "Ready");
         {
             const ShortMemory memory(static_cast<rlim_t>(mebibytes) << 20);
@@ -333,11 +316,8 @@ private slots:
     void backgroundAfterAShortPreview()
     {
         QFETCH(int, mebibytes);
-        if (hasSanitizer())
-            QSKIP("the address sanitizer needs an address space without limit");
-        const QString path = file("large.bmp");
-        testsupport::put(path, picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
-        m_user->open(path);
+        SKIP_UNLESS_MEMORY_CAN_BE_SHORT();
+        openLargePicture();
         m_user->layDabs();
         m_user->preview(true);
         const QImage whole = m_user->probe.previewImage();
@@ -360,8 +340,7 @@ private slots:
     /// for neither.
     void edgesLargerThanMemory()
     {
-        if (hasSanitizer())
-            QSKIP("the address sanitizer needs an address space without limit");
+        SKIP_UNLESS_MEMORY_CAN_BE_SHORT();
         const QImage wide = picture(65536, 16);
         testsupport::put(file("wide.bmp"), picturefiles::encoded(wide, "bmp"));
         QStringList said;
@@ -384,8 +363,7 @@ private slots:
     /// A picture that is nothing but width takes no more memory for its edges than another.
     void nothingButWidth()
     {
-        if (hasSanitizer())
-            QSKIP("the address sanitizer needs an address space without limit");
+        SKIP_UNLESS_MEMORY_CAN_BE_SHORT();
         testsupport::put(file("wide.bmp"), picturefiles::encoded(picture(10'000'000, 4), "bmp"));
         {
             const ShortMemory memory(rlim_t{400} << 20); // 160 MiB of pixels, 40 of edges
@@ -404,6 +382,13 @@ private:
         for (int y = 0; y < height; ++y)
             std::fill_n(mono.scanLine(y), mono.bytesPerLine(), static_cast<uchar>(0x0F * (1 + y)));
         return mono;
+    }
+
+    void openLargePicture()
+    {
+        testsupport::put(file("large.bmp"),
+                         picturefiles::encoded(testpictures::rampImage(2048, 2048, 3), "bmp"));
+        m_user->open(file("large.bmp"));
     }
 
     [[nodiscard]] QString file(const QString &name) const

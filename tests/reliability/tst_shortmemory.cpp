@@ -24,9 +24,7 @@ class TestShortMemory : public QObject
 private slots:
     void initTestCase()
     {
-#ifdef ORNEVO_ADDRESS_SANITIZER
-        QSKIP("the address sanitizer needs an address space without limit");
-#endif
+        SKIP_UNLESS_MEMORY_CAN_BE_SHORT();
         testsupport::printFatalMessagesOnly();
         m_photo = m_folder.filePath("photo.bmp");
         testsupport::put(m_photo, picturefiles::encoded(testpictures::rampImage(4000, 3000, 3), "bmp"));
